@@ -14,7 +14,13 @@ struct Data {
     int mese = 0;
     int anno = 0;
 
-    auto operator<=>(const Data&) const = default;
+    bool operator==(const Data&) const = default;
+    // Calendar order: year, then month, then day.
+    std::strong_ordering operator<=>(const Data& o) const {
+        if (anno != o.anno) return anno <=> o.anno;
+        if (mese != o.mese) return mese <=> o.mese;
+        return giorno <=> o.giorno;
+    }
 
     // "dd/mm/yyyy", always ten characters for years 1000..9999.
     std::string testo() const;

@@ -1,0 +1,293 @@
+#include "archives/archivio.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <fmt/format.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace gorgo {
+
+namespace fs = std::filesystem;
+
+// One archive file as a descriptor; absent files in read mode behave as empty.
+class FileRecord {
+public:
+    FileRecord(fs::path percorso, ModoApertura modo) : percorso_(std::move(percorso)) {
+        const int flags = modo == ModoApertura::Scrittura ? O_RDWR | O_CREAT : O_RDONLY;
+        fd_ = ::open(percorso_.c_str(), flags | O_CLOEXEC, 0644);
+        if (fd_ < 0 && !(modo == ModoApertura::Lettura && errno == ENOENT))
+            throw ErroreArchivio(fmt::format("Impossibile aprire il file {} : {}", percorso_.string(),
+                                             std::strerror(errno)));
+    }
+    ~FileRecord() {
+        if (fd_ >= 0) ::close(fd_);
+    }
+    FileRecord(const FileRecord&) = delete;
+    FileRecord& operator=(const FileRecord&) = delete;
+
+    const fs::path& percorso() const { return percorso_; }
+
+    uint64_t lunghezza() const {
+        if (fd_ < 0) return 0;
+        struct stat st {};
+        if (::fstat(fd_, &st) != 0) Errore("leggere la lunghezza di");
+        return static_cast<uint64_t>(st.st_size);
+    }
+
+    void leggi(uint64_t offset, void* dest, size_t n) const {
+        auto* p = static_cast<char*>(dest);
+        while (n > 0) {
+            const ssize_t r = fd_ < 0 ? 0 : ::pread(fd_, p, n, static_cast<off_t>(offset));
+            if (r < 0 && errno == EINTR) continue;
+            if (r < 0) Errore("leggere");
+            if (r == 0) throw ErroreArchivio(fmt::format("Lettura oltre la fine del file {}", percorso_.string()));
+            p += r;
+            n -= static_cast<size_t>(r);
+            offset += static_cast<uint64_t>(r);
+        }
+    }
+
+    void scrivi(uint64_t offset, const void* src, size_t n) {
+        if (fd_ < 0) throw ErroreArchivio(fmt::format("Il file {} è aperto in sola lettura", percorso_.string()));
+        const auto* p = static_cast<const char*>(src);
+        while (n > 0) {
+            const ssize_t r = ::pwrite(fd_, p, n, static_cast<off_t>(offset));
+            if (r < 0 && errno == EINTR) continue;
+            if (r <= 0) Errore("scrivere");
+            p += r;
+            n -= static_cast<size_t>(r);
+            offset += static_cast<uint64_t>(r);
+        }
+        if (::fdatasync(fd_) != 0) Errore("scrivere");
+    }
+
+    void tronca(uint64_t lunghezza) noexcept {
+        if (fd_ >= 0 && ::ftruncate(fd_, static_cast<off_t>(lunghezza)) == 0) ::fdatasync(fd_);
+    }
+
+private:
+    [[noreturn]] void Errore(const char* azione) const {
+        throw ErroreArchivio(fmt::format("Impossibile {} il file {} : {}", azione, percorso_.string(),
+                                         std::strerror(errno)));
+    }
+
+    fs::path percorso_;
+    int fd_ = -1;
+};
+
+Archivio::Archivio(Archivio&&) noexcept = default;
+Archivio& Archivio::operator=(Archivio&&) noexcept = default;
+Archivio::~Archivio() = default;
+
+Archivio Archivio::Apri(const fs::path& percorsoProgramma, ModoApertura modo) {
+    Archivio a;
+    a.percorso_ = percorsoProgramma;
+    const fs::path cartella = a.CartellaArchivi();
+    // Never create a whole folder tree for a mistyped program folder.
+    if (modo == ModoApertura::Scrittura && !fs::is_directory(cartella)) modo = ModoApertura::Lettura;
+    a.estrazioni_ = std::make_unique<FileRecord>(cartella / "Estrazioni.ind", modo);
+    a.anni_ = std::make_unique<FileRecord>(cartella / "anni.ind", modo);
+    a.super_ = std::make_unique<FileRecord>(cartella / "SuperEnalotto.ind", modo);
+    a.RileggiLunghezze();
+    return a;
+}
+
+void Archivio::RileggiLunghezze() {
+    numeroEstrazioni_ = static_cast<int32_t>(estrazioni_->lunghezza() / LunghezzaRecordEstrazione);
+    numeroAnni_ = static_cast<int32_t>(anni_->lunghezza() / LunghezzaRecordAnno);
+    numeroEstrazioniSuper_ = static_cast<int32_t>(super_->lunghezza() / LunghezzaRecordSuper);
+}
+
+uint64_t Archivio::LunghezzaEstrazioni() const { return estrazioni_->lunghezza(); }
+uint64_t Archivio::LunghezzaAnni() const { return anni_->lunghezza(); }
+uint64_t Archivio::LunghezzaSuper() const { return super_->lunghezza(); }
+
+RecordEstrazione Archivio::LeggiEstrazione(int32_t indice) const {
+    RecordEstrazione r;
+    estrazioni_->leggi(static_cast<uint64_t>(indice - 1) * LunghezzaRecordEstrazione, &r, sizeof r);
+    return r;
+}
+
+std::vector<RecordEstrazione> Archivio::LeggiEstrazioni(int32_t primo, int32_t ultimo) const {
+    std::vector<RecordEstrazione> v;
+    if (ultimo < primo) return v;
+    v.resize(static_cast<size_t>(ultimo - primo + 1));
+    estrazioni_->leggi(static_cast<uint64_t>(primo - 1) * LunghezzaRecordEstrazione, v.data(),
+                       v.size() * sizeof(RecordEstrazione));
+    return v;
+}
+
+RecordAnno Archivio::LeggiAnno(int32_t n) const {
+    RecordAnno r;
+    anni_->leggi(static_cast<uint64_t>(n - 1) * LunghezzaRecordAnno, &r, sizeof r);
+    return r;
+}
+
+std::vector<RecordAnno> Archivio::LeggiAnni() const {
+    std::vector<RecordAnno> v(static_cast<size_t>(numeroAnni_));
+    if (!v.empty()) anni_->leggi(0, v.data(), v.size() * sizeof(RecordAnno));
+    return v;
+}
+
+RecordSuperEnalotto Archivio::LeggiRecordSuper(int32_t indice) const {
+    RecordSuperEnalotto r;
+    super_->leggi(static_cast<uint64_t>(indice - 1) * LunghezzaRecordSuper, &r, sizeof r);
+    return r;
+}
+
+std::vector<RecordSuperEnalotto> Archivio::LeggiTuttiSuper() const {
+    std::vector<RecordSuperEnalotto> v(static_cast<size_t>(numeroEstrazioniSuper_));
+    if (!v.empty()) super_->leggi(0, v.data(), v.size() * sizeof(RecordSuperEnalotto));
+    return v;
+}
+
+std::string Archivio::DataEstrazione(int32_t indice, int archivio) const {
+    const int32_t n = archivio == ArchivioSuper ? numeroEstrazioniSuper_ : numeroEstrazioni_;
+    if (n < 1) return {};
+    indice = std::clamp<int32_t>(indice, 1, n);
+    return archivio == ArchivioSuper ? LeggiRecordSuper(indice).dataTesto()
+                                     : LeggiEstrazione(indice).dataTesto();
+}
+
+std::optional<RisultatoRicerca> Archivio::CercaIndice(const Data& data, bool precedente) const {
+    // Start at the first draw of the date's year, or at 1 when the year is not indexed.
+    int32_t inizio = 1;
+    for (const RecordAnno& a : LeggiAnni()) {
+        if (a.anno() == data.anno) {
+            inizio = std::max<int32_t>(1, a.primaEstrazione());
+            break;
+        }
+    }
+    // Walk in blocks of about a year; a date inside the archive ends within the first.
+    constexpr int32_t kBlocco = 160;
+    for (int32_t da = inizio; da <= numeroEstrazioni_; da += kBlocco) {
+        const int32_t a = std::min(numeroEstrazioni_, da + kBlocco - 1);
+        const auto blocco = LeggiEstrazioni(da, a);
+        for (size_t i = 0; i < blocco.size(); ++i) {
+            const Data d = blocco[i].data();
+            const int32_t indice = da + static_cast<int32_t>(i);
+            int32_t trovato = -1;
+            if (d == data)
+                trovato = indice;
+            else if (data < d)
+                trovato = precedente ? indice - 1 : indice;
+            if (trovato < 0) continue;
+            if (trovato < 1) return RisultatoRicerca{0, {}};
+            const std::string dt = trovato == indice ? blocco[i].dataTesto()
+                                   : i > 0           ? blocco[i - 1].dataTesto()
+                                                     : LeggiEstrazione(trovato).dataTesto();
+            return RisultatoRicerca{trovato, dt};
+        }
+    }
+    return std::nullopt;
+}
+
+StoriaCondivisa Archivio::Storia() const {
+    if (!storia_ || storia_->NumeroEstrazioni() != numeroEstrazioni_)
+        storia_ = std::make_shared<const StoriaLotto>(LeggiEstrazioni(1, numeroEstrazioni_));
+    return storia_;
+}
+
+void Archivio::AggiungiEstrazione(const RecordEstrazione& record) {
+    const uint64_t lunghezzaPrima = estrazioni_->lunghezza();
+    estrazioni_->scrivi(static_cast<uint64_t>(numeroEstrazioni_) * LunghezzaRecordEstrazione, &record,
+                        sizeof record);
+    storia_.reset();
+    if (record.NumeroAnno == 1) {
+        const RecordAnno anno =
+            RecordAnno::Crea(record.data().anno, numeroEstrazioni_ + 1);
+        try {
+            anni_->scrivi(anni_->lunghezza() / LunghezzaRecordAnno * LunghezzaRecordAnno, &anno, sizeof anno);
+        } catch (...) {
+            // Keep the draws and the year index in step: take the new draw back.
+            estrazioni_->tronca(std::min<uint64_t>(lunghezzaPrima,
+                                                   static_cast<uint64_t>(numeroEstrazioni_) * LunghezzaRecordEstrazione));
+            RileggiLunghezze();
+            throw;
+        }
+    }
+    RileggiLunghezze();
+}
+
+void Archivio::CorreggiEstrazione(int32_t indice, const RecordEstrazione& record) {
+    estrazioni_->scrivi(static_cast<uint64_t>(indice - 1) * LunghezzaRecordEstrazione, &record, sizeof record);
+    storia_.reset();
+    RileggiLunghezze();
+}
+
+void Archivio::AggiungiEstrazioneSuper(const RecordSuperEnalotto& record) {
+    super_->scrivi(static_cast<uint64_t>(numeroEstrazioniSuper_) * LunghezzaRecordSuper, &record, sizeof record);
+    RileggiLunghezze();
+}
+
+void Archivio::CorreggiEstrazioneSuper(int32_t indice, const RecordSuperEnalotto& record) {
+    super_->scrivi(static_cast<uint64_t>(indice - 1) * LunghezzaRecordSuper, &record, sizeof record);
+    RileggiLunghezze();
+}
+
+Messaggio ControllaPresenzaArchivi(const Archivio& archivio) {
+    const bool estrazioni = archivio.LunghezzaEstrazioni() == 0;
+    const bool anni = archivio.LunghezzaAnni() == 0;
+    const bool super = archivio.LunghezzaSuper() == 0;
+    if (!estrazioni && !anni && !super) return {};
+    std::string testo = "Archivi ";
+    if (estrazioni) testo += "Estrazioni.ind ";
+    if (anni) testo += " Anni.ind ";
+    if (super) testo += " SuperEnalotto.ind ";
+    // The tail names SuperEnalotto.ind whichever file failed: the message has always read so.
+    testo += " mancanti! " + (archivio.CartellaArchivi() / "SuperEnalotto.ind").string();
+    return {testo, "Errore", Icona::Stop};
+}
+
+Messaggio VerificaIntegrita(const Archivio& archivio) {
+    auto errore = [](std::string testo) { return Messaggio{std::move(testo), "Errore", Icona::Stop}; };
+    const fs::path cartella = archivio.CartellaArchivi();
+    if (const uint64_t l = archivio.LunghezzaEstrazioni(); l % LunghezzaRecordEstrazione != 0)
+        return errore(fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}; "
+                                  "l'ultima estrazione è incompleta.",
+                                  (cartella / "Estrazioni.ind").string(), l, LunghezzaRecordEstrazione));
+    if (const uint64_t l = archivio.LunghezzaAnni(); l % LunghezzaRecordAnno != 0)
+        return errore(fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}.",
+                                  (cartella / "anni.ind").string(), l, LunghezzaRecordAnno));
+    if (const uint64_t l = archivio.LunghezzaSuper(); l % LunghezzaRecordSuper != 0)
+        return errore(fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}; "
+                                  "l'ultima estrazione è incompleta.",
+                                  (cartella / "SuperEnalotto.ind").string(), l, LunghezzaRecordSuper));
+
+    const auto storia = archivio.Storia();
+    const auto anni = archivio.LeggiAnni();
+    const std::string nomeAnni = (cartella / "anni.ind").string();
+    // Draws: valid dates in strictly ascending order, year counts in step.
+    int annoAtteso = 0;
+    size_t prossimoAnno = 0;
+    for (int32_t i = 1; i <= storia->NumeroEstrazioni(); ++i) {
+        const RecordEstrazione& r = (*storia)[i];
+        const Data d = r.data();
+        if (!d.valida())
+            return errore(fmt::format("L'estrazione n. {} dell'archivio ha una data non valida ({}).", i,
+                                      std::string(r.dataCifre())));
+        if (i > 1 && storia->giorni(i) <= storia->giorni(i - 1))
+            return errore(fmt::format("L'estrazione n. {} del {} non segue la precedente del {}: "
+                                      "l'archivio non è in ordine di data.",
+                                      i, r.dataTesto(), (*storia)[i - 1].dataTesto()));
+        if (d.anno != annoAtteso) {
+            annoAtteso = d.anno;
+            if (prossimoAnno >= anni.size() || anni[prossimoAnno].anno() != d.anno ||
+                anni[prossimoAnno].primaEstrazione() != i)
+                return errore(fmt::format("Il file {} non corrisponde alle estrazioni: manca o è errato "
+                                          "l'anno {} (prima estrazione n. {}).",
+                                          nomeAnni, d.anno, i));
+            ++prossimoAnno;
+        }
+    }
+    if (prossimoAnno != anni.size())
+        return errore(fmt::format("Il file {} non corrisponde alle estrazioni: contiene {} anni, "
+                                  "le estrazioni ne coprono {}.",
+                                  nomeAnni, anni.size(), prossimoAnno));
+    return {};
+}
+
+}  // namespace gorgo

@@ -1,0 +1,23 @@
+#pragma once
+// 10eLotto draws, derived from the Lotto draw of the same date.
+
+#include <array>
+#include <cstdint>
+
+#include "archives/record.h"
+
+namespace gorgo {
+
+class StoriaLotto;
+
+struct Risultato10eLotto {
+    // 0: index below 1, nothing done; -1: no set of 20 can be formed;
+    // otherwise how many extra positions it took to reach 20 (0 to 30).
+    int32_t esito = 0;
+    std::array<int, 20> numeri{};  // ascending
+};
+
+Risultato10eLotto Estrazione10eLotto(const RecordEstrazione& record);
+Risultato10eLotto Estrazione10eLotto(const StoriaLotto& storia, int32_t indice);
+
+}  // namespace gorgo

@@ -1,0 +1,219 @@
+// info, estrazione, data, dieci, super, demo, cartella.
+
+#include <charconv>
+#include <fmt/format.h>
+#include <iostream>
+
+#include "archives/demo.h"
+#include "archives/dieci_e_lotto.h"
+#include "archives/regole.h"
+#include "archives/superenalotto.h"
+#include "cli/contesto.h"
+#include "cli/restrizioni_info.h"
+
+namespace gorgo::cli {
+
+namespace {
+
+// The main panel's "Ultima estrazione memorizzata :" text.
+std::string TestoUltima(int numeroAnno, const std::string& data) { return fmt::format("n.{} del {}", numeroAnno, data); }
+
+std::string NumeroODash(int n) { return n == 0 ? "--" : fmt::format("{:02}", n); }
+
+bool SembraData(const std::string& s) { return s.find_first_of("/-.") != std::string::npos; }
+
+int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view archivio) {
+    int32_t indice = 0;
+    const auto [p, ec] = std::from_chars(testo.data(), testo.data() + testo.size(), indice);
+    if (ec != std::errc{} || p != testo.data() + testo.size())
+        throw Rifiuto{{fmt::format("\"{}\" non è un indice valido: indicare un numero progressivo "
+                                   "oppure una data GG/MM/AAAA.",
+                                   testo)}};
+    if (indice < 1 || indice > massimo)
+        throw Rifiuto{{fmt::format("L'indice {} è fuori dall'archivio {}: le estrazioni memorizzate vanno da 1 a {}.",
+                                   indice, archivio, massimo)}};
+    return indice;
+}
+
+int32_t IndiceDaData(const RisultatoData& r) {
+    if (r.ErroreData) throw Rifiuto{r.messaggio};
+    return r.IndiceTrovato;
+}
+
+void Info(const Contesto& ctx) {
+    const Archivio a = ctx.ApriArchivi();
+    const RecordEstrazione ultima = a.LeggiEstrazione(a.NumeroEstrazioni());
+    const RecordSuperEnalotto ultimaSuper = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
+    const std::string lotto = TestoUltima(ultima.NumeroAnno, ultima.dataTesto());
+    const std::string super = TestoUltima(ultimaSuper.NumeroAnno, ultimaSuper.dataTesto());
+    const bool demo = CartellaDemo(a.PercorsoProgramma());
+    const auto restrizioni = RigheRestrizioni(ctx.FileImpostazioni());
+    if (ctx.json) {
+        StampaJson({{"cartella", a.PercorsoProgramma().string()},
+                    {"demo", demo},
+                    {"lotto", {{"estrazioni", a.NumeroEstrazioni()}, {"ultima", lotto}}},
+                    {"superenalotto", {{"estrazioni", a.NumeroEstrazioniSuper()}, {"ultima", super}}},
+                    {"restrizioni", restrizioni}});
+        return;
+    }
+    if (demo)
+        std::cout << "*** ARCHIVIO DIMOSTRATIVO: estrazioni sintetiche, non reali ***\n";
+    std::cout << "Cartella del programma: " << a.PercorsoProgramma().string() << "\n\n"
+              << "Lotto / 10eLotto\n"
+              << "  Ultima estrazione memorizzata : " << lotto << "\n"
+              << "  Estrazioni in archivio        : " << a.NumeroEstrazioni() << " (dal "
+              << a.DataEstrazione(1) << ")\n\n"
+              << "SuperEnalotto\n"
+              << "  Ultima estrazione memorizzata : " << super << "\n"
+              << "  Estrazioni in archivio        : " << a.NumeroEstrazioniSuper() << " (dal "
+              << a.DataEstrazione(1, ArchivioSuper) << ")\n\n"
+              << "Restrizioni attive in ricerche statistiche:\n";
+    for (const auto& r : restrizioni) std::cout << "  " << r << "\n";
+}
+
+void MostraEstrazione(const Contesto& ctx, const std::string& argomento) {
+    const Archivio a = ctx.ApriArchivi();
+    const int32_t indice = SembraData(argomento) ? IndiceDaData(ControllaData(argomento, a, false))
+                                                 : LeggiIndice(argomento, a.NumeroEstrazioni(), "del Lotto");
+    const RecordEstrazione r = a.LeggiEstrazione(indice);
+    if (ctx.json) {
+        nlohmann::json ruote = nlohmann::json::array();
+        for (int w = 1; w <= NumeroRuote; ++w) {
+            nlohmann::json cinquina = nlohmann::json::array();
+            for (int p = 1; p <= 5; ++p) cinquina.push_back(r.Numero(w, p));
+            ruote.push_back(cinquina);
+        }
+        StampaJson({{"indice", indice},
+                    {"data", r.dataTesto()},
+                    {"numero_anno", r.NumeroAnno},
+                    {"giorno", r.giornoSettimana()},
+                    {"ruote", ruote}});
+        return;
+    }
+    std::cout << fmt::format("Estrazione n.{} del {} {} (progressivo assoluto dal 1871: {})\n", r.NumeroAnno,
+                             NomeGiorno(r.giornoSettimana()), r.dataTesto(), indice);
+    for (int w = 1; w <= NumeroRuote; ++w) {
+        std::cout << NomiRuota[static_cast<size_t>(w)];
+        for (int p = 1; p <= 5; ++p) std::cout << ' ' << NumeroODash(r.Numero(w, p));
+        std::cout << '\n';
+    }
+}
+
+void CercaData(const Contesto& ctx, const std::string& testo, bool precedente, bool super) {
+    const Archivio a = ctx.ApriArchivi();
+    const RisultatoData r = super ? ControllaDataSuper(testo, a, precedente) : ControllaData(testo, a, precedente);
+    if (r.ErroreData) throw Rifiuto{r.messaggio};
+    if (ctx.json) {
+        StampaJson({{"indice", r.IndiceTrovato}, {"data", r.DataTrovata}});
+        return;
+    }
+    std::cout << fmt::format("Estrazione n. {} del {}\n", r.IndiceTrovato, r.DataTrovata);
+}
+
+void Dieci(const Contesto& ctx, const std::string& argomento) {
+    const Archivio a = ctx.ApriArchivi();
+    const int32_t indice = SembraData(argomento) ? IndiceDaData(ControllaData(argomento, a, false))
+                                                 : LeggiIndice(argomento, a.NumeroEstrazioni(), "del Lotto");
+    const RecordEstrazione rec = a.LeggiEstrazione(indice);
+    const Risultato10eLotto r = Estrazione10eLotto(rec);
+    if (ctx.json) {
+        nlohmann::json numeri = nlohmann::json::array();
+        if (r.esito >= 0)
+            for (int n : r.numeri) numeri.push_back(n);
+        StampaJson({{"indice", indice}, {"data", rec.dataTesto()}, {"esito", r.esito}, {"numeri", numeri}});
+        return;
+    }
+    if (r.esito < 0) {
+        std::cout << "Estrazione da 20 numeri impossibile : " << indice << "\n";
+        return;
+    }
+    std::cout << fmt::format("10eLotto del {} (estrazione n. {}), posizioni aggiunte: {}\n", rec.dataTesto(), indice,
+                             r.esito);
+    for (size_t i = 0; i < r.numeri.size(); ++i)
+        std::cout << fmt::format("{:02}", r.numeri[i]) << (i % 10 == 9 ? '\n' : ' ');
+}
+
+void Super(const Contesto& ctx, const std::string& argomento) {
+    const Archivio a = ctx.ApriArchivi();
+    const int32_t indice = SembraData(argomento)
+                               ? IndiceDaData(ControllaDataSuper(argomento, a, false))
+                               : LeggiIndice(argomento, a.NumeroEstrazioniSuper(), "del SuperEnalotto");
+    const EstrazioneSuper e = LeggiEstrazioneSuper(a, indice);
+    if (ctx.json) {
+        nlohmann::json sei = nlohmann::json::array();
+        for (int i = 0; i < 6; ++i) sei.push_back(e.numeri[static_cast<size_t>(i)]);
+        StampaJson({{"indice", indice},
+                    {"esito", e.esito},
+                    {"data", e.data},
+                    {"numero_anno", std::stoi(e.numeroAnno)},
+                    {"numeri", sei},
+                    {"jolly", e.numeri[6]},
+                    {"superstar", e.numeri[7]}});
+        return;
+    }
+    std::cout << fmt::format("SuperEnalotto n.{} del {} (progressivo {}):", e.numeroAnno, e.data, indice);
+    for (int i = 0; i < 6; ++i) std::cout << ' ' << NumeroODash(e.numeri[static_cast<size_t>(i)]);
+    if (e.esito == SuperConJolly || e.esito == SuperConJollySuperStar)
+        std::cout << "  Jolly " << fmt::format("{:02}", e.numeri[6]);
+    if (e.esito == SuperConSuperStar || e.esito == SuperConJollySuperStar)
+        std::cout << "  SuperStar " << fmt::format("{:02}", e.numeri[7]);
+    if (e.esito == SuperIncompleta) std::cout << "  (estrazione incompleta)";
+    std::cout << '\n';
+}
+
+void Demo(const Contesto& ctx, const std::string& cartella) {
+    if (Messaggio m = CreaCartellaDemo(cartella); !m.vuoto()) throw Rifiuto{m};
+    const Archivio a = Archivio::Apri(cartella);
+    if (ctx.json) {
+        StampaJson({{"cartella", a.PercorsoProgramma().string()},
+                    {"estrazioni", a.NumeroEstrazioni()},
+                    {"superenalotto", a.NumeroEstrazioniSuper()}});
+        return;
+    }
+    std::cout << fmt::format("Archivio dimostrativo creato in {}: {} estrazioni del Lotto dal {} al {}, "
+                             "{} estrazioni del SuperEnalotto.\n",
+                             a.PercorsoProgramma().string(), a.NumeroEstrazioni(), a.DataEstrazione(1),
+                             a.DataEstrazione(a.NumeroEstrazioni()), a.NumeroEstrazioniSuper());
+}
+
+}  // namespace
+
+void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx) {
+    auto* info = app.add_subcommand("info", "Ultime estrazioni memorizzate, numero di estrazioni, restrizioni attive");
+    info->callback([&ctx] { Info(ctx); });
+
+    static std::string argEstrazione;
+    auto* estrazione = app.add_subcommand("estrazione", "Un'estrazione del Lotto, tutte le ruote");
+    estrazione->add_option("indice_o_data", argEstrazione, "Progressivo (da 1) oppure data GG/MM/AAAA")->required();
+    estrazione->callback([&ctx] { MostraEstrazione(ctx, argEstrazione); });
+
+    static std::string argData;
+    static bool precedente = false, super = false;
+    auto* data = app.add_subcommand("data", "Controlla una data e trova l'estrazione corrispondente");
+    data->add_option("data", argData, "Data GG/MM/AAAA")->required();
+    data->add_flag("--precedente", precedente,
+                   "Se la data non è di un'estrazione, cerca quella precedente (altrimenti la successiva)");
+    data->add_flag("--super", super, "Cerca nell'archivio del SuperEnalotto");
+    data->callback([&ctx] { CercaData(ctx, argData, precedente, super); });
+
+    static std::string argDieci;
+    auto* dieci = app.add_subcommand("dieci", "L'estrazione del 10eLotto derivata da un'estrazione del Lotto");
+    dieci->add_option("indice_o_data", argDieci, "Progressivo dell'estrazione del Lotto oppure data GG/MM/AAAA")
+        ->required();
+    dieci->callback([&ctx] { Dieci(ctx, argDieci); });
+
+    static std::string argSuper;
+    auto* sup = app.add_subcommand("super", "Un'estrazione del SuperEnalotto");
+    sup->add_option("indice_o_data", argSuper, "Progressivo (da 1) oppure data GG/MM/AAAA")->required();
+    sup->callback([&ctx] { Super(ctx, argSuper); });
+
+    static std::string argDemo;
+    auto* demo = app.add_subcommand("demo", "Crea una cartella del programma con un archivio dimostrativo (sintetico)");
+    demo->add_option("cartella", argDemo, "Cartella da creare")->required();
+    demo->callback([&ctx] { Demo(ctx, argDemo); });
+
+    auto* cartella = app.add_subcommand("cartella", "Mostra la cartella del programma in uso");
+    cartella->callback([&ctx] { std::cout << ctx.PercorsoProgramma().string() << "\n"; });
+}
+
+}  // namespace gorgo::cli

@@ -1,0 +1,42 @@
+#pragma once
+// What every subcommand shares: the program folder, the archives opened for reading,
+// the output form, the exit codes.
+
+#include <CLI/CLI.hpp>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+
+#include "archives/archivio.h"
+#include "archives/messaggio.h"
+
+namespace gorgo::cli {
+
+enum CodiceUscita : int { Successo = 0, ErroreInterno = 1, InputRifiutato = 2 };
+
+// A refusal: the message goes to stderr and the program ends with InputRifiutato.
+struct Rifiuto {
+    Messaggio messaggio;
+    int codice = InputRifiutato;
+};
+
+struct Contesto {
+    std::string cartella;  // --cartella
+    bool json = false;
+
+    std::filesystem::path PercorsoProgramma() const;
+    // Opens the archives for reading; refuses with the system's message when one is missing,
+    // and with a clear one when the files are damaged or out of step.
+    Archivio ApriArchivi() const;
+    std::filesystem::path FileImpostazioni() const { return PercorsoProgramma() / "Gorgo.ini"; }
+};
+
+// Prints a JSON value on one line.
+void StampaJson(const nlohmann::json& j);
+
+// Each group of subcommands adds itself to the application.
+void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx);
+void AggiungiComandiImpostazioni(CLI::App& app, Contesto& ctx);
+
+}  // namespace gorgo::cli
