@@ -26,12 +26,12 @@ int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view 
     int32_t indice = 0;
     const auto [p, ec] = std::from_chars(testo.data(), testo.data() + testo.size(), indice);
     if (ec != std::errc{} || p != testo.data() + testo.size())
-        throw Rifiuto{{fmt::format("\"{}\" non è un indice valido: indicare un numero progressivo "
-                                   "oppure una data GG/MM/AAAA.",
-                                   testo)}};
+        throw Rifiuta(fmt::format("\"{}\" non è un indice valido: indicare un numero progressivo "
+                                  "oppure una data GG/MM/AAAA.",
+                                  testo));
     if (indice < 1 || indice > massimo)
-        throw Rifiuto{{fmt::format("L'indice {} è fuori dall'archivio {}: le estrazioni memorizzate vanno da 1 a {}.",
-                                   indice, archivio, massimo)}};
+        throw Rifiuta(fmt::format("L'indice {} è fuori dall'archivio {}: le estrazioni memorizzate vanno da 1 a {}.",
+                                  indice, archivio, massimo));
     return indice;
 }
 
@@ -179,41 +179,42 @@ void Demo(const Contesto& ctx, const std::string& cartella) {
 }  // namespace
 
 void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx) {
-    auto* info = app.add_subcommand("info", "Ultime estrazioni memorizzate, numero di estrazioni, restrizioni attive");
-    info->callback([&ctx] { Info(ctx); });
+    struct Argomenti {
+        std::string indiceOData, data, cartella;
+        bool precedente = false, super = false;
+    };
+    auto a = std::make_shared<Argomenti>();
+    const char* indiceOData = "Progressivo (da 1) oppure data GG/MM/AAAA";
 
-    static std::string argEstrazione;
+    app.add_subcommand("info", "Ultime estrazioni memorizzate, numero di estrazioni, restrizioni attive")
+        ->callback([&ctx] { Info(ctx); });
+
     auto* estrazione = app.add_subcommand("estrazione", "Un'estrazione del Lotto, tutte le ruote");
-    estrazione->add_option("indice_o_data", argEstrazione, "Progressivo (da 1) oppure data GG/MM/AAAA")->required();
-    estrazione->callback([&ctx] { MostraEstrazione(ctx, argEstrazione); });
+    estrazione->add_option("indice_o_data", a->indiceOData, indiceOData)->required();
+    estrazione->callback([&ctx, a] { MostraEstrazione(ctx, a->indiceOData); });
 
-    static std::string argData;
-    static bool precedente = false, super = false;
     auto* data = app.add_subcommand("data", "Controlla una data e trova l'estrazione corrispondente");
-    data->add_option("data", argData, "Data GG/MM/AAAA")->required();
-    data->add_flag("--precedente", precedente,
+    data->add_option("data", a->data, "Data GG/MM/AAAA")->required();
+    data->add_flag("--precedente", a->precedente,
                    "Se la data non è di un'estrazione, cerca quella precedente (altrimenti la successiva)");
-    data->add_flag("--super", super, "Cerca nell'archivio del SuperEnalotto");
-    data->callback([&ctx] { CercaData(ctx, argData, precedente, super); });
+    data->add_flag("--super", a->super, "Cerca nell'archivio del SuperEnalotto");
+    data->callback([&ctx, a] { CercaData(ctx, a->data, a->precedente, a->super); });
 
-    static std::string argDieci;
     auto* dieci = app.add_subcommand("dieci", "L'estrazione del 10eLotto derivata da un'estrazione del Lotto");
-    dieci->add_option("indice_o_data", argDieci, "Progressivo dell'estrazione del Lotto oppure data GG/MM/AAAA")
-        ->required();
-    dieci->callback([&ctx] { Dieci(ctx, argDieci); });
+    dieci->add_option("indice_o_data", a->indiceOData, indiceOData)->required();
+    dieci->callback([&ctx, a] { Dieci(ctx, a->indiceOData); });
 
-    static std::string argSuper;
     auto* sup = app.add_subcommand("super", "Un'estrazione del SuperEnalotto");
-    sup->add_option("indice_o_data", argSuper, "Progressivo (da 1) oppure data GG/MM/AAAA")->required();
-    sup->callback([&ctx] { Super(ctx, argSuper); });
+    sup->add_option("indice_o_data", a->indiceOData, indiceOData)->required();
+    sup->callback([&ctx, a] { Super(ctx, a->indiceOData); });
 
-    static std::string argDemo;
     auto* demo = app.add_subcommand("demo", "Crea una cartella del programma con un archivio dimostrativo (sintetico)");
-    demo->add_option("cartella", argDemo, "Cartella da creare")->required();
-    demo->callback([&ctx] { Demo(ctx, argDemo); });
+    demo->add_option("cartella", a->cartella, "Cartella da creare")->required();
+    demo->callback([&ctx, a] { Demo(ctx, a->cartella); });
 
-    auto* cartella = app.add_subcommand("cartella", "Mostra la cartella del programma in uso");
-    cartella->callback([&ctx] { std::cout << ctx.PercorsoProgramma().string() << "\n"; });
+    app.add_subcommand("cartella", "Mostra la cartella del programma in uso")->callback([&ctx] {
+        std::cout << ctx.PercorsoProgramma().string() << "\n";
+    });
 }
 
 }  // namespace gorgo::cli

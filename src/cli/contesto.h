@@ -20,6 +20,9 @@ struct Rifiuto {
     Messaggio messaggio;
     int codice = InputRifiutato;
 };
+inline Rifiuto Rifiuta(std::string testo, int codice = InputRifiutato) {
+    return Rifiuto{Messaggio{std::move(testo), "Errore", Icona::Esclamazione}, codice};
+}
 
 struct Contesto {
     std::string cartella;  // --cartella

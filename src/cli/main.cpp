@@ -10,13 +10,19 @@ using gorgo::cli::CodiceUscita;
 
 // CLI11 speaks English; the users of this program read Italian.
 std::string TraduciErrore(const CLI::ParseError& e) {
-    const std::string nome = e.get_name();
     const std::string testo = e.what();
-    if (nome == "RequiredError") return "Manca un parametro obbligatorio: " + testo;
-    if (nome == "ExtrasError") return "Parametri non previsti: " + testo;
-    if (nome == "ConversionError" || nome == "ValidationError") return "Valore non valido: " + testo;
-    if (nome == "ArgumentMismatch") return "Numero di valori errato: " + testo;
-    if (nome == "RequiresError" || nome == "ExcludesError") return "Combinazione di opzioni non ammessa: " + testo;
+    const auto dopo = [&](std::string_view segno) {
+        const auto p = testo.find(segno);
+        return p == std::string::npos ? testo : testo.substr(p + segno.size());
+    };
+    if (dynamic_cast<const CLI::RequiredError*>(&e)) {
+        if (testo.find("subcommand") != std::string::npos) return "Indicare un comando.";
+        const auto p = testo.find(" is required");
+        return "Manca il parametro obbligatorio " + (p == std::string::npos ? testo : testo.substr(0, p)) + ".";
+    }
+    if (dynamic_cast<const CLI::ExtrasError*>(&e)) return "Parametro non previsto: " + dopo(": ");
+    if (dynamic_cast<const CLI::ConversionError*>(&e) || dynamic_cast<const CLI::ValidationError*>(&e)) return "Valore non valido: " + dopo(": ");
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&e)) return "Numero di valori errato: " + testo;
     return "Comando non valido: " + testo;
 }
 
@@ -27,6 +33,7 @@ int main(int argc, char** argv) {
     CLI::App app{"gorgo-cli: il banco di lavoro per Lotto, 10eLotto e SuperEnalotto da riga di comando.\n"
                  "Workbench for the Italian number games, from the command line.",
                  "gorgo-cli"};
+    app.option_defaults()->group("Opzioni");
     app.set_help_flag("-h,--help", "Mostra questo aiuto ed esce");
     app.set_help_all_flag("--aiuto-completo", "Mostra l'aiuto di tutti i comandi ed esce");
     app.get_formatter()->label("Usage", "Uso");
@@ -48,6 +55,11 @@ int main(int argc, char** argv) {
 
     gorgo::cli::AggiungiComandiArchivi(app, ctx);
     gorgo::cli::AggiungiComandiImpostazioni(app, ctx);
+    for (CLI::App* sub : app.get_subcommands({})) {
+        sub->group("Comandi");
+        sub->get_help_ptr()->group("Opzioni");
+        if (CLI::Option* tutto = sub->get_option_no_throw("--aiuto-completo")) tutto->group("Opzioni");
+    }
 
     try {
         app.parse(argc, argv);
