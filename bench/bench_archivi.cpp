@@ -1,0 +1,66 @@
+// Archive benchmarks on the real history: A2 (whole history into memory) and the date
+// lookups. Run through bench/run.sh, which points GORGO_SHARED at the archives.
+
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <random>
+
+#include "archives/archivio.h"
+#include "archives/regole.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path Cartella() {
+    const char* s = std::getenv("GORGO_SHARED");
+    return fs::path(s ? s : "../shared") / "dati";
+}
+
+// A2: open the files and load the whole Lotto history.
+void CaricaStoria(benchmark::State& state) {
+    for (auto _ : state) {
+        const gorgo::Archivio a = gorgo::Archivio::Apri(Cartella());
+        auto storia = a.Storia();
+        benchmark::DoNotOptimize(storia->NumeroEstrazioni());
+    }
+}
+BENCHMARK(CaricaStoria)->Unit(benchmark::kMicrosecond);
+
+std::vector<gorgo::Data> DateCasuali(int n) {
+    std::mt19937 g(1);
+    const int32_t da = gorgo::Data{7, 1, 1871}.giorni(), a = gorgo::Data{30, 12, 2025}.giorni();
+    std::vector<gorgo::Data> v;
+    for (int i = 0; i < n; ++i) v.push_back(gorgo::Data::daGiorni(da + static_cast<int32_t>(g() % static_cast<unsigned>(a - da + 1))));
+    return v;
+}
+
+// The file walk through the year index: one year of records read per lookup.
+void CercaIndiceSuFile(benchmark::State& state) {
+    const gorgo::Archivio a = gorgo::Archivio::Apri(Cartella());
+    const auto date = DateCasuali(1024);
+    size_t i = 0;
+    for (auto _ : state) benchmark::DoNotOptimize(a.CercaIndice(date[i++ & 1023], false));
+}
+BENCHMARK(CercaIndiceSuFile)->Unit(benchmark::kMicrosecond);
+
+void CercaIndiceInMemoria(benchmark::State& state) {
+    const gorgo::Archivio a = gorgo::Archivio::Apri(Cartella());
+    const auto storia = a.Storia();
+    const auto date = DateCasuali(1024);
+    size_t i = 0;
+    for (auto _ : state) benchmark::DoNotOptimize(storia->CercaIndice(date[i++ & 1023], false));
+}
+BENCHMARK(CercaIndiceInMemoria);
+
+void VerificaIntegrita(benchmark::State& state) {
+    const gorgo::Archivio a = gorgo::Archivio::Apri(Cartella());
+    for (auto _ : state) benchmark::DoNotOptimize(gorgo::VerificaIntegrita(a));
+}
+BENCHMARK(VerificaIntegrita)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();
