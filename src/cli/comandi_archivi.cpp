@@ -20,7 +20,8 @@ std::string TestoUltima(int numeroAnno, const std::string& data) { return fmt::f
 
 std::string NumeroODash(int n) { return n == 0 ? "--" : fmt::format("{:02}", n); }
 
-bool SembraData(const std::string& s) { return s.find_first_of("/-.") != std::string::npos; }
+// A date has separators; a leading minus is a (bad) index.
+bool SembraData(const std::string& s) { return s.find_first_of("/-.", 1) != std::string::npos; }
 
 int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view archivio) {
     int32_t indice = 0;

@@ -97,7 +97,9 @@ TEST(DieciELotto, CasualeControLetterale) {
         if (prova % 50 == 0) r.Ruota[g() % 10][g() % 2] = 0;
         const Risultato10eLotto a = Estrazione10eLotto(r), b = DieciLetterale(r);
         ASSERT_EQ(a.esito, b.esito);
-        if (a.esito >= 0) ASSERT_EQ(a.numeri, b.numeri);
+        if (a.esito >= 0) {
+            ASSERT_EQ(a.numeri, b.numeri);
+        }
     }
 }
 
@@ -118,7 +120,9 @@ TEST(DieciELotto, TuttaLaStoriaReale) {
         for (size_t k = 0; k < 20; ++k) {
             ASSERT_GE(e.numeri[k], 1);
             ASSERT_LE(e.numeri[k], 90);
-            if (k) ASSERT_LT(e.numeri[k - 1], e.numeri[k]) << i;
+            if (k) {
+                ASSERT_LT(e.numeri[k - 1], e.numeri[k]) << i;
+            }
         }
         const Risultato10eLotto l = DieciLetterale(r);
         ASSERT_EQ(l.esito, e.esito);

@@ -1,0 +1,212 @@
+// The real gorgo-cli binary: outputs, exit codes, and that a refusal changes nothing.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <fmt/format.h>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+#include "archives/archivio.h"
+#include "support/archivi_reali.h"
+#include "support/cartelle.h"
+
+namespace gorgo {
+namespace {
+
+namespace fs = std::filesystem;
+using nlohmann::json;
+using test::CartellaTemporanea;
+using test::LeggiFile;
+
+struct Esito {
+    int codice = -1;
+    std::string out, err;
+};
+
+std::string Quota(const std::string& s) {
+    std::string q(1, '\'');
+    for (char c : s) {
+        if (c == '\'')
+            q.append("'\\''");
+        else
+            q.push_back(c);
+    }
+    q.push_back('\'');
+    return q;
+}
+
+Esito Esegui(const std::vector<std::string>& argomenti) {
+    const char* cli = std::getenv("GORGO_CLI");
+    EXPECT_NE(cli, nullptr) << "GORGO_CLI non impostata";
+    CartellaTemporanea tmp;
+    std::string comando = Quota(cli ? cli : "gorgo-cli");
+    for (const auto& a : argomenti) comando.append(" ").append(Quota(a));
+    comando.append(" 2>").append(Quota((tmp / "err").string()));
+    Esito e;
+    FILE* p = ::popen(comando.c_str(), "r");
+    std::array<char, 4096> buf{};
+    size_t n;
+    while ((n = std::fread(buf.data(), 1, buf.size(), p)) > 0) e.out.append(buf.data(), n);
+    const int stato = ::pclose(p);
+    e.codice = WIFEXITED(stato) ? WEXITSTATUS(stato) : -1;
+    e.err = LeggiFile(tmp / "err");
+    return e;
+}
+
+// Every byte of a program folder, to prove a refusal wrote nothing.
+std::string Istantanea(const fs::path& cartella) {
+    std::string s;
+    if (!fs::exists(cartella)) return s;
+    for (const auto& f : fs::recursive_directory_iterator(cartella))
+        if (f.is_regular_file()) s += f.path().string() + "\n" + LeggiFile(f.path()) + "\n";
+    return s;
+}
+
+class Cli : public ::testing::Test {
+protected:
+    void SetUp() override {
+        cartella_ = c_.percorso() / "gorgo";
+        const Esito e = Esegui({"demo", cartella_.string()});
+        ASSERT_EQ(e.codice, 0) << e.err;
+    }
+    Esito Su(std::vector<std::string> argomenti) {
+        argomenti.insert(argomenti.begin(), {"--cartella", cartella_.string()});
+        return Esegui(argomenti);
+    }
+    CartellaTemporanea c_;
+    fs::path cartella_;
+};
+
+TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
+    const Archivio a = Archivio::Apri(cartella_);
+    json info = json::parse(Su({"--json", "info"}).out);
+    EXPECT_TRUE(info["demo"].get<bool>());
+    EXPECT_EQ(info["lotto"]["estrazioni"], a.NumeroEstrazioni());
+    EXPECT_EQ(info["lotto"]["ultima"],
+              fmt::format("n.{} del 30/12/2025", a.LeggiEstrazione(a.NumeroEstrazioni()).NumeroAnno));
+    EXPECT_EQ(info["superenalotto"]["estrazioni"], a.NumeroEstrazioniSuper());
+    EXPECT_EQ(info["restrizioni"], json::array({"Nessuna"}));
+    EXPECT_NE(Su({"info"}).out.find("ARCHIVIO DIMOSTRATIVO"), std::string::npos);
+
+    const json e = json::parse(Su({"--json", "estrazione", "7441"}).out);
+    const RecordEstrazione r = a.LeggiEstrazione(7441);
+    EXPECT_EQ(e["data"], r.dataTesto());
+    EXPECT_EQ(e["giorno"], r.giornoSettimana());
+    ASSERT_EQ(e["ruote"].size(), 11u);
+    for (int w = 1; w <= 11; ++w)
+        for (int p = 1; p <= 5; ++p) EXPECT_EQ(e["ruote"][static_cast<size_t>(w - 1)][static_cast<size_t>(p - 1)], r.Numero(w, p));
+    // The same draw by its date.
+    EXPECT_EQ(json::parse(Su({"--json", "estrazione", r.dataTesto()}).out)["indice"], 7441);
+
+    const json d = json::parse(Su({"--json", "data", "31/12/1999", "--precedente"}).out);
+    EXPECT_EQ(d["data"], "29/12/1999");
+    const json dieci = json::parse(Su({"--json", "dieci", "1"}).out);
+    EXPECT_EQ(dieci["esito"], -1);
+    EXPECT_EQ(json::parse(Su({"--json", "dieci", "10000"}).out)["numeri"].size(), 20u);
+    const json s = json::parse(Su({"--json", "super", "1"}).out);
+    EXPECT_EQ(s["data"], a.DataEstrazione(1, ArchivioSuper));
+    EXPECT_EQ(s["numeri"].size(), 6u);
+}
+
+TEST_F(Cli, InputRifiutatoNonScriveNulla) {
+    const std::string prima = Istantanea(cartella_);
+    struct Caso {
+        std::vector<std::string> argomenti;
+        std::string messaggio;
+    };
+    const std::string lungo(1200, 'x');
+    const Caso casi[] = {
+        {{"data", "1/1/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
+        {{"data", "31/02/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
+        {{"data", "01/01/1850"}, "La data non può essere inferiore alla data inizio gestione archivi (07/01/1871)"},
+        {{"data", "31/12/2025"}, "La data non può essere superiore alla data ultima estrazione inserita (30/12/2025)"},
+        {{"data", "01/01/1900", "--super"}, "La data non può essere inferiore"},
+        {{"estrazione", "0"}, "fuori dall'archivio"},
+        {{"estrazione", "99999"}, "fuori dall'archivio"},
+        {{"estrazione", "12x"}, "non è un indice valido"},
+        {{"super", "-3"}, "fuori dall'archivio del SuperEnalotto"},
+        {{"impostazione", "Options", "Url", lungo}, "troppo lungo (1200 caratteri)"},
+        {{"impostazione", "Settings", "RuoteConNz", "YYYY"}, "Servono 11 lettere"},
+        {{"impostazione", "Options", "Url", "abc"}, "Url non valida"},
+        {{"impostazione", "Restrizioni", "Dal", "31febbraio"}, "Serve il giorno"},
+        {{"impostazione", "Settings", "Inesistente", "1"}, "non è un'impostazione del programma"},
+        {{"demo", cartella_.string()}, "contiene già un archivio"},
+        {{"estrazione"}, "Manca il parametro obbligatorio"},
+        {{"info", "--boh"}, "Parametro non previsto"},
+    };
+    for (const Caso& c : casi) {
+        const Esito e = Su(c.argomenti);
+        EXPECT_EQ(e.codice, 2) << c.argomenti[0] << " " << e.err;
+        EXPECT_NE(e.err.find(c.messaggio), std::string::npos) << c.argomenti[0] << ": " << e.err;
+        EXPECT_TRUE(e.out.empty()) << e.out;
+    }
+    EXPECT_EQ(Istantanea(cartella_), prima);
+}
+
+TEST_F(Cli, ArchiviDanneggiatiRifiutati) {
+    const fs::path archivi = cartella_ / "Archivi";
+    auto prova = [&](const char* attesa) {
+        const std::string prima = Istantanea(cartella_);
+        for (const char* comando : {"info", "estrazione", "data"}) {
+            std::vector<std::string> a = {comando};
+            if (std::string(comando) == "estrazione") a.push_back("1");
+            if (std::string(comando) == "data") a.push_back("07/01/1871");
+            const Esito e = Su(a);
+            EXPECT_EQ(e.codice, 2) << comando;
+            EXPECT_NE(e.err.find(attesa), std::string::npos) << e.err;
+        }
+        EXPECT_EQ(Istantanea(cartella_), prima);
+    };
+    const auto lunghezza = fs::file_size(archivi / "Estrazioni.ind");
+    fs::resize_file(archivi / "Estrazioni.ind", lunghezza - 10);
+    prova("non è un multiplo di 66");
+    fs::resize_file(archivi / "Estrazioni.ind", lunghezza);
+    fs::resize_file(archivi / "anni.ind", fs::file_size(archivi / "anni.ind") - 12);
+    prova("non corrisponde alle estrazioni");
+    fs::resize_file(archivi / "Estrazioni.ind", 0);
+    prova("mancanti!");
+    fs::remove_all(archivi);
+    prova("Archivi Estrazioni.ind  Anni.ind  SuperEnalotto.ind  mancanti!");
+    EXPECT_FALSE(fs::exists(archivi));
+}
+
+TEST_F(Cli, ImpostazioniScritteELette) {
+    const fs::path ini = cartella_ / "Gorgo.ini";
+    {
+        std::ofstream f(ini);
+        f << "; commento dell'utente\n[Settings]\nriga senza uguale\nColoreForm=255\n[Altro]\nx=1\n";
+    }
+    EXPECT_EQ(Su({"impostazione", "settings", "coloreform"}).out, "255\n");
+    EXPECT_EQ(Su({"impostazione", "Settings", "ColoreListe"}).out, "9033978\n");
+    const Archivio a = Archivio::Apri(cartella_);
+    EXPECT_EQ(Su({"impostazione", "Settings", "FineRicerca"}).out, std::to_string(a.NumeroEstrazioni()) + "\n");
+    ASSERT_EQ(Su({"impostazione", "Restrizioni", "Periodo", "Y"}).codice, 0);
+    ASSERT_EQ(Su({"impostazione", "Restrizioni", "Dal", "15dicembre"}).codice, 0);
+    ASSERT_EQ(Su({"impostazione", "Restrizioni", "Al", "15gennaio"}).codice, 0);
+    const std::string testo = LeggiFile(ini);
+    EXPECT_NE(testo.find("; commento dell'utente\n[Settings]\nriga senza uguale\nColoreForm=255\n"), std::string::npos);
+    EXPECT_NE(testo.find("[Altro]\nx=1\n"), std::string::npos);
+    EXPECT_EQ(Su({"restrizioni"}).out, "     Solo estrazioni avvenute tra il 15 dicembre e il 15 gennaio\n");
+    const json info = json::parse(Su({"--json", "info"}).out);
+    EXPECT_EQ(info["restrizioni"], json::array({"-  Periodo dell'anno definito"}));
+}
+
+TEST(CliReale, ArchivioReale) {
+    GORGO_RICHIEDI_ARCHIVI_REALI(reale);
+    const json info = json::parse(Esegui({"--cartella", reale.string(), "--json", "info"}).out);
+    EXPECT_EQ(info["lotto"]["ultima"], "n.208 del 30/12/2025");
+    EXPECT_EQ(info["lotto"]["estrazioni"], 10779);
+    EXPECT_EQ(info["superenalotto"]["estrazioni"], 2823);
+    EXPECT_FALSE(info["demo"].get<bool>());
+    const Esito e = Esegui({"--cartella", reale.string(), "estrazione", "30/12/2025"});
+    EXPECT_EQ(e.codice, 0);
+    EXPECT_NE(e.out.find("Bari       15 65 34 86 47"), std::string::npos) << e.out;
+    const json d = json::parse(Esegui({"--cartella", reale.string(), "--json", "data", "25/12/2025"}).out);
+    EXPECT_EQ(d["data"], "27/12/2025");
+}
+
+}  // namespace
+}  // namespace gorgo
