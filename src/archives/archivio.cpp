@@ -106,6 +106,7 @@ uint64_t Archivio::LunghezzaAnni() const { return anni_->lunghezza(); }
 uint64_t Archivio::LunghezzaSuper() const { return super_->lunghezza(); }
 
 RecordEstrazione Archivio::LeggiEstrazione(int32_t indice) const {
+    ++recordLetti_;
     RecordEstrazione r;
     estrazioni_->leggi(static_cast<uint64_t>(indice - 1) * LunghezzaRecordEstrazione, &r, sizeof r);
     return r;
@@ -114,6 +115,7 @@ RecordEstrazione Archivio::LeggiEstrazione(int32_t indice) const {
 std::vector<RecordEstrazione> Archivio::LeggiEstrazioni(int32_t primo, int32_t ultimo) const {
     std::vector<RecordEstrazione> v;
     if (ultimo < primo) return v;
+    recordLetti_ += static_cast<uint64_t>(ultimo - primo + 1);
     v.resize(static_cast<size_t>(ultimo - primo + 1));
     estrazioni_->leggi(static_cast<uint64_t>(primo - 1) * LunghezzaRecordEstrazione, v.data(),
                        v.size() * sizeof(RecordEstrazione));
@@ -153,18 +155,21 @@ std::string Archivio::DataEstrazione(int32_t indice, int archivio) const {
 }
 
 std::optional<RisultatoRicerca> Archivio::CercaIndice(const Data& data, bool precedente) const {
-    // Start at the first draw of the date's year, or at 1 when the year is not indexed.
-    int32_t inizio = 1;
-    for (const RecordAnno& a : LeggiAnni()) {
-        if (a.anno() == data.anno) {
-            inizio = std::max<int32_t>(1, a.primaEstrazione());
+    // Start at the first draw of the date's year, or at 1 when the year is not indexed; the
+    // first read covers that year and the first draw after it, where any date of the year ends.
+    int32_t inizio = 1, fineAnno = numeroEstrazioni_;
+    const auto anni = LeggiAnni();
+    for (size_t k = 0; k < anni.size(); ++k) {
+        if (anni[k].anno() == data.anno) {
+            inizio = std::max<int32_t>(1, anni[k].primaEstrazione());
+            if (k + 1 < anni.size() && anni[k + 1].primaEstrazione() >= inizio)
+                fineAnno = anni[k + 1].primaEstrazione();
             break;
         }
     }
-    // Walk in blocks of about a year; a date inside the archive ends within the first.
-    constexpr int32_t kBlocco = 160;
-    for (int32_t da = inizio; da <= numeroEstrazioni_; da += kBlocco) {
-        const int32_t a = std::min(numeroEstrazioni_, da + kBlocco - 1);
+    constexpr int32_t kBlocco = 256;  // only an index out of step with the draws walks further
+    for (int32_t da = inizio; da <= numeroEstrazioni_;) {
+        const int32_t a = std::min(numeroEstrazioni_, da == inizio ? std::max(fineAnno, da) : da + kBlocco - 1);
         const auto blocco = LeggiEstrazioni(da, a);
         for (size_t i = 0; i < blocco.size(); ++i) {
             const Data d = blocco[i].data();
@@ -181,6 +186,7 @@ std::optional<RisultatoRicerca> Archivio::CercaIndice(const Data& data, bool pre
                                                      : LeggiEstrazione(trovato).dataTesto();
             return RisultatoRicerca{trovato, dt};
         }
+        da = a + 1;
     }
     return std::nullopt;
 }

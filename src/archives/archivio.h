@@ -75,6 +75,9 @@ public:
     void AggiungiEstrazioneSuper(const RecordSuperEnalotto& record);
     void CorreggiEstrazioneSuper(int32_t indice, const RecordSuperEnalotto& record);
 
+    // Draw records read so far, to show what a lookup costs.
+    uint64_t RecordLetti() const { return recordLetti_; }
+
     // Exact lengths in bytes, for the integrity check.
     uint64_t LunghezzaEstrazioni() const;
     uint64_t LunghezzaAnni() const;
@@ -88,6 +91,7 @@ private:
     std::unique_ptr<FileRecord> estrazioni_, anni_, super_;
     int32_t numeroEstrazioni_ = 0, numeroEstrazioniSuper_ = 0, numeroAnni_ = 0;
     mutable StoriaCondivisa storia_;
+    mutable uint64_t recordLetti_ = 0;
 };
 
 // The start-up check of presence: the system's message when any file is empty, else empty.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <fstream>
 
@@ -310,12 +311,18 @@ TEST(ArchivioReale, CercaIndiceDateEGiorniIntermedi) {
     GORGO_RICHIEDI_ARCHIVI_REALI(reale);
     const Archivio a = Archivio::Apri(reale);
     const auto storia = a.Storia();
+    const auto anni = a.LeggiAnni();
     for (int32_t i = 1; i <= storia->NumeroEstrazioni(); ++i) {
         const Data d = (*storia)[i].data();
         for (bool prec : {false, true}) {
+            const uint64_t letti = a.RecordLetti();
             const auto r = a.CercaIndice(d, prec);
             ASSERT_TRUE(r.has_value());
             ASSERT_EQ(r->IndiceTrovato, i) << d.testo();
+            // No more than the date's year and the first draw after it.
+            const auto anno = std::find_if(anni.begin(), anni.end(), [&](const RecordAnno& y) { return y.anno() == d.anno; });
+            const int32_t fine = anno + 1 == anni.end() ? storia->NumeroEstrazioni() : (anno + 1)->primaEstrazione();
+            ASSERT_LE(a.RecordLetti() - letti, static_cast<uint64_t>(fine - anno->primaEstrazione() + 1)) << d.testo();
         }
         if (i == storia->NumeroEstrazioni()) break;
         // Every day strictly between two draws: next draw by default, previous with precedente.
