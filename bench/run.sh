@@ -5,7 +5,7 @@ set -euo pipefail
 source "$(dirname "$0")/../scripts/common.sh"
 GORGO_PACKAGES+=(hyperfine time)
 gorgo_install_deps
-BUILD="${GORGO_BUILD:-$GORGO_ROOT/build-bench}"
+BUILD="${GORGO_BUILD:-$GORGO_ROOT/build/bench}"
 gorgo_build "$BUILD" -DGORGO_TESTS=OFF
 export GORGO_SHARED="${GORGO_SHARED:-$GORGO_ROOT/../shared}"
 DATI="$GORGO_SHARED/dati"

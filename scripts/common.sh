@@ -21,6 +21,12 @@ gorgo_install_deps() {
 # gorgo_build BUILD_DIR [cmake options...]
 gorgo_build() {
     local dir="$1"; shift
-    cmake -S "$GORGO_ROOT" -B "$dir" -DCMAKE_BUILD_TYPE=Release "$@" >/dev/null
-    cmake --build "$dir" -j"$(nproc)"
+    mkdir -p "$dir"
+    echo "Compilazione in $dir ..."
+    if ! { cmake -S "$GORGO_ROOT" -B "$dir" -DCMAKE_BUILD_TYPE=Release "$@" &&
+           cmake --build "$dir" -j"$(nproc)"; } >"$dir/compilazione.log" 2>&1; then
+        cat "$dir/compilazione.log"
+        echo "Compilazione non riuscita (registro completo in $dir/compilazione.log)"
+        return 1
+    fi
 }
