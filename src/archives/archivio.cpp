@@ -128,11 +128,14 @@ RecordAnno Archivio::LeggiAnno(int32_t n) const {
     return r;
 }
 
-std::vector<RecordAnno> Archivio::LeggiAnni() const {
-    std::vector<RecordAnno> v(static_cast<size_t>(numeroAnni_));
-    if (!v.empty()) anni_->leggi(0, v.data(), v.size() * sizeof(RecordAnno));
+template <typename Record>
+std::vector<Record> LeggiTutto(const FileRecord& file, int32_t quanti) {
+    std::vector<Record> v(static_cast<size_t>(quanti));
+    if (!v.empty()) file.leggi(0, v.data(), v.size() * sizeof(Record));
     return v;
 }
+
+std::vector<RecordAnno> Archivio::LeggiAnni() const { return LeggiTutto<RecordAnno>(*anni_, numeroAnni_); }
 
 RecordSuperEnalotto Archivio::LeggiRecordSuper(int32_t indice) const {
     RecordSuperEnalotto r;
@@ -141,9 +144,7 @@ RecordSuperEnalotto Archivio::LeggiRecordSuper(int32_t indice) const {
 }
 
 std::vector<RecordSuperEnalotto> Archivio::LeggiTuttiSuper() const {
-    std::vector<RecordSuperEnalotto> v(static_cast<size_t>(numeroEstrazioniSuper_));
-    if (!v.empty()) super_->leggi(0, v.data(), v.size() * sizeof(RecordSuperEnalotto));
-    return v;
+    return LeggiTutto<RecordSuperEnalotto>(*super_, numeroEstrazioniSuper_);
 }
 
 std::string Archivio::DataEstrazione(int32_t indice, int archivio) const {
@@ -172,13 +173,8 @@ std::optional<RisultatoRicerca> Archivio::CercaIndice(const Data& data, bool pre
         const int32_t a = std::min(numeroEstrazioni_, da == inizio ? std::max(fineAnno, da) : da + kBlocco - 1);
         const auto blocco = LeggiEstrazioni(da, a);
         for (size_t i = 0; i < blocco.size(); ++i) {
-            const Data d = blocco[i].data();
             const int32_t indice = da + static_cast<int32_t>(i);
-            int32_t trovato = -1;
-            if (d == data)
-                trovato = indice;
-            else if (data < d)
-                trovato = precedente ? indice - 1 : indice;
+            const int32_t trovato = PassoRicerca(blocco[i].data(), data, indice, precedente);
             if (trovato < 0) continue;
             if (trovato < 1) return RisultatoRicerca{0, {}};
             const std::string dt = trovato == indice ? blocco[i].dataTesto()

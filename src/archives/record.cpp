@@ -1,6 +1,5 @@
 #include "archives/record.h"
 
-#include <algorithm>
 #include <cstring>
 #include <fmt/format.h>
 
@@ -42,20 +41,20 @@ gorgo::Data DataDaCifre(const char* d) {
 std::string RecordEstrazione::dataTesto() const { return TestoData(Data); }
 gorgo::Data RecordEstrazione::data() const { return DataDaCifre(Data); }
 
-void RecordEstrazione::impostaData(const gorgo::Data& d) {
+// Both records keep the date as eight digits and the weekday twice.
+template <typename Record>
+void ImpostaData(Record& r, const gorgo::Data& d) {
     const std::string c = d.cifre();
-    std::memcpy(Data, c.data(), 8);
-    GiornoSettimana = GiornoSettimanaCopia = static_cast<char>('0' + d.giornoSettimana());
+    std::memcpy(r.Data, c.data(), 8);
+    r.GiornoSettimana = r.GiornoSettimanaCopia = static_cast<char>('0' + d.giornoSettimana());
 }
+
+void RecordEstrazione::impostaData(const gorgo::Data& d) { ImpostaData(*this, d); }
 
 std::string RecordSuperEnalotto::dataTesto() const { return TestoData(Data); }
 gorgo::Data RecordSuperEnalotto::data() const { return DataDaCifre(Data); }
 
-void RecordSuperEnalotto::impostaData(const gorgo::Data& d) {
-    const std::string c = d.cifre();
-    std::memcpy(Data, c.data(), 8);
-    GiornoSettimana = GiornoSettimanaCopia = static_cast<char>('0' + d.giornoSettimana());
-}
+void RecordSuperEnalotto::impostaData(const gorgo::Data& d) { ImpostaData(*this, d); }
 
 RecordAnno RecordAnno::Crea(int anno, int32_t primaEstrazione) {
     RecordAnno r;

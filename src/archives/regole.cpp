@@ -89,12 +89,8 @@ RisultatoData ControllaDataSuper(std::string_view testo, const Archivio& archivi
                      [&](const Data& d) -> std::optional<RisultatoRicerca> {
                          const auto tutti = archivio.LeggiTuttiSuper();
                          for (int32_t i = inizio; i <= n; ++i) {
-                             const Data di = tutti[static_cast<size_t>(i - 1)].data();
-                             int32_t trovato = -1;
-                             if (di == d)
-                                 trovato = i;
-                             else if (d < di)
-                                 trovato = precedente ? i - 1 : i;
+                             const int32_t trovato =
+                                 PassoRicerca(tutti[static_cast<size_t>(i - 1)].data(), d, i, precedente);
                              if (trovato < 0) continue;
                              if (trovato < 1) return RisultatoRicerca{0, {}};
                              return RisultatoRicerca{trovato, tutti[static_cast<size_t>(trovato - 1)].dataTesto()};

@@ -18,6 +18,15 @@ struct RisultatoRicerca {
     std::string DataTrovata;
 };
 
+// One step of the date walk over records in date order: the index found at record `indice`
+// (dated `dataRecord`), or -1 to go on. A draw date gives that draw; a later record gives
+// itself, or the one before it with `precedente`.
+inline int32_t PassoRicerca(const Data& dataRecord, const Data& cercata, int32_t indice, bool precedente) {
+    if (dataRecord == cercata) return indice;
+    if (cercata < dataRecord) return precedente ? indice - 1 : indice;
+    return -1;
+}
+
 class StoriaLotto {
 public:
     StoriaLotto() = default;

@@ -16,38 +16,20 @@
 
 #include "config/impostazioni.h"
 #include "config/ini.h"
+#include "support/cartelle.h"
 
 namespace fs = std::filesystem;
 using namespace gorgo::config;
 
 namespace {
 
-class CartellaTemporanea {
-public:
-    CartellaTemporanea() {
-        std::random_device rd;
-        percorso_ = fs::temp_directory_path() / fmt::format("gorgo-ini-{:08x}{:08x}", rd(), rd());
-        fs::create_directories(percorso_);
-    }
-    ~CartellaTemporanea() {
-        std::error_code ec;
-        fs::remove_all(percorso_, ec);
-    }
-    const fs::path& percorso() const { return percorso_; }
-    fs::path operator/(std::string_view nome) const { return percorso_ / nome; }
-    std::size_t quantiFile() const {
-        return static_cast<std::size_t>(
-            std::distance(fs::directory_iterator(percorso_), fs::directory_iterator()));
-    }
+using gorgo::test::CartellaTemporanea;
 
-private:
-    fs::path percorso_;
-};
-
-std::string LeggiByte(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+std::size_t QuantiFile(const fs::path& cartella) {
+    return static_cast<std::size_t>(std::distance(fs::directory_iterator(cartella), fs::directory_iterator()));
 }
+
+using gorgo::test::LeggiFile;
 
 void ScriviByte(const fs::path& p, std::string_view byte) {
     std::ofstream out(p, std::ios::binary | std::ios::trunc);
@@ -83,7 +65,7 @@ TEST_F(FileIniTest, LaScritturaTocca_SoloLaRigaDellaChiave) {
     EXPECT_TRUE(ScriviImpostazione(ini, "Forms", "GorgoTop", "300"));
     EXPECT_TRUE(ScriviImpostazione(ini, "Options", "Url", "http://esempio/"));
 
-    EXPECT_EQ(LeggiByte(file),
+    EXPECT_EQ(LeggiFile(file),
               "orfano=prima di ogni sezione\n"
               "; commento iniziale\n"
               "[Settings]\n"
@@ -101,12 +83,12 @@ TEST_F(FileIniTest, LaScritturaTocca_SoloLaRigaDellaChiave) {
               "\n"
               "[Options]\n"
               "Url=http://esempio/\n");
-    EXPECT_EQ(cartella.quantiFile(), 1u) << "temporary file left behind";
+    EXPECT_EQ(QuantiFile(cartella.percorso()), 1u) << "temporary file left behind";
 
     // Writing what is already there leaves the file as it is.
-    const std::string prima = LeggiByte(file);
+    const std::string prima = LeggiFile(file);
     EXPECT_TRUE(ScriviImpostazione(ini, "Forms", "gorgotop", "300"));
-    EXPECT_EQ(LeggiByte(file), prima);
+    EXPECT_EQ(LeggiFile(file), prima);
 }
 
 TEST_F(FileIniTest, LetturaComeIlLettoreDiProfili) {
@@ -169,11 +151,11 @@ TEST_F(FileIniTest, FileAssenteDaIPredefinitiEVieneCreatoAllaPrimaScrittura) {
     EXPECT_EQ(LeggiImpostazione(ini, "Settings", "Ruota", "YNNNNNNNNNN"), "YNNNNNNNNNN");
     EXPECT_FALSE(fs::exists(file)) << "reading must not create the file";
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "Ruota", "NNYNNNNNNNN"));
-    EXPECT_EQ(LeggiByte(file), "[Settings]\nRuota=NNYNNNNNNNN\n");
+    EXPECT_EQ(LeggiFile(file), "[Settings]\nRuota=NNYNNNNNNNN\n");
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "Vuota", ""));
-    EXPECT_EQ(LeggiByte(file), "[Settings]\nRuota=NNYNNNNNNNN\nVuota=\n");
+    EXPECT_EQ(LeggiFile(file), "[Settings]\nRuota=NNYNNNNNNNN\nVuota=\n");
     EXPECT_EQ(LeggiImpostazione(ini, "Settings", "Vuota", "d"), "");
-    EXPECT_EQ(cartella.quantiFile(), 1u);
+    EXPECT_EQ(QuantiFile(cartella.percorso()), 1u);
 
     // A folder that is not there is not made: the write fails and leaves nothing.
     FileIni altrove((cartella / "manca" / "Gorgo.ini").string());
@@ -185,11 +167,11 @@ TEST_F(FileIniTest, FileAssenteDaIPredefinitiEVieneCreatoAllaPrimaScrittura) {
 
 TEST_F(FileIniTest, NomiEValoriCheRomperebberoIlFile) {
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "A", "1"));
-    const std::string prima = LeggiByte(file);
+    const std::string prima = LeggiFile(file);
     for (std::string_view cattiva : {"a=b", "[Forms]", ";nota", "  ", "A\nB"})
         EXPECT_FALSE(ScriviImpostazione(ini, "Settings", cattiva, "x")) << cattiva;
     EXPECT_FALSE(ScriviImpostazione(ini, "Set]tings", "A", "x"));
-    EXPECT_EQ(LeggiByte(file), prima);
+    EXPECT_EQ(LeggiFile(file), prima);
 
     // Line breaks in a value are dropped, so it cannot smuggle in a section.
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "B", "uno\r\n[Forms]\nGorgoLeft=7"));
@@ -198,10 +180,10 @@ TEST_F(FileIniTest, NomiEValoriCheRomperebberoIlFile) {
     EXPECT_EQ(LeggiImpostazione(ini, "Settings", "A", ""), "1");
 
     // The several-key write is all or nothing.
-    const std::string adesso = LeggiByte(file);
+    const std::string adesso = LeggiFile(file);
     const CoppiaChiaveValore valori[] = {{"C", "3"}, {"rotta=", "4"}};
     EXPECT_FALSE(ini.Scrivi("Settings", valori));
-    EXPECT_EQ(LeggiByte(file), adesso);
+    EXPECT_EQ(LeggiFile(file), adesso);
 }
 
 TEST_F(FileIniTest, FileCrLfRestaCrLf) {
@@ -209,14 +191,14 @@ TEST_F(FileIniTest, FileCrLfRestaCrLf) {
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "A", "2"));
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "B", "3"));
     ASSERT_TRUE(ScriviImpostazione(ini, "Options", "C", "4"));
-    EXPECT_EQ(LeggiByte(file), "[Settings]\r\nA=2\r\nB=3\r\n; c\r\n\r\n[Options]\r\nC=4\r\n");
+    EXPECT_EQ(LeggiFile(file), "[Settings]\r\nA=2\r\nB=3\r\n; c\r\n\r\n[Options]\r\nC=4\r\n");
     EXPECT_EQ(LeggiImpostazione(ini, "Settings", "A", ""), "2");
 
     // A UTF-8 mark at the start is neither part of the first header nor lost.
     ScriviByte(file, "\xEF\xBB\xBF[Settings]\r\nA=1\r\n");
     EXPECT_EQ(LeggiImpostazione(ini, "Settings", "A", ""), "1");
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "A", "9"));
-    EXPECT_EQ(LeggiByte(file), "\xEF\xBB\xBF[Settings]\r\nA=9\r\n");
+    EXPECT_EQ(LeggiFile(file), "\xEF\xBB\xBF[Settings]\r\nA=9\r\n");
 }
 
 TEST_F(FileIniTest, FileWindows1252LettoERiscrittoInUtf8) {
@@ -226,7 +208,7 @@ TEST_F(FileIniTest, FileWindows1252LettoERiscrittoInUtf8) {
                "; nota: perch\xE9 \x80 \x93x\x94\r\n");
     EXPECT_EQ(LeggiImpostazione(ini, "Options", "FileTerzine", ""), "C:\\Gorgo\\Citt\xC3\xA0\\Terzine.txt");
     ASSERT_TRUE(ScriviImpostazione(ini, "Options", "Url", "http://esempio/"));
-    EXPECT_EQ(LeggiByte(file),
+    EXPECT_EQ(LeggiFile(file),
               "[Options]\r\n"
               "FileTerzine=C:\\Gorgo\\Citt\xC3\xA0\\Terzine.txt\r\n"
               "Url=http://esempio/\r\n"
@@ -289,7 +271,7 @@ TEST_F(FileIniTest, ScrittureCasualiControUnaMappa) {
             }
 
         std::vector<std::string> rimaste;
-        std::istringstream righe(LeggiByte(file));
+        std::istringstream righe(LeggiFile(file));
         for (std::string r; std::getline(righe, r);)
             if (r.starts_with(";") || r.starts_with("###")) rimaste.push_back(r);
         EXPECT_EQ(rimaste, altre) << "comments and garbage must survive in their order";

@@ -9,6 +9,7 @@
 
 #include "config/cp1252.h"
 #include "config/report_testo.h"
+#include "support/cartelle.h"
 
 using namespace gorgo::config;
 namespace fs = std::filesystem;
@@ -188,20 +189,7 @@ TEST(ReportTesto, NuovaPaginaEGrassetto) {
 
 class ReportSuFile : public ::testing::Test {
 protected:
-    void SetUp() override {
-        std::random_device caso;
-        cartella_ =
-            fs::temp_directory_path() / ("gorgo_report_" + std::to_string(caso()) + std::to_string(caso()));
-        fs::create_directories(cartella_);
-    }
-    void TearDown() override { fs::remove_all(cartella_); }
-
-    static std::string Leggi(const fs::path& p) {
-        std::ifstream in(p, std::ios::binary);
-        std::stringstream s;
-        s << in.rdbuf();
-        return s.str();
-    }
+    static std::string Leggi(const fs::path& p) { return gorgo::test::LeggiFile(p); }
     static void Metti(const fs::path& p, const std::string& dati) {
         std::ofstream(p, std::ios::binary) << dati;
     }
@@ -228,7 +216,8 @@ protected:
                "  12     \xB0 \r\n*-----\xB0---*\r\n";
     }
 
-    fs::path cartella_;
+    gorgo::test::CartellaTemporanea temporanea_;
+    fs::path cartella_ = temporanea_.percorso();
 };
 
 TEST_F(ReportSuFile, NuovoScriveCp1252ConCrLf) {

@@ -13,6 +13,7 @@
 #include "archives/data.h"
 #include "config/impostazioni.h"
 #include "config/ini.h"
+#include "support/cartelle.h"
 #include "config/restrizioni.h"
 
 namespace fs = std::filesystem;
@@ -21,27 +22,9 @@ using gorgo::Data;
 
 namespace {
 
-class CartellaTemporanea {
-public:
-    CartellaTemporanea() {
-        std::random_device rd;
-        percorso_ = fs::temp_directory_path() / fmt::format("gorgo-restr-{:08x}{:08x}", rd(), rd());
-        fs::create_directories(percorso_);
-    }
-    ~CartellaTemporanea() {
-        std::error_code ec;
-        fs::remove_all(percorso_, ec);
-    }
-    fs::path operator/(std::string_view nome) const { return percorso_ / nome; }
+using gorgo::test::CartellaTemporanea;
 
-private:
-    fs::path percorso_;
-};
-
-std::string LeggiByte(const fs::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
+using gorgo::test::LeggiFile;
 
 struct RestrizioniTest : ::testing::Test {
     CartellaTemporanea cartella;
@@ -300,7 +283,7 @@ TEST_F(RestrizioniTest, DialogoCorreggeIGiorniEScriveLeChiavi) {
     EXPECT_TRUE(esito.errore.vuoto()) << esito.errore.testo;
     EXPECT_EQ(esito.cboGiorno, (std::array<int, 2>{28, 30}));
 
-    EXPECT_EQ(LeggiByte(file),
+    EXPECT_EQ(LeggiFile(file),
               "[Restrizioni]\nNumero=\nNumeri=\nGiorno=N\nMese=Y\nPeriodo=Y\n"
               "Giorni=YNYNYNY\nMesi=YYNNNNNNNNNY\nDal=28febbraio\nAl=30aprile\n")
         << "letters of a switched-off group are kept";
@@ -317,13 +300,13 @@ TEST_F(RestrizioniTest, DialogoCorreggeIGiorniEScriveLeChiavi) {
     EXPECT_EQ(ricaricate.cboMese, s.cboMese);
 
     // A day or month the combos cannot hold is refused with nothing written.
-    const std::string prima = LeggiByte(file);
+    const std::string prima = LeggiFile(file);
     s.cboMese[1] = 13;
     EXPECT_FALSE(SalvaRestrizioni(ini, s).errore.vuoto());
     s.cboMese[1] = 12;
     s.cboGiorno[0] = 0;
     EXPECT_FALSE(SalvaRestrizioni(ini, s).errore.vuoto());
-    EXPECT_EQ(LeggiByte(file), prima);
+    EXPECT_EQ(LeggiFile(file), prima);
 }
 
 TEST_F(RestrizioniTest, DialogoDeiGiorniDiEstrazione) {
@@ -339,7 +322,7 @@ TEST_F(RestrizioniTest, DialogoDeiGiorniDiEstrazione) {
     s.chkDay[2] = s.chkDay[7] = true;
     s.chkLoadTipsAtStartup = false;
     EXPECT_TRUE(SalvaGiorniEstrazione(ini, s).vuoto());
-    EXPECT_EQ(LeggiByte(file), "[Options]\nGiorni estrazione=NYNNNNY\nShow Tips at Startup=0\n");
+    EXPECT_EQ(LeggiFile(file), "[Options]\nGiorni estrazione=NYNNNNY\nShow Tips at Startup=0\n");
     const ScelteEsclusioni ricaricate = CaricaGiorniEstrazione(ini);
     EXPECT_EQ(ricaricate.chkDay, s.chkDay);
     EXPECT_FALSE(ricaricate.chkLoadTipsAtStartup);

@@ -4,6 +4,7 @@
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 
 #include "archives/demo.h"
 
@@ -17,7 +18,7 @@ public:
     CartellaTemporanea(const CartellaTemporanea&) = delete;
     CartellaTemporanea& operator=(const CartellaTemporanea&) = delete;
     const std::filesystem::path& percorso() const { return percorso_; }
-    std::filesystem::path operator/(const std::string& nome) const { return percorso_ / nome; }
+    std::filesystem::path operator/(std::string_view nome) const { return percorso_ / nome; }
 
 private:
     std::filesystem::path percorso_;
