@@ -1,5 +1,6 @@
 #include "archives/data.h"
 
+#include <algorithm>
 #include <array>
 #include <fmt/format.h>
 
@@ -46,6 +47,16 @@ int GiorniNelMese(int mese, int anno) {
 }
 
 std::string_view NomeMese(int mese) { return mese >= 1 && mese <= 12 ? kMesi[mese] : ""; }
+int NumeroMese(std::string_view nome) {
+    for (int m = 1; m <= 12; ++m) {
+        const std::string_view n = kMesi[static_cast<size_t>(m)];
+        if (n.size() == nome.size() &&
+            std::equal(n.begin(), n.end(), nome.begin(), [](char a, char b) { return a == (b | 0x20); }))
+            return m;
+    }
+    return 0;
+}
+
 std::string_view NomeGiorno(int giorno) { return giorno >= 1 && giorno <= 7 ? kGiorni[giorno] : ""; }
 
 std::string Data::testo() const { return fmt::format("{:02}/{:02}/{:04}", giorno, mese, anno); }

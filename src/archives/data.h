@@ -49,5 +49,7 @@ int GiorniNelMese(int mese, int anno);
 // Italian names of months (1..12) and weekdays (1 = Sunday), lower case as the host gives them.
 std::string_view NomeMese(int mese);
 std::string_view NomeGiorno(int giorno);
+// The month whose Italian name this is, without regard to case; 0 for none.
+int NumeroMese(std::string_view nome);
 
 }  // namespace gorgo

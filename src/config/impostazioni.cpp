@@ -104,12 +104,6 @@ constexpr Finestra kFinestre[] = {
     {"frm10Estrazioni10eLotto", {"Consulta10eLotto10Left", "Consulta10eLotto10Top"}},
 };
 
-char Minuscola(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](char x, char y) { return Minuscola(x) == Minuscola(y); });
-}
 
 std::optional<int64_t> Intero(std::string_view t) {
     while (!t.empty() && t.front() == ' ') t.remove_prefix(1);
@@ -230,9 +224,8 @@ bool SoloLettere(std::string_view v, std::string_view ammesse, std::size_t lungh
 bool GiornoMese(std::string_view v) {
     if (v.size() < 3 || v[0] < '0' || v[0] > '3' || v[1] < '0' || v[1] > '9') return false;
     const int giorno = (v[0] - '0') * 10 + (v[1] - '0');
-    for (int m = 1; m <= 12; ++m)
-        if (UgualiSenzaMaiuscole(v.substr(2), NomeMese(m))) return giorno >= 1 && giorno <= GiorniNelMese(m, 2001);
-    return false;
+    const int mese = NumeroMese(v.substr(2));
+    return mese != 0 && giorno >= 1 && giorno <= GiorniNelMese(mese, 2001);
 }
 
 }  // namespace

@@ -36,12 +36,6 @@ std::string_view TogliSpazi(std::string_view s) {
     return s;
 }
 
-char Minuscola(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](char x, char y) { return Minuscola(x) == Minuscola(y); });
-}
 
 bool Utf8Valido(std::string_view s) {
     const auto* p = reinterpret_cast<const unsigned char*>(s.data());
@@ -325,6 +319,16 @@ std::string LeggiImpostazione(const FileIni& ini, std::string_view sezione, std:
 bool ScriviImpostazione(FileIni& ini, std::string_view sezione, std::string_view chiave,
                         std::string_view valore) {
     return ini.Scrivi(sezione, chiave, valore);
+}
+
+namespace {
+char Minuscola(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+}  // namespace
+
+bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
+    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
+                                              [](char x, char y) { return Minuscola(x) == Minuscola(y); });
 }
 
 }  // namespace gorgo::config

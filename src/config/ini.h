@@ -41,6 +41,9 @@ private:
     std::string applicationKey_;
 };
 
+// Section and key names compare as the profile functions do: ASCII letters without case.
+bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b);
+
 std::string LeggiImpostazione(const FileIni& ini, std::string_view sezione, std::string_view chiave,
                               std::string_view predefinito);
 bool ScriviImpostazione(FileIni& ini, std::string_view sezione, std::string_view chiave,

@@ -43,17 +43,7 @@ std::size_t DopoCaratteri(std::string_view s, std::size_t n) {
 std::string_view Sinistra(std::string_view s, std::size_t n) { return s.substr(0, DopoCaratteri(s, n)); }
 std::string_view DalCarattere(std::string_view s, std::size_t n) { return s.substr(DopoCaratteri(s, n - 1)); }
 
-bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-    const auto minuscola = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [&](char x, char y) { return minuscola(x) == minuscola(y); });
-}
 
-int NumeroMese(std::string_view nome) {
-    for (int m = 1; m <= 12; ++m)
-        if (UgualiSenzaMaiuscole(nome, NomeMese(m))) return m;
-    return 0;
-}
 
 std::optional<int> GiornoDi(std::string_view dueCaratteri) {
     std::string_view t = dueCaratteri;
