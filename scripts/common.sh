@@ -3,7 +3,7 @@
 
 GORGO_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 GORGO_PACKAGES=(build-essential cmake pkg-config libfmt-dev libcli11-dev nlohmann-json3-dev
-                libgtest-dev libbenchmark-dev)
+                libtbb-dev libgtest-dev libbenchmark-dev)
 
 gorgo_install_deps() {
     local missing=()
