@@ -27,6 +27,8 @@ constexpr int OperaPer(int a, int b) {
 
 enum class Operazione : char { Piu = '+', Meno = '-', Per = 'x' };
 int Opera(Operazione op, int a, int b);
+// The operation of a sign of a key: '+', '-', 'x'; nothing for any other character.
+std::optional<Operazione> OperazioneDaSegno(char segno);
 
 // Vertibile(n): digits swapped (12 -> 21, 1 -> 10, 10 -> 1, 90 -> 9); doubles 11..88 give
 // 19..89 and those give the doubles back. Index 1..90; entry 0 unused.
@@ -67,6 +69,30 @@ std::string ChiaveAmbi(int cellaB, Operazione op1, int k1, int cellaA, Operazion
 std::string ChiaveTerzina(int c1, int c2, int c3, const CodaChiave& coda);
 std::string ChiaveCodice(int cella, int terzina, Operazione op, const CodaChiave& coda);
 
+// The tail of a key, after its first "_": 3 characters (sum or difference spy), 8 (number)
+// or 11 (ambo); nothing when the key has no tail or the tail has another shape.
+std::optional<CodaChiave> LeggiCoda(std::string_view chiave);
+
+// One one-number rule of a key: cella op (cella2, or the constant when cella2 is 0).
+struct TermineChiave {
+    int cella = 0;
+    Operazione op = Operazione::Piu;
+    int cella2 = 0;
+    int costante = 0;
+};
+// The fields of a key, read with the checks of the calculation.
+struct ChiaveLetta {
+    TipoRicerca tipo = TipoRicerca::Ambate;
+    // Ambata: [0]. Ambi: [0] the first rule (cellaB), [1] the second (cellaA).
+    // Codice: [0].cella and [0].op, with `terzina`.
+    std::array<TermineChiave, 2> termini{};
+    std::array<int, 3> celle{};  // Terzina
+    int terzina = 0;             // Codice: 1..9999, checked against the table when calculated
+    std::optional<CodaChiave> coda;
+    Messaggio errore;            // "Calcolo impossibile: ..." on a bad key; the fields are then unset
+};
+ChiaveLetta LeggiChiave(std::string_view chiave, TipoRicerca tipo);
+
 // ---- descriptions (DescrizioneAlgoritmo) ----
 std::string DescrizioneAmbata(int cella, Operazione op, int cella2, int k, bool soloCella);
 std::string DescrizioneAmbi(int cellaB, Operazione op1, int k1, int cellaA, Operazione op2, int k2, bool soloPosizione);
@@ -89,6 +115,9 @@ struct EsitoTerzine {
 // Each line: first number in characters 1-2, second in 4-5, third in the last two.
 EsitoTerzine CaricaTerzine(const std::string& percorso);
 constexpr int NumeroTerzineAttese = 1002;
+// The open dialog the screen shows when the file is missing.
+inline constexpr std::string_view TitoloApriTerzine = "Apri il file terzine ridotte";
+inline constexpr std::string_view FiltroTerzine = "File di testo (*.Txt)|*.Txt";
 
 // ---- month index ----
 struct IndiciMensili {

@@ -24,8 +24,9 @@ struct ParametriRicerca {
     std::string dataDa, dataA;             // "GG/MM/AAAA"; empty = the screen's defaults
     int sortiteDaCercare = 10;             // cboSortite
     int indiceMese = 0;                    // cboIndice: 0 "Ultima", 1..21, 22 "Tutti"
-    std::array<bool, 12> ruoteRicerca{true, false, false, false, false, false, false, false, false, false, false, false};
-    std::array<bool, 12> ruoteGioco{true, false, false, false, false, false, false, false, false, false, false, false};
+    // Box 0 stands for the ten regional wheels; the settings default ticks Bari alone.
+    std::array<bool, 12> ruoteRicerca{false, true, false, false, false, false, false, false, false, false, false, false};
+    std::array<bool, 12> ruoteGioco{false, true, false, false, false, false, false, false, false, false, false, false};
     int colpi = 9;                         // txtColpi
     bool controllaUltime = true;           // chkUltime
     TipoRicerca tipoRicerca = TipoRicerca::Ambate;
@@ -41,6 +42,16 @@ struct ParametriRicerca {
 std::string DataDaPredefinita(const StoriaLotto& storia);
 std::string DataAPredefinita(const StoriaLotto& storia);
 
+// The wheel boxes (index 0 the ten regional wheels) as flags of wheels 1..11: the flags one by
+// one, then box 0 sets 1..10. The count is 10 or 11 with box 0, else the flags set.
+std::array<bool, 12> RuoteScelte(const std::array<bool, 12>& caselle);
+int ContaRuoteScelte(const std::array<bool, 12>& caselle);
+
+// The description of the search for one spy value (ambo: valore and valore2), without the
+// count: "Sortite del numero 27 sulle ruote di ricerca nel periodo considerato: ", or with
+// "Solo indice mensile" (not for an ambo spy) "Occorrenze dell'indice mensile U : " and the like.
+std::string DescrizioneSpia(TipoSpia tipo, ModoSpia modo, int indiceMese, int valore, int valore2 = 0);
+
 // What validation makes of the parameters: the failure to show, or the ready values.
 struct RicercaValidata {
     Messaggio errore;   // empty when valid
@@ -52,7 +63,8 @@ struct RicercaValidata {
     int numeroRuoteRicerca = 0;
     std::array<int, 2> amboSpia{0, 0};  // ascending after the swap
     std::string testoPosizioni;         // "11111", or the chosen ones
-    std::string descrizione;            // "Sortite del numero 27 sulle ruote ... : " (count follows)
+    std::string descrizione;            // "Sortite del numero 27 sulle ruote ... : " (count follows);
+                                        // empty with all values, where the search writes none
 };
 RicercaValidata ValidaRicerca(const ParametriRicerca& p, const StoriaLotto& storia);
 

@@ -41,5 +41,6 @@ void StampaJson(const nlohmann::json& j);
 // Each group of subcommands adds itself to the application.
 void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx);
 void AggiungiComandiImpostazioni(CLI::App& app, Contesto& ctx);
+void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx);
 
 }  // namespace gorgo::cli

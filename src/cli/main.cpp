@@ -55,6 +55,7 @@ int main(int argc, char** argv) {
 
     gorgo::cli::AggiungiComandiArchivi(app, ctx);
     gorgo::cli::AggiungiComandiImpostazioni(app, ctx);
+    gorgo::cli::AggiungiComandiCostruttore(app, ctx);
     for (CLI::App* sub : app.get_subcommands({})) {
         sub->group("Comandi");
         sub->get_help_ptr()->group("Opzioni");
