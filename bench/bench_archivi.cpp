@@ -63,4 +63,4 @@ BENCHMARK(VerificaIntegrita)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 
-BENCHMARK_MAIN();
+

@@ -194,6 +194,33 @@ TEST_F(Cli, ImpostazioniScritteELette) {
     EXPECT_EQ(info["restrizioni"], json::array({"-  Periodo dell'anno definito"}));
 }
 
+TEST_F(Cli, Costruttore) {
+    const json e = json::parse(Su({"--json", "costruttore", "--valore", "27", "--ruote-ricerca", "tutte", "--ruote-gioco",
+                                   "tutte", "--indice-mese", "tutti", "--da", "01/01/2024"})
+                                   .out);
+    ASSERT_FALSE(e["casi"].empty());
+    ASSERT_FALSE(e["righe"].empty());
+    EXPECT_EQ(e["descrizione"].get<std::string>().rfind("Sortite del numero 27 sulle ruote di ricerca", 0), 0u);
+    const json& riga = e["righe"][0];
+    EXPECT_EQ(riga["sortite"], e["casi"].size());
+    EXPECT_EQ(riga["spia"], "27");
+    EXPECT_EQ(riga["chiave"].get<std::string>().size(), 18u);
+    // Wheel names come without the list's padding.
+    EXPECT_EQ(e["casi"][0]["ruota"].get<std::string>().find(' '), std::string::npos);
+
+    const std::string prima = Istantanea(cartella_);
+    Esito r = Su({"costruttore", "--colpi", "0"});
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_EQ(r.err, "Inserire il n. di colpi di gioco !\n");
+    r = Su({"costruttore", "--tipo", "codici", "--terzine", (c_.percorso() / "manca.txt").string()});
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_NE(r.err.find("manca.txt"), std::string::npos) << r.err;
+    r = Su({"costruttore", "--ruote-ricerca", "XX"});
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_NE(r.err.find("ruota \"XX\" sconosciuta"), std::string::npos) << r.err;
+    EXPECT_EQ(Istantanea(cartella_), prima);
+}
+
 TEST(CliReale, ArchivioReale) {
     GORGO_RICHIEDI_ARCHIVI_REALI(reale);
     const json info = json::parse(Esegui({"--cartella", reale.string(), "--json", "info"}).out);
