@@ -93,17 +93,20 @@ void Segna(Tabelle& t, const Caso& c, bool soloPosizione, const FinestraNumeri& 
     PerOgniAlgoritmo(
         c, soloPosizione,
         [&](int cella, int n) {
-            for (int op = 0; op < kOp; ++op)
+            for (int op = 0; op < kOp; ++op) {
+                const uint8_t* risultati = TabellaOperazioni[static_cast<size_t>(op)][static_cast<size_t>(n)].data();
+                int32_t* q = &t.unoQ[Tabelle::Uno(op, cella, 0)];
+                int32_t* h = &t.unoH[Tabelle::Uno(op, cella, 0)];
                 for (int k = kDa[op]; k <= kA[op]; ++k) {
-                    const size_t r = static_cast<size_t>(Opera(kOperazioni[op], n, k));
-                    const size_t i = Tabelle::Uno(op, cella, k);
-                    t.unoQ[i] += f.Q[r];
-                    t.unoH[i] += f.H[r];
+                    const size_t r = risultati[k];
+                    q[k] += f.Q[r];
+                    h[k] += f.H[r];
                 }
+            }
         },
         [&](int c1, int c2, int x1, int x2) {
             for (int op = 0; op < kOp; ++op) {
-                const size_t r = static_cast<size_t>(Opera(kOperazioni[op], x1, x2));
+                const size_t r = static_cast<size_t>(OperaIndice(op, x1, x2));
                 const size_t i = Tabelle::Due(op, c1, c2);
                 t.dueQ[i] += f.Q[r];
                 t.dueH[i] += f.H[r];

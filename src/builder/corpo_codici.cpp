@@ -119,9 +119,9 @@ RisultatoValore CorpoCodici(const Preparata& r, const Spia& spia, const std::vec
                         const auto& tr = terzine->terzine[static_cast<size_t>(t)];
                         // "x" on 45 or 90 gives the number itself three times.
                         const bool fisso = op == 2 && (n == 45 || n == 90);
-                        const int r1 = fisso ? n : Opera(kOperazioni[op], n, tr[0]);
-                        const int r2 = fisso ? n : Opera(kOperazioni[op], n, tr[1]);
-                        const int r3 = fisso ? n : Opera(kOperazioni[op], n, tr[2]);
+                        const int r1 = fisso ? n : OperaIndice(op, n, tr[0]);
+                        const int r2 = fisso ? n : OperaIndice(op, n, tr[1]);
+                        const int r3 = fisso ? n : OperaIndice(op, n, tr[2]);
                         e[static_cast<size_t>(op * (quante + 1) + t)] = Vince(f, sorte, r1, r2, r3);
                     }
                 }

@@ -43,6 +43,17 @@ constexpr std::array<int16_t, 91> CostruisciVertibili() {
 
 const std::array<int16_t, 91> TabellaVertibili = CostruisciVertibili();
 
+const std::array<std::array<std::array<uint8_t, 91>, 91>, 3> TabellaOperazioni = [] {
+    std::array<std::array<std::array<uint8_t, 91>, 91>, 3> t{};
+    for (int a = 0; a <= 90; ++a)
+        for (int b = 0; b <= 90; ++b) {
+            t[0][static_cast<size_t>(a)][static_cast<size_t>(b)] = static_cast<uint8_t>(OperaPiu(a, b));
+            t[1][static_cast<size_t>(a)][static_cast<size_t>(b)] = static_cast<uint8_t>(OperaMeno(a, b));
+            t[2][static_cast<size_t>(a)][static_cast<size_t>(b)] = static_cast<uint8_t>(OperaPer(a, b));
+        }
+    return t;
+}();
+
 const std::string& NomeCella(int c) {
     static const std::array<std::string, NumeroCelle + 1> nomi = [] {
         std::array<std::string, NumeroCelle + 1> t{};

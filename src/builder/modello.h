@@ -27,6 +27,13 @@ constexpr int OperaPer(int a, int b) {
 
 enum class Operazione : char { Piu = '+', Meno = '-', Per = 'x' };
 int Opera(Operazione op, int a, int b);
+
+// The results of "+", "-" and "x" (index 0, 1, 2) for every a and b in 0..90, for the
+// search loops that try them by the million.
+extern const std::array<std::array<std::array<uint8_t, 91>, 91>, 3> TabellaOperazioni;
+inline int OperaIndice(int op, int a, int b) {
+    return TabellaOperazioni[static_cast<size_t>(op)][static_cast<size_t>(a)][static_cast<size_t>(b)];
+}
 // The operation of a sign of a key: '+', '-', 'x'; nothing for any other character.
 std::optional<Operazione> OperazioneDaSegno(char segno);
 

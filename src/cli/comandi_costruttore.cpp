@@ -2,10 +2,12 @@
 
 #include <cstdio>
 #include <fmt/format.h>
+#include <filesystem>
 #include <map>
 #include <iostream>
 
 #include "builder/contesto.h"
+#include "builder/report.h"
 #include "builder/ricerca.h"
 #include "cli/contesto.h"
 #include "config/impostazioni.h"
@@ -19,6 +21,8 @@ struct ArgomentiCostruttore {
     std::string ruoteRicerca, ruoteGioco, posizioniValide = "12345", operazioni = "+-x", terzine;
     int valore = 1, colpi = 9, ultime = 0, sorte = 2;
     bool tuttiGliAmbi = false, senzaUltime = false, soloPosizione = false, seleziona = false;
+    std::string report;
+    bool accoda = false, sovrascrivi = false;
 };
 
 // "tutte", "tutte+nz" or wheel codes (BA,CA,...,NZ, also RM for Roma), as the screen's boxes.
@@ -125,8 +129,29 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
                           ? Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " + cc.fileTerzine,
                                       "Errore", Icona::Esclamazione}
                           : cc.terzine.messaggio};
+    // The file is settled before the search, so that a refusal costs nothing.
+    if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
+        throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
+                       "Conferma", Icona::Domanda}};
     const builder::EsitoRicerca e = builder::CercaAlgoritmi(p, cc.Contesto(), {}, a.seleziona);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
+
+    if (!a.report.empty()) {
+        if (e.righe.empty()) {
+            std::cerr << config::NullaDaEsportare << "\n";
+            return;
+        }
+        const auto modo = a.accoda ? config::ModoScrittura::Accoda
+                          : a.sovrascrivi ? config::ModoScrittura::Sovrascrivi
+                                          : config::ModoScrittura::Nuovo;
+        if (Messaggio m = config::ScriviReportSuFile(a.report, builder::ReportAlgoritmi(p, e, *cc.storia), modo);
+            !m.vuoto())
+            throw Rifiuto{m, ErroreInterno};
+        if (!ctx.json) {
+            std::cout << fmt::format("{} algoritmi scritti in {}\n", e.righe.size(), a.report);
+            return;
+        }
+    }
 
     if (ctx.json) {
         nlohmann::json casi = nlohmann::json::array(), righe = nlohmann::json::array();
@@ -189,6 +214,9 @@ void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
     c->add_option("--operazioni", a->operazioni, "Codici: operazioni fra +, - e x (predefinito +-x)");
     c->add_option("--terzine", a->terzine, "File delle terzine ridotte (predefinito: impostazione FileTerzine o Terzine.txt)");
     c->add_flag("--seleziona", a->seleziona, "Righe già selezionate");
+    c->add_option("--report", a->report, "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
+    c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
+    c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
     c->callback([&ctx, a] { Costruttore(ctx, *a); });
 }
 

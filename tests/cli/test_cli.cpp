@@ -219,6 +219,30 @@ TEST_F(Cli, Costruttore) {
     EXPECT_EQ(r.codice, 2);
     EXPECT_NE(r.err.find("ruota \"XX\" sconosciuta"), std::string::npos) << r.err;
     EXPECT_EQ(Istantanea(cartella_), prima);
+
+    // The file form of the list: header block, then one line a row; an existing file is
+    // touched only when the question has an answer.
+    const std::string report = (c_.percorso() / "ReportAlgoritmi.Txt").string();
+    const std::vector<std::string> ricerca = {"costruttore", "--valore", "27", "--ruote-ricerca", "tutte",
+                                              "--indice-mese", "tutti", "--da", "01/01/2024", "--report", report};
+    ASSERT_EQ(Su(ricerca).codice, 0);
+    const std::string testo = LeggiFile(report);
+    EXPECT_EQ(testo.rfind("Gorgo 2 - Ideato da Sergio Tordelli\r\n\r\nIntervallo di ricerca         : dal ", 0), 0u);
+    EXPECT_NE(testo.find("\r\nSpia                          : Numero spia 27 in qualsiasi posizione\r\n"),
+              std::string::npos);
+    const size_t righe = e["righe"].size();
+    size_t algoritmi = 0;
+    for (size_t p = testo.find("Algoritmo: "); p != std::string::npos; p = testo.find("Algoritmo: ", p + 1)) ++algoritmi;
+    EXPECT_EQ(algoritmi, righe);
+    EXPECT_NE(testo.find("Pres./quantit\xE0: "), std::string::npos);  // Windows-1252 on disk
+    r = Su(ricerca);
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_NE(r.err.find("Le informazioni vanno aggiunte in calce ?"), std::string::npos);
+    EXPECT_EQ(LeggiFile(report), testo);
+    auto accoda = ricerca;
+    accoda.push_back("--accoda");
+    ASSERT_EQ(Su(accoda).codice, 0);
+    EXPECT_EQ(LeggiFile(report), testo + testo);
 }
 
 TEST(CliReale, ArchivioReale) {
