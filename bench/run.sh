@@ -21,3 +21,23 @@ hyperfine -N --warmup 5 --runs 50 "$BUILD/gorgo-cli --cartella $DATI info" 2>/de
 
 echo "== Memoria di picco di gorgo-cli info"
 /usr/bin/time -f "%M KB" "$BUILD/gorgo-cli" --cartella "$DATI" info >/dev/null
+
+echo "== Costruttore S1-S6: gorgo-cli come processo intero (tempo, memoria di picco)"
+TERZINE="$BUILD/Terzine-bench.txt"
+python3 - "$TERZINE" <<'PY'
+import random, sys
+r = random.Random(1002)
+with open(sys.argv[1], "w") as f:
+    for _ in range(1002):
+        f.write("%02d %02d %02d\n" % tuple(sorted(r.sample(range(1, 91), 3))))
+PY
+BASE=(--cartella "$DATI" costruttore --valore 27 --ruote-ricerca tutte --ruote-gioco tutte --colpi 9
+      --indice-mese tutti --da 30/12/2015 --a 30/12/2025)
+misura() { local nome="$1"; shift; /usr/bin/time -f "$nome: %e s, %M KB" "$BUILD/gorgo-cli" "$@" >/dev/null; }
+misura S1 "${BASE[@]}"
+misura S2 "${BASE[@]}" --modo tutti
+misura S3 "${BASE[@]}" --tipo ambi
+misura S4-ambo "${BASE[@]}" --tipo terzine-ambo
+misura S4-terno "${BASE[@]}" --tipo terzine-terno
+misura S5 "${BASE[@]}" --tipo codici --sorte 2 --operazioni +-x --terzine "$TERZINE"
+misura S6 "${BASE[@]/30\/12\/2015/30/12/2020}" --spia ambo --tutti-gli-ambi
