@@ -178,14 +178,9 @@ RisultatoValore CorpoAmbate(const Preparata& r, const Spia& spia, const std::vec
         });
 
     // Only the top of the ordered list can be selected: order just that much.
-    const size_t testa = std::min<size_t>(lista.size(), 61);
-    std::vector<size_t> ordine(lista.size());
-    for (size_t i = 0; i < ordine.size(); ++i) ordine[i] = i;
-    std::partial_sort(ordine.begin(), ordine.begin() + static_cast<long>(testa), ordine.end(),
-                      [&](size_t a, size_t b) { return Prima(lista[a], lista[b]); });
-    std::vector<Candidato> ordinata;
-    for (size_t i = 0; i < testa; ++i) ordinata.push_back(lista[ordine[i]]);
-    const size_t scelte = SelezioneAmbate(ordinata, r.tuttiIValori);
+    const Testa testa = OrdinaTesta(lista, 61);
+    const std::vector<size_t>& ordine = testa.indici;
+    const size_t scelte = SelezioneAmbate(testa.ordinata, r.tuttiIValori);
 
     const CodaChiave coda = CodaPer(r, spia, casi);
     const std::string testoSpia = TestoSpia(r, spia);

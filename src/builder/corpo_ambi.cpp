@@ -114,18 +114,21 @@ struct Forma {
 
 }  // namespace
 
+bool CinquinaPiena(const RecordEstrazione& e, int ruota, std::array<int, 5>& n, bool ordina) {
+    for (int p = 0; p < 5; ++p) {
+        n[static_cast<size_t>(p)] = e.Ruota[ruota - 1][p];
+        if (n[static_cast<size_t>(p)] == 0) return false;
+    }
+    if (ordina) std::sort(n.begin(), n.end());
+    return true;
+}
+
 void RiempiFinestraCoppie(const Preparata& r, const Caso& c, int16_t* coppie, bool ordina) {
     for (int32_t d = c.indice + 1; d <= c.fineFinestra; ++d) {
         const RecordEstrazione& e = (*r.storia)[d];
         for (int w : r.ruoteGioco) {
             std::array<int, 5> n;
-            bool piena = true;
-            for (int p = 0; p < 5; ++p) {
-                n[static_cast<size_t>(p)] = e.Ruota[w - 1][p];
-                piena = piena && n[static_cast<size_t>(p)] != 0;
-            }
-            if (!piena) continue;
-            if (ordina) std::sort(n.begin(), n.end());
+            if (!CinquinaPiena(e, w, n, ordina)) continue;
             for (int i = 0; i < 4; ++i)
                 for (int j = i + 1; j < 5; ++j) {
                     const int a = std::min(n[static_cast<size_t>(i)], n[static_cast<size_t>(j)]);
@@ -240,10 +243,7 @@ RisultatoValore CorpoAmbi(const Preparata& r, const Spia& spia, const std::vecto
         soglia += CrescitaSoglia(righe, p.indiceMese);
         if (righe == 0) continue;
         const size_t quante = p.modoSpia == ModoSpia::Fisso && !r.tuttiIValori ? std::min<size_t>(lista.size(), 15) : 1;
-        std::vector<size_t> ordine(lista.size());
-        for (size_t i = 0; i < ordine.size(); ++i) ordine[i] = i;
-        std::partial_sort(ordine.begin(), ordine.begin() + static_cast<long>(quante), ordine.end(),
-                          [&](size_t x, size_t y) { return Prima(lista[x], lista[y]); });
+        const std::vector<size_t> ordine = OrdinaTesta(lista, quante).indici;
         for (size_t i = 0; i < quante; ++i) {
             Candidato c = lista[ordine[i]];
             c.ordine = scelti.size();

@@ -152,13 +152,9 @@ RisultatoValore CorpoCodici(const Preparata& r, const Spia& spia, const std::vec
                 forme.push_back({cella, t, op});
             }
     const size_t righe = lista.size();
-    const size_t testa = std::min<size_t>(righe, 15);
-    std::vector<size_t> ordine(righe);
-    for (size_t i = 0; i < righe; ++i) ordine[i] = i;
-    std::partial_sort(ordine.begin(), ordine.begin() + static_cast<long>(testa), ordine.end(),
-                      [&](size_t a, size_t b) { return Prima(lista[a], lista[b]); });
-    std::vector<Candidato> ordinata;
-    for (size_t i = 0; i < testa; ++i) ordinata.push_back(lista[ordine[i]]);
+    const Testa testa = OrdinaTesta(lista, 15);
+    const std::vector<size_t>& ordine = testa.indici;
+    const std::vector<Candidato>& ordinata = testa.ordinata;
     size_t scelte = SelezioneQuindici(ordinata, righe, p.modoSpia != ModoSpia::Fisso || r.tuttiIValori);
     if (r.tuttiIValori) scelte = std::min<size_t>(scelte, 1);  // the best row of the value
 

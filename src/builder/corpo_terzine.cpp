@@ -33,13 +33,7 @@ void RiempiTerne(const Preparata& r, const Caso& c, Finestre& f) {
         const RecordEstrazione& e = (*r.storia)[d];
         for (int w : r.ruoteGioco) {
             std::array<int, 5> n;
-            bool piena = true;
-            for (int p = 0; p < 5; ++p) {
-                n[static_cast<size_t>(p)] = e.Ruota[w - 1][p];
-                piena = piena && n[static_cast<size_t>(p)] != 0;
-            }
-            if (!piena) continue;
-            std::sort(n.begin(), n.end());
+            if (!CinquinaPiena(e, w, n, true)) continue;
             for (int i = 0; i < 3; ++i)
                 for (int j = i + 1; j < 4; ++j)
                     for (int k = j + 1; k < 5; ++k) {
@@ -135,13 +129,9 @@ RisultatoValore CorpoTerzine(const Preparata& r, const Spia& spia, const std::ve
     const size_t righe = lista.size();
     soglia += CrescitaSoglia(static_cast<int>(righe), p.indiceMese);
 
-    const size_t testa = std::min<size_t>(righe, 15);
-    std::vector<size_t> ordine(righe);
-    for (size_t i = 0; i < righe; ++i) ordine[i] = i;
-    std::partial_sort(ordine.begin(), ordine.begin() + static_cast<long>(testa), ordine.end(),
-                      [&](size_t a, size_t b) { return Prima(lista[a], lista[b]); });
-    std::vector<Candidato> ordinata;
-    for (size_t i = 0; i < testa; ++i) ordinata.push_back(lista[ordine[i]]);
+    const Testa testa = OrdinaTesta(lista, 15);
+    const std::vector<size_t>& ordine = testa.indici;
+    const std::vector<Candidato>& ordinata = testa.ordinata;
     const size_t scelte = SelezioneQuindici(ordinata, righe, p.modoSpia == ModoSpia::Tutti || r.tuttiIValori);
 
     const CodaChiave coda = CodaPer(r, spia, casi);

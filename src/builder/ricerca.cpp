@@ -105,6 +105,18 @@ std::string TestoSpia(const Preparata& r, const Spia& spia) {
     return fmt::format("{:>2}", spia.valore);
 }
 
+Testa OrdinaTesta(const std::vector<Candidato>& lista, size_t quante) {
+    Testa t;
+    quante = std::min(quante, lista.size());
+    t.indici.resize(lista.size());
+    for (size_t i = 0; i < lista.size(); ++i) t.indici[i] = i;
+    std::partial_sort(t.indici.begin(), t.indici.begin() + static_cast<long>(quante), t.indici.end(),
+                      [&](size_t a, size_t b) { return Prima(lista[a], lista[b]); });
+    t.indici.resize(quante);
+    for (size_t i : t.indici) t.ordinata.push_back(lista[i]);
+    return t;
+}
+
 size_t SelezioneAmbate(const std::vector<Candidato>& lista, bool tuttiIValori) {
     if (lista.empty()) return 0;
     if (tuttiIValori) {

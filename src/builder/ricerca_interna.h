@@ -2,6 +2,7 @@
 // Shared pieces of the search bodies: the prepared search, the cases of a spy value,
 // the windows after a case, and the ordering of candidate rows.
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -67,6 +68,14 @@ inline bool StessoTesto(const Candidato& a, const Candidato& b) {
     return a.presenze == b.presenze && a.quantita == b.quantita;
 }
 
+// The first `quante` places of a list in its kept order: the indices into the list, and
+// the candidates themselves. Only the head is ever selected, so only the head is sorted.
+struct Testa {
+    std::vector<size_t> indici;
+    std::vector<Candidato> ordinata;
+};
+Testa OrdinaTesta(const std::vector<Candidato>& lista, size_t quante);
+
 // The selection rule of the Ambate body on a list already in order.
 size_t SelezioneAmbate(const std::vector<Candidato>& lista, bool tuttiIValori);
 
@@ -82,6 +91,10 @@ RisultatoValore CorpoAmbate(const Preparata& r, const Spia& spia, const std::vec
 }  // namespace gorgo::builder::interno
 
 namespace gorgo::builder::interno {
+
+// The five numbers of a wheel in a draw, when all five are there (a zero skips the wheel
+// in the pair and triple windows); sorted ascending on request.
+bool CinquinaPiena(const RecordEstrazione& e, int ruota, std::array<int, 5>& n, bool ordina);
 
 // The pair window of the Ambi and Terzine bodies: Q of every pair {a, b}, index a + b * 91
 // with a below b, from the wheels whose five numbers are all present.
