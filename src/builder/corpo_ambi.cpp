@@ -60,7 +60,8 @@ const TabellaRisultatiB& RisultatiPer() {
 }
 
 // Adds row[x(j1)] for j1 = 0..44 where x runs upward from `inizio` and wraps past 90.
-inline void SommaSegmento(int32_t* __restrict q, int32_t* __restrict h, const int16_t* __restrict riga, int inizio) {
+template <typename T>
+inline void SommaSegmento(int32_t* __restrict q, int32_t* __restrict h, const T* __restrict riga, int inizio) {
     int j = 0;
     int x = inizio;
     const int primo = std::min(kCostanti, 91 - x);  // places before the wrap
@@ -77,7 +78,8 @@ inline void SommaSegmento(int32_t* __restrict q, int32_t* __restrict h, const in
     }
 }
 
-inline void SommaPer(int32_t* __restrict q, int32_t* __restrict h, const int16_t* __restrict riga,
+template <typename T>
+inline void SommaPer(int32_t* __restrict q, int32_t* __restrict h, const T* __restrict riga,
                      const uint8_t* __restrict indici) {
     for (int j = 0; j < kCostanti; ++j) {
         const int v = riga[indici[j]];
@@ -88,13 +90,17 @@ inline void SommaPer(int32_t* __restrict q, int32_t* __restrict h, const int16_t
 
 // Per case: the 55 numbers and the pair matrix as full rows (row y holds the pair {x, y}
 // at x; at x = y the pair {y, Vertibile(y)}, since equal results turn the second into it).
+// A pair comes out at most once a wheel a draw, so with colpi x play wheels below 256 the
+// counts fit a byte: half the memory when the cases run to thousands.
+template <typename T>
 struct CasoAmbi {
     std::array<uint8_t, 56> qe{};
-    std::vector<int16_t> righe;  // 91 x 91
+    std::vector<T> righe;  // 91 x 91
 };
 
-CasoAmbi PreparaCaso(const Preparata& r, const Caso& c) {
-    CasoAmbi ca;
+template <typename T>
+CasoAmbi<T> PreparaCaso(const Preparata& r, const Caso& c) {
+    CasoAmbi<T> ca;
     for (int cella = 1; cella <= 55; ++cella) ca.qe[static_cast<size_t>(cella)] = c.numero(cella);
     std::vector<int16_t> coppie(91 * 91, 0);
     RiempiFinestraCoppie(r, c, coppie.data(), false);
@@ -103,7 +109,7 @@ CasoAmbi PreparaCaso(const Preparata& r, const Caso& c) {
         for (int x = 1; x <= 90; ++x) {
             const int a = x == y ? std::min(y, Vertibile(y)) : std::min(x, y);
             const int b = x == y ? std::max(y, Vertibile(y)) : std::max(x, y);
-            ca.righe[static_cast<size_t>(y * 91 + x)] = coppie[static_cast<size_t>(a + b * 91)];
+            ca.righe[static_cast<size_t>(y * 91 + x)] = static_cast<T>(coppie[static_cast<size_t>(a + b * 91)]);
         }
     return ca;
 }
@@ -154,14 +160,16 @@ int CrescitaSoglia(int righe, int indiceMese) {
     return indiceMese == 22 ? 2 : 1;
 }
 
-RisultatoValore CorpoAmbi(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi) {
+namespace {
+
+template <typename T>
+RisultatoValore CorpoAmbiT(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi) {
     RisultatoValore out;
-    if (casi.empty()) return out;
     const ParametriRicerca& p = *r.p;
     const bool soloPosizione = p.soloPosizione || p.tipoSpia == TipoSpia::Ambo;  // "Ambi (posiz. q.e.)"
 
-    std::vector<CasoAmbi> dati(casi.size());
-    tbb::parallel_for(size_t{0}, casi.size(), [&](size_t k) { dati[k] = PreparaCaso(r, casi[k]); });
+    std::vector<CasoAmbi<T>> dati(casi.size());
+    tbb::parallel_for(size_t{0}, casi.size(), [&](size_t k) { dati[k] = PreparaCaso<T>(r, casi[k]); });
 
     int soglia = p.indiceMese != 22 ? 2 : SogliaPerCasi(static_cast<int>(casi.size()));
     const CodaChiave coda = CodaPer(r, spia, casi);
@@ -180,7 +188,7 @@ RisultatoValore CorpoAmbi(const Preparata& r, const Spia& spia, const std::vecto
         std::fill(tab->Q.begin(), tab->Q.end(), 0);
         std::fill(tab->H.begin(), tab->H.end(), 0);
         if (soloPosizione) {
-            for (const CasoAmbi& ca : dati)
+            for (const CasoAmbi<T>& ca : dati)
                 for (int b = primoB; b <= 55; ++b) {
                     const int xb = ca.qe[static_cast<size_t>(b)];
                     if (xb == 0) continue;
@@ -195,10 +203,10 @@ RisultatoValore CorpoAmbi(const Preparata& r, const Spia& spia, const std::vecto
                 const int regola = compito / kCostanti, j2 = compito % kCostanti;
                 const Operazione opA = kOpA[regola], opB = kOpB[regola];
                 const int k2 = CostanteA(opA, j2);
-                for (const CasoAmbi& ca : dati) {
+                for (const CasoAmbi<T>& ca : dati) {
                     const int y = Opera(opA, ca.qe[static_cast<size_t>(a)], k2);
                     if (y == 0) continue;  // an empty A with "+ 0": no pair can hold 0
-                    const int16_t* riga = &ca.righe[static_cast<size_t>(y * 91)];
+                    const T* riga = &ca.righe[static_cast<size_t>(y * 91)];
                     for (int b = primoB; b <= 55; ++b) {
                         const int xb = ca.qe[static_cast<size_t>(b)];
                         if (xb == 0) continue;
@@ -276,6 +284,14 @@ RisultatoValore CorpoAmbi(const Preparata& r, const Spia& spia, const std::vecto
         out.righe.push_back(std::move(riga));
     }
     return out;
+}
+
+}  // namespace
+
+RisultatoValore CorpoAmbi(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi) {
+    if (casi.empty()) return {};
+    const size_t massimo = static_cast<size_t>(r.p->colpi) * r.ruoteGioco.size();
+    return massimo <= 255 ? CorpoAmbiT<uint8_t>(r, spia, casi) : CorpoAmbiT<int16_t>(r, spia, casi);
 }
 
 }  // namespace gorgo::builder::interno

@@ -104,7 +104,8 @@ ParametriRicerca ParametriCasuali(std::mt19937& g, const StoriaLotto& s, TipoRic
     p.indiceMese = indice == 0 ? 0 : indice == 1 ? 1 + static_cast<int>(g() % 5) : 22;
     p.ruoteRicerca = RuoteCasuali(g);
     p.ruoteGioco = RuoteCasuali(g);
-    p.colpi = 1 + static_cast<int>(g() % 12);
+    // Long spans too: counts of a pair then pass what a byte holds.
+    p.colpi = g() % 4 == 0 ? 24 + static_cast<int>(g() % 20) : 1 + static_cast<int>(g() % 12);
     p.controllaUltime = g() % 3 != 0;
     p.soloPosizione = g() % 4 == 0;
     if (g() % 3 == 0) {
@@ -182,6 +183,26 @@ TEST_P(Differenziale, ArchiviCasuali) {
 INSTANTIATE_TEST_SUITE_P(Corpi, Differenziale,
                          ::testing::Values(TipoRicerca::Ambate, TipoRicerca::Ambi, TipoRicerca::TerzineAmbo,
                                            TipoRicerca::TerzineTerno, TipoRicerca::Codici));
+
+// Colpi x play wheels above 255: the engine keeps its pair counts wider.
+TEST(DifferenzialeAmbi, ConteggiOltreIlByte) {
+    std::mt19937 g(4242);
+    const StoriaLotto s = StoriaCasuale(g, 3);
+    const IndiciMensili im = CalcolaIndiciMensili(s, "NNYNYNY");
+    ContestoRicerca ctx{&s, {}, &im, nullptr};
+    ParametriRicerca p;
+    p.tipoRicerca = TipoRicerca::Ambi;
+    p.valoreSpia = 7;
+    p.indiceMese = 22;
+    p.colpi = 40;
+    p.ruoteRicerca = {true, false, false, false, false, false, false, false, false, false, false, true};
+    p.ruoteGioco = p.ruoteRicerca;
+    p.dataA = s.DataEstrazione(s.NumeroEstrazioni() - 45);
+    p.dataDa = s.DataEstrazione(s.NumeroEstrazioni() - 60);
+    const EsitoRicerca e = CercaAlgoritmi(p, ctx);
+    ASSERT_FALSE(e.righe.empty());
+    Confronta(e, CercaAlgoritmiLetterale(p, ctx), Descrivi(p));
+}
 
 // The real history over short periods, with the screen's usual choices.
 TEST(DifferenzialeReale, PeriodiBrevi) {
