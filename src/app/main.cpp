@@ -1,0 +1,32 @@
+// gorgo: the desktop workbench.
+
+#include <QApplication>
+#include <QCommandLineParser>
+
+#include "archives/percorso.h"
+#include "screens/archives/avvio.h"
+
+int main(int argc, char** argv) {
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Gorgo 2"));
+    QApplication::setApplicationVersion(QStringLiteral(GORGO_VERSIONE));
+
+    QCommandLineParser opzioni;
+    opzioni.setApplicationDescription(QStringLiteral("Gorgo 2 - Tris metodologie: banco di lavoro per Lotto, 10eLotto e SuperEnalotto"));
+    opzioni.addHelpOption();
+    const QCommandLineOption cartella(QStringLiteral("cartella"),
+                                      QStringLiteral("Cartella del programma (contiene Gorgo.ini e Archivi/)."),
+                                      QStringLiteral("DIR"));
+    opzioni.addOption(cartella);
+    opzioni.process(app);
+
+    std::optional<std::filesystem::path> scelta;
+    if (opzioni.isSet(cartella)) scelta = opzioni.value(cartella).toStdString();
+    const std::filesystem::path percorso = gorgo::TrovaPercorsoProgramma(gorgo::AmbienteCorrente(scelta));
+
+    std::unique_ptr<QLockFile> blocco;
+    std::unique_ptr<gorgo::schermi::FrmMain> principale = gorgo::schermi::AvviaProgramma(percorso, blocco);
+    if (!principale) return 1;
+    principale->show();
+    return app.exec();
+}

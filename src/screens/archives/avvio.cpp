@@ -1,0 +1,61 @@
+#include "screens/archives/avvio.h"
+
+#include <QCryptographicHash>
+#include <QDir>
+
+#include "archives/demo.h"
+#include "config/impostazioni.h"
+#include "config/restrizioni.h"
+#include "screens/archives/ambiente.h"
+#include "screens/config/messaggi.h"
+
+namespace gorgo::schermi {
+
+std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorso) {
+    // The lock stands in the program folder; a folder that is not there yet gets one in the
+    // temporary folder, named after it.
+    QString file;
+    if (std::filesystem::is_directory(percorso))
+        file = QString::fromStdString((percorso / "Gorgo.lock").string());
+    else
+        file = QDir::temp().filePath(
+            QStringLiteral("gorgo-%1.lock")
+                .arg(QString::fromLatin1(QCryptographicHash::hash(QByteArray::fromStdString(percorso.string()),
+                                                                  QCryptographicHash::Sha1)
+                                             .toHex()
+                                             .left(16))));
+    auto blocco = std::make_unique<QLockFile>(file);
+    // A lock whose process is gone is stale at once; a live one never is.
+    blocco->setStaleLockTime(0);
+    if (!blocco->tryLock(0)) return nullptr;
+    return blocco;
+}
+
+std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorso, std::unique_ptr<QLockFile>& blocco) {
+    AmbienteApp& a = Ambiente();
+    a.PercorsoProgramma = percorso;
+    a.ini.SetFileName((percorso / "Gorgo.ini").string());
+
+    blocco = BloccaIstanza(percorso);
+    if (!blocco) {
+        MostraMessaggio(nullptr, {MessaggioIstanzaUnica, "", Icona::Esclamazione});
+        return nullptr;
+    }
+    try {
+        a.archivio = std::make_unique<Archivio>(Archivio::Apri(percorso, ModoApertura::Scrittura));
+    } catch (const ErroreArchivio& e) {
+        MostraMessaggio(nullptr, {e.what(), "Errore", Icona::Stop});
+        return nullptr;
+    }
+    if (Messaggio m = ControllaPresenzaArchivi(*a.archivio); !m.vuoto()) {
+        MostraMessaggio(nullptr, m);
+        a.archivio.reset();
+        return nullptr;
+    }
+    a.demo = CartellaDemo(percorso);
+    // Read at start-up and kept as a key only.
+    (void)config::LeggiBooleano(a.ini, config::sezioni::Settings, "Minimizza", false);
+    return std::make_unique<FrmMain>();
+}
+
+}  // namespace gorgo::schermi

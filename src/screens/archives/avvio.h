@@ -1,0 +1,24 @@
+#pragma once
+// Start-up (Sub Main): the single instance, the settings, the archives and their check,
+// the restrictions, then the main window.
+
+#include <QLockFile>
+#include <filesystem>
+#include <memory>
+
+#include "screens/archives/frm_main.h"
+
+namespace gorgo::schermi {
+
+inline constexpr const char* MessaggioIstanzaUnica = "Non è possible avviare più di una istanza del programma !";
+
+// The lock of one running instance for a program folder; null when another instance holds
+// it. A lock left by a run that crashed does not count.
+std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorsoProgramma);
+
+// Runs the start-up on a program folder. On a refusal the message has been shown and the
+// result is null: the program ends.
+std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorsoProgramma,
+                                        std::unique_ptr<QLockFile>& blocco);
+
+}  // namespace gorgo::schermi

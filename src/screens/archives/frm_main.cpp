@@ -1,0 +1,318 @@
+#include "screens/archives/frm_main.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <QVBoxLayout>
+#include <fmt/format.h>
+
+#include "config/impostazioni.h"
+#include "config/restrizioni.h"
+#include "screens/archives/ambiente.h"
+#include "screens/archives/frm_about_me.h"
+#include "screens/archives/twips.h"
+#include "screens/config/browser.h"
+#include "screens/config/frm_colori.h"
+#include "screens/config/frm_esclusioni.h"
+#include "screens/config/frm_opzioni.h"
+#include "screens/config/frm_url.h"
+#include "screens/config/messaggi.h"
+#include "screens/config/stile.h"
+
+namespace gorgo::schermi {
+
+namespace {
+
+// The main window is sized in twips as the system lays it out.
+constexpr int kLarghezzaMinima = 9300, kAltezzaMinima = 8145;
+constexpr int kLarghezzaPredefinita = 14800, kAltezzaPredefinita = 8300;
+
+QString TestoUltima(int numeroAnno, const std::string& data) {
+    return QString::fromStdString(fmt::format("n.{} del {}", numeroAnno, data));
+}
+
+}  // namespace
+
+FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
+    setObjectName("frmMain");
+    QString titolo = QString::fromUtf8(CaptionPrincipale);
+    if (Ambiente().demo) titolo += QStringLiteral(" - ARCHIVIO DIMOSTRATIVO");
+    setWindowTitle(titolo);
+    CreaMenu();
+    CreaPannello();
+
+    auto* barra = new QStatusBar(this);
+    barra->setObjectName("sbStatusBar");
+    setStatusBar(barra);
+    if (Ambiente().demo)
+        barra->showMessage(QStringLiteral("Archivio dimostrativo: estrazioni sintetiche, non reali - ") +
+                           QString::fromStdString(Ambiente().PercorsoProgramma.string()));
+    else
+        barra->showMessage(QString::fromStdString(Ambiente().PercorsoProgramma.string()));
+
+    const QScreen* s = screen();
+    setMinimumSize(PixelDaTwips(kLarghezzaMinima, s), PixelDaTwips(kAltezzaMinima, s));
+    resize(PixelDaTwips(kLarghezzaPredefinita, s), PixelDaTwips(kAltezzaPredefinita, s));
+
+    AggiornaUltimeEstrazioni();
+    MostraRestrizioni();
+    ApplicaStile(this, Ambiente().ini);
+    RipristinaPosizione(this, "MainLeft", "MainTop");
+}
+
+QPushButton* FrmMain::Pulsante(const char* nome, const QString& testo) {
+    auto* b = new QPushButton(testo, this);
+    b->setObjectName(nome);
+    b->setMinimumHeight(36);
+    return b;
+}
+
+void FrmMain::CreaMenu() {
+    QMenuBar* mb = menuBar();
+    auto voce = [this](QMenu* m, const char* nome, const QString& testo, auto azione) {
+        QAction* a = m->addAction(testo);
+        a->setObjectName(nome);
+        if constexpr (std::is_same_v<decltype(azione), std::nullptr_t>) {
+            a->setEnabled(false);
+            a->setToolTip(QString::fromUtf8(TestoInArrivo));
+            a->setStatusTip(QString::fromUtf8(TestoInArrivo));
+        } else {
+            connect(a, &QAction::triggered, this, azione);
+        }
+        return a;
+    };
+    QMenu* file = mb->addMenu(QStringLiteral("&File"));
+    voce(file, "mnuFileExit", QStringLiteral("&Esci"), [this] { close(); });
+
+    QMenu* lotto = mb->addMenu(QStringLiteral("&Estrazioni Lotto"));
+    voce(lotto, "mnuEstrazioniInserisci", QStringLiteral("Inserisci/modifica"), nullptr);
+    voce(lotto, "mnuEstrazioniConsulta", QStringLiteral("Consulta"), nullptr);
+    voce(lotto, "mnuEstrazioniAggiorna", QStringLiteral("Aggiorna da file..."), nullptr);
+    voce(lotto, "mnuEstrazioniAggiornaInt", QStringLiteral("Aggiorna archivi Lotto da Internet..."), nullptr);
+    voce(lotto, "mnuEstrazioniEsporta", QStringLiteral("Esporta archivio lotto..."), nullptr);
+    voce(lotto, "mnuEstrazioniStampa", QStringLiteral("Stampa..."), nullptr);
+
+    QMenu* dieci = mb->addMenu(QStringLiteral("Estrazioni 10eLotto"));
+    voce(dieci, "mnuEstrazioniConsulta10elotto", QStringLiteral("Consulta"), nullptr);
+    voce(dieci, "mnuEstrazioniStampa10elotto", QStringLiteral("Stampa..."), nullptr);
+
+    QMenu* super = mb->addMenu(QStringLiteral("Estrazioni Superenalotto"));
+    voce(super, "mnuEstrazioniInserisciSuper", QStringLiteral("Inserisci/modifica"), nullptr);
+    voce(super, "mnuEstrazioniConsultaSuper", QStringLiteral("Consulta"), nullptr);
+    voce(super, "mnuEstrazioniAggiornaSuper", QStringLiteral("Aggiorna da file..."), nullptr);
+    voce(super, "mnuEstrazioniAggiornaIntSuper", QStringLiteral("Aggiorna archivi SuperEnalotto da Internet..."), nullptr);
+    voce(super, "mnuEstrazioniStampaSuper", QStringLiteral("Stampa..."), nullptr);
+
+    QMenu* strumenti = mb->addMenu(QStringLiteral("S&trumenti"));
+    voce(strumenti, "mnuStrumentiRestrizioni", QStringLiteral("Restrizioni di ricerca..."), [this] { ApriOpzioni(); });
+    voce(strumenti, "mnuStrumentiOpzioni", QStringLiteral("Opzioni..."), [this] { ApriEsclusioni(); });
+    voce(strumenti, "mnuStrumentiWeb", QStringLiteral("Sito web Ardesia"), [this] { ApriSitoWeb(); });
+    voce(strumenti, "mnuStrumentiUrl", QStringLiteral("Url predefinita"), [this] { ApriUrl(); });
+    voce(strumenti, "mnuColori", QStringLiteral("Colori"), [this] { ApriColori(); });
+    voce(strumenti, "mnuStrumentiPannello", QStringLiteral("Ripristina tutti i pannelli"), [this] { RipristinaPannelli(); });
+
+    QMenu* utility = mb->addMenu(QStringLiteral("&Utility"));
+    voce(utility, "mnuUtilitySommaCinquine", QStringLiteral("Utility somma cinquine"), nullptr);
+    voce(utility, "mnuUtilityPuntiIncogniti", QStringLiteral("I Punti incogniti"), nullptr);
+    voce(utility, "mnuRicercaQuaterna", QStringLiteral("Ricerca simultanea per il gioco della quaterna"), nullptr);
+    voce(utility, "mnuAmbateAmbiTerniMulti", QStringLiteral("Ambate ambi e terni multiruota"), nullptr);
+
+    QMenu* aiuto = mb->addMenu(QStringLiteral("&?"));
+    voce(aiuto, "mnuHelpAbout", QStringLiteral("&Informazioni su "), [this] { ApriInformazioni(); });
+    for (QMenu* m : {file, lotto, dieci, super, strumenti, utility, aiuto}) m->setToolTipsVisible(true);
+}
+
+void FrmMain::CreaPannello() {
+    auto* centro = new QWidget(this);
+    centro->setObjectName("Picture1");
+    auto* v = new QVBoxLayout(centro);
+
+    auto* titolo = new QLabel(QStringLiteral("Gorgo 2 - Tris metodologie"), centro);
+    titolo->setObjectName("lblTitolo");
+    QFont f = titolo->font();
+    f.setPointSize(f.pointSize() + 8);
+    f.setBold(true);
+    titolo->setFont(f);
+    titolo->setAlignment(Qt::AlignCenter);
+    titolo->setMinimumHeight(64);
+    titolo->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    v->addWidget(titolo);
+
+    // Last draws and restrictions.
+    auto* pannello = new QGroupBox(centro);
+    pannello->setObjectName("Picture2");
+    auto* g = new QGridLayout(pannello);
+    auto* testaUltima = new QLabel(QStringLiteral("Ultima estrazione memorizzata :"), pannello);
+    testaUltima->setObjectName("lblTestaUltima");
+    g->addWidget(testaUltima, 0, 0, 1, 2);
+    const char* giochi[] = {"Lotto / 10eLotto", "SuperEnalotto"};
+    for (int i = 0; i < 2; ++i) {
+        auto* gioco = new QLabel(QString::fromUtf8(giochi[i]), pannello);
+        gioco->setObjectName(QStringLiteral("lblGioco_%1").arg(i));
+        lblUltimaEstrazione_[static_cast<size_t>(i)] = new QLabel(pannello);
+        lblUltimaEstrazione_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("lblUltimaEstrazione_%1").arg(i));
+        QFont b = lblUltimaEstrazione_[static_cast<size_t>(i)]->font();
+        b.setBold(true);
+        lblUltimaEstrazione_[static_cast<size_t>(i)]->setFont(b);
+        g->addWidget(gioco, i + 1, 0);
+        g->addWidget(lblUltimaEstrazione_[static_cast<size_t>(i)], i + 1, 1);
+    }
+    auto* restrizioni = new QGroupBox(pannello);
+    restrizioni->setObjectName("fraRestrizioni");
+    auto* r = new QVBoxLayout(restrizioni);
+    auto* testaRestrizioni = new QLabel(QStringLiteral("Restrizioni attive in ricerche statistiche:"), restrizioni);
+    testaRestrizioni->setObjectName("lblTestaRestrizioni");
+    r->addWidget(testaRestrizioni);
+    lblNessuna_ = new QLabel(QString::fromUtf8(config::TestoNessuna.data(), static_cast<int>(config::TestoNessuna.size())),
+                             restrizioni);
+    lblNessuna_->setObjectName("lblNessuna");
+    r->addWidget(lblNessuna_);
+    for (size_t i = 0; i < lblRestrizioni_.size(); ++i) {
+        const auto t = config::TestiRestrizioni[i];
+        lblRestrizioni_[i] = new QLabel(QString::fromUtf8(t.data(), static_cast<int>(t.size())), restrizioni);
+        lblRestrizioni_[i]->setObjectName(QStringLiteral("lblRestrizioni_%1").arg(i));
+        r->addWidget(lblRestrizioni_[i]);
+    }
+    auto* cambia = Pulsante("cmdCambiaImpostazioniRestrizione", QStringLiteral("Cambia..."));
+    cambia->setToolTip(
+        QStringLiteral("Permette di impostare i parametri di esclusione per le ricerche statistiche"));
+    connect(cambia, &QPushButton::clicked, this, [this] { ApriOpzioni(); });
+    r->addWidget(cambia, 0, Qt::AlignLeft);
+    r->addStretch();
+    g->addWidget(restrizioni, 0, 2, 4, 1);
+    g->setColumnStretch(1, 1);
+    v->addWidget(pannello);
+
+    // The procedures.
+    auto* pulsanti = new QGroupBox(centro);
+    pulsanti->setObjectName("fraPulsanti");
+    auto* p = new QGridLayout(pulsanti);
+    struct Voce {
+        const char* nome;
+        const char* testo;
+    };
+    const Voce voci[] = {{"cmdGorgo", "The Gorgo 2"},
+                         {"cmdPrecursori", "La scia inversa dei precursori"},
+                         {"cmdAmboEnucleato", "L'ambo enucleato"},
+                         {"cmdNuovaProcedura", "Precursori 10elotto"},
+                         {"Command1", "Precursori Superenalotto"},
+                         {"cmdProcedura", "Procedura"}};
+    int i = 0;
+    for (const Voce& vc : voci) {
+        QPushButton* b = Pulsante(vc.nome, QString::fromUtf8(vc.testo));
+        b->setEnabled(false);
+        b->setToolTip(QString::fromUtf8(TestoInArrivo));
+        p->addWidget(b, i / 3, i % 3);
+        ++i;
+    }
+    const Voce scarica[] = {{"cmdScarica_0", "Scarica aggiornamento archivi Lotto/10eLotto da internet..."},
+                            {"cmdScarica_1", "Scarica aggiornamento archivio Superenalotto da internet..."}};
+    for (int k = 0; k < 2; ++k) {
+        QPushButton* b = Pulsante(scarica[k].nome, QStringLiteral("..."));
+        b->setMaximumWidth(48);
+        b->setEnabled(false);
+        // The tool tip of the system for the first; "comes later" while the screen is not there.
+        b->setToolTip(k == 0 ? QStringLiteral("Aggiorna l'archivio estrazioni via internet - %1").arg(QString::fromUtf8(TestoInArrivo))
+                             : QString::fromUtf8(TestoInArrivo));
+        auto* etichetta = new QLabel(QString::fromUtf8(scarica[k].testo), pulsanti);
+        etichetta->setObjectName(QStringLiteral("lblScarica_%1").arg(k));
+        p->addWidget(b, 2 + k, 0, Qt::AlignRight);
+        p->addWidget(etichetta, 2 + k, 1, 1, 2);
+    }
+    v->addWidget(pulsanti);
+    v->addStretch();
+    setCentralWidget(centro);
+}
+
+void FrmMain::AggiornaUltimeEstrazioni() {
+    Archivio* a = Ambiente().archivio.get();
+    if (!a) return;
+    if (a->NumeroEstrazioni() > 0) {
+        const RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+        lblUltimaEstrazione_[0]->setText(TestoUltima(r.NumeroAnno, r.dataTesto()));
+    }
+    if (a->NumeroEstrazioniSuper() > 0) {
+        const RecordSuperEnalotto s = a->LeggiRecordSuper(a->NumeroEstrazioniSuper());
+        lblUltimaEstrazione_[1]->setText(TestoUltima(s.NumeroAnno, s.dataTesto()));
+    }
+}
+
+void FrmMain::MostraRestrizioni() {
+    const config::StatoPannelloRestrizioni p = config::PannelloRestrizioni(Ambiente().ini);
+    lblNessuna_->setVisible(p.nessuna);
+    for (size_t i = 0; i < lblRestrizioni_.size(); ++i) lblRestrizioni_[i]->setVisible(p.visibile[i]);
+}
+
+void FrmMain::RipristinaPannelli() {
+    const QWidgetList finestre = QApplication::topLevelWidgets();
+    try {
+        for (auto it = finestre.rbegin(); it != finestre.rend(); ++it) {
+            QWidget* w = *it;
+            if (w == this || !w->isVisible() || w->isMinimized()) continue;
+            Centra(w);
+        }
+    } catch (...) {
+        MostraMessaggio(this, {"Errore nel pannello impostazioni", "", Icona::Esclamazione});
+    }
+}
+
+void FrmMain::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::ActivationChange && isActiveWindow()) {
+        // An update made in another window shows as soon as the user comes back.
+        AggiornaUltimeEstrazioni();
+        Ambiente().FormCorrente = this;
+        ApplicaStile(this, Ambiente().ini);
+    }
+    QMainWindow::changeEvent(e);
+}
+
+void FrmMain::closeEvent(QCloseEvent* e) {
+    if (Ambiente().ElaborazioneInCorso) {
+        e->ignore();
+        return;
+    }
+    const QWidgetList finestre = QApplication::topLevelWidgets();
+    for (auto it = finestre.rbegin(); it != finestre.rend(); ++it)
+        if (*it != this && (*it)->isVisible()) (*it)->close();
+    SalvaPosizione(this, "MainLeft", "MainTop");
+    e->accept();
+}
+
+void FrmMain::ApriOpzioni() {
+    FrmOpzioni dlg(this);
+    connect(&dlg, &FrmOpzioni::restrizioniCambiate, this, [this] { MostraRestrizioni(); });
+    dlg.exec();
+}
+
+void FrmMain::ApriEsclusioni() {
+    FrmEsclusioni dlg(this);
+    dlg.exec();
+}
+
+void FrmMain::ApriColori() {
+    auto* dlg = new FrmColori(this);
+    dlg->setAttribute(Qt::WA_DeleteOnClose);
+    dlg->show();
+}
+
+void FrmMain::ApriUrl() {
+    FrmUrl dlg(this);
+    dlg.exec();
+}
+
+void FrmMain::ApriSitoWeb() {
+    ApriBrowser(QString::fromStdString(config::LeggiImpostazione(
+        Ambiente().ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
+}
+
+void FrmMain::ApriInformazioni() {
+    FrmAboutMe dlg(this);
+    dlg.exec();
+}
+
+}  // namespace gorgo::schermi

@@ -1,0 +1,49 @@
+#pragma once
+// frmMain: the hub of the program. It shows the last stored draw of each archive and the
+// restrictions in force, and opens every procedure from a button or a menu.
+
+#include <QLabel>
+#include <QMainWindow>
+#include <QPushButton>
+#include <array>
+
+namespace gorgo::schermi {
+
+class FrmMain : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit FrmMain(QWidget* parent = nullptr);
+
+    // Reads the last record of both archives into lblUltimaEstrazione(0) and (1).
+    void AggiornaUltimeEstrazioni();
+    // MostraRestrizioni: the panel from the settings.
+    void MostraRestrizioni();
+    // "Ripristina tutti i pannelli".
+    void RipristinaPannelli();
+
+    static constexpr const char* CaptionPrincipale = "  Gorgo 2 - Tris metodologie by Sergio Tordelli";
+
+protected:
+    void changeEvent(QEvent* e) override;
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    void CreaMenu();
+    void CreaPannello();
+    QPushButton* Pulsante(const char* nome, const QString& testo);
+    void ApriOpzioni();
+    void ApriEsclusioni();
+    void ApriColori();
+    void ApriUrl();
+    void ApriSitoWeb();
+    void ApriInformazioni();
+
+    std::array<QLabel*, 2> lblUltimaEstrazione_{};
+    QLabel* lblNessuna_ = nullptr;
+    std::array<QLabel*, 4> lblRestrizioni_{};
+};
+
+// Screens not in this version: disabled, with a tool tip that says they come later.
+inline constexpr const char* TestoInArrivo = "Disponibile in una prossima versione";
+
+}  // namespace gorgo::schermi

@@ -1,0 +1,27 @@
+#pragma once
+// Window places are kept in twips (1,440 to the inch), converted by the real dpi of the
+// screen the window is on.
+
+#include <QScreen>
+#include <QWidget>
+
+namespace gorgo::schermi {
+
+inline double TwipsPerPixel(const QScreen* s) {
+    const double dpi = s ? s->logicalDotsPerInch() : 96.0;
+    return 1440.0 / (dpi > 0 ? dpi : 96.0);
+}
+inline int PixelDaTwips(long long twips, const QScreen* s) { return static_cast<int>(twips / TwipsPerPixel(s)); }
+inline long long TwipsDaPixel(int pixel, const QScreen* s) {
+    return static_cast<long long>(pixel * TwipsPerPixel(s) + 0.5);
+}
+
+// Reads left/top (twips) from section Forms and places the window there, or at the given
+// default when the place would be off every screen.
+void RipristinaPosizione(QWidget* finestra, const char* chiaveLeft, const char* chiaveTop);
+// Writes the place back, unless the window is minimised.
+void SalvaPosizione(QWidget* finestra, const char* chiaveLeft, const char* chiaveTop);
+// Centre of the screen the window is on.
+void Centra(QWidget* finestra);
+
+}  // namespace gorgo::schermi

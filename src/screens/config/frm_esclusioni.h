@@ -1,0 +1,27 @@
+#pragma once
+// frmEsclusioni, "Opzioni": the weekdays on which the game draws and the tips box.
+
+#include <QDialog>
+#include <array>
+
+#include "config/restrizioni.h"
+
+class QCheckBox;
+
+namespace gorgo::schermi {
+
+class FrmEsclusioni : public QDialog {
+    Q_OBJECT
+public:
+    explicit FrmEsclusioni(QWidget* parent = nullptr);
+
+    config::ScelteEsclusioni Scelte() const;
+
+private:
+    void Conferma();
+
+    std::array<QCheckBox*, 8> chkDay_{};
+    QCheckBox* chkLoadTipsAtStartup_;
+};
+
+}  // namespace gorgo::schermi

@@ -1,0 +1,174 @@
+#include "screens/config/frm_opzioni.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <cmath>
+#include <string>
+
+#include "config/impostazioni.h"
+#include "screens/archives/ambiente.h"
+#include "screens/archives/twips.h"
+#include "screens/config/aiuto.h"
+#include "screens/config/messaggi.h"
+#include "screens/config/stile.h"
+
+namespace gorgo::schermi {
+
+namespace {
+
+const QString NomiGiorni[] = {QStringLiteral("Domenica"),  QStringLiteral("Lunedì"),  QStringLiteral("Martedì"),
+                              QStringLiteral("Mercoledì"), QStringLiteral("Giovedì"), QStringLiteral("Venerdì"),
+                              QStringLiteral("Sabato")};
+const QString NomiMesi[] = {QStringLiteral("Gennaio"), QStringLiteral("Febbraio"), QStringLiteral("Marzo"),
+                            QStringLiteral("Aprile"),  QStringLiteral("Maggio"),   QStringLiteral("Giugno"),
+                            QStringLiteral("Luglio"),  QStringLiteral("Agosto"),   QStringLiteral("Settembre"),
+                            QStringLiteral("Ottobre"), QStringLiteral("Novembre"), QStringLiteral("Dicembre")};
+
+constexpr std::string_view Schermo = "frmOpzioni";
+
+}  // namespace
+
+FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
+    setObjectName(QString::fromLatin1(Schermo.data(), static_cast<qsizetype>(Schermo.size())));
+    setWindowTitle(QStringLiteral("Restrizioni di ricerca"));
+    setModal(true);
+
+    auto* principale = new QVBoxLayout(this);
+
+    chkGiorni_ = new QCheckBox(QStringLiteral("Considera solo estrazioni\navvenute nei seguenti giorni:"), this);
+    chkGiorni_->setObjectName("chkGiorni");
+    chkGiorni_->setToolTip(
+        QStringLiteral("Inserisce un periodo di indagine limitato ai giorni della settimana indicati"));
+    principale->addWidget(chkGiorni_);
+    auto* giorni = new QGridLayout;
+    for (int g = 1; g <= 7; ++g) {
+        auto* c = new QCheckBox(NomiGiorni[g - 1], this);
+        c->setObjectName(QStringLiteral("chkDay_%1").arg(g));
+        giorni->addWidget(c, (g - 1) / 4, (g - 1) % 4);
+        chkDay_[static_cast<std::size_t>(g)] = c;
+    }
+    principale->addLayout(giorni);
+
+    chkMesi_ = new QCheckBox(QStringLiteral("Considera solo estrazioni\navvenute nei seguenti mesi:"), this);
+    chkMesi_->setObjectName("chkMesi");
+    chkMesi_->setToolTip(QStringLiteral("Inserisce un periodo di indagine limitato ai mesi indicati"));
+    principale->addWidget(chkMesi_);
+    auto* mesi = new QGridLayout;
+    for (int m = 1; m <= 12; ++m) {
+        auto* c = new QCheckBox(NomiMesi[m - 1], this);
+        c->setObjectName(QStringLiteral("chkMese_%1").arg(m));
+        mesi->addWidget(c, (m - 1) / 4, (m - 1) % 4);
+        chkMese_[static_cast<std::size_t>(m)] = c;
+    }
+    principale->addLayout(mesi);
+
+    chkPeriodo_ = new QCheckBox(QStringLiteral("Considera solo estrazioni avvenute nel seguente periodo:"), this);
+    chkPeriodo_->setObjectName("chkPeriodo");
+    chkPeriodo_->setToolTip(QStringLiteral("Inserisce un periodo di indagine limitato tra le date indicate"));
+    principale->addWidget(chkPeriodo_);
+    auto* periodo = new QHBoxLayout;
+    const QString etichette[2] = {QStringLiteral("Tra il"), QStringLiteral("e il")};
+    const char* nomiEtichette[2] = {"lblTraIl", "lblEIl"};
+    for (std::size_t i = 0; i < 2; ++i) {
+        auto* l = new QLabel(etichette[i], this);
+        l->setObjectName(nomiEtichette[i]);
+        periodo->addWidget(l);
+        cboGiorno_[i] = new QComboBox(this);
+        cboGiorno_[i]->setObjectName(QStringLiteral("cboGiorno_%1").arg(i));
+        for (int g = 1; g <= 31; ++g) cboGiorno_[i]->addItem(QString::number(g));
+        periodo->addWidget(cboGiorno_[i]);
+        cboMese_[i] = new QComboBox(this);
+        cboMese_[i]->setObjectName(QStringLiteral("cboMese_%1").arg(i));
+        for (const QString& m : NomiMesi) cboMese_[i]->addItem(m);
+        periodo->addWidget(cboMese_[i]);
+    }
+    periodo->addStretch();
+    principale->addLayout(periodo);
+
+    auto* pulsanti = new QHBoxLayout;
+    auto* cmdOk = new QPushButton(QStringLiteral("Ok"), this);
+    cmdOk->setObjectName("cmdOk");
+    auto* cmdAnnulla = new QPushButton(QStringLiteral("Annulla"), this);
+    cmdAnnulla->setObjectName("cmdAnnulla");
+    auto* cmdHelp = new QPushButton(QStringLiteral("Aiuto"), this);
+    cmdHelp->setObjectName("cmdHelp");
+    pulsanti->addStretch();
+    pulsanti->addWidget(cmdOk);
+    pulsanti->addWidget(cmdAnnulla);
+    pulsanti->addWidget(cmdHelp);
+    principale->addLayout(pulsanti);
+
+    connect(chkGiorni_, &QCheckBox::toggled, this, &FrmOpzioni::AggiornaGruppi);
+    connect(chkMesi_, &QCheckBox::toggled, this, &FrmOpzioni::AggiornaGruppi);
+    connect(chkPeriodo_, &QCheckBox::toggled, this, &FrmOpzioni::AggiornaGruppi);
+    connect(cmdOk, &QPushButton::clicked, this, &FrmOpzioni::Conferma);
+    connect(cmdAnnulla, &QPushButton::clicked, this, &FrmOpzioni::reject);
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoOpzioni); });
+
+    Carica(config::CaricaScelteRestrizioni(Ambiente().ini));
+    ApplicaStile(this, Ambiente().ini);
+
+    RipristinaPosizione(this, "OpzioniLeft", "OpzioniTop");
+}
+
+config::ScelteRestrizioni FrmOpzioni::Scelte() const {
+    config::ScelteRestrizioni s;
+    s.chkGiorni = chkGiorni_->isChecked();
+    s.chkMesi = chkMesi_->isChecked();
+    s.chkPeriodo = chkPeriodo_->isChecked();
+    for (std::size_t g = 1; g <= 7; ++g) s.chkDay[g] = chkDay_[g]->isChecked();
+    for (std::size_t m = 1; m <= 12; ++m) s.chkMese[m] = chkMese_[m]->isChecked();
+    for (std::size_t i = 0; i < 2; ++i) {
+        s.cboGiorno[i] = cboGiorno_[i]->currentIndex() + 1;
+        s.cboMese[i] = cboMese_[i]->currentIndex() + 1;
+    }
+    return s;
+}
+
+void FrmOpzioni::Carica(const config::ScelteRestrizioni& s) {
+    chkGiorni_->setChecked(s.chkGiorni);
+    chkMesi_->setChecked(s.chkMesi);
+    chkPeriodo_->setChecked(s.chkPeriodo);
+    for (std::size_t g = 1; g <= 7; ++g) chkDay_[g]->setChecked(s.chkDay[g]);
+    for (std::size_t m = 1; m <= 12; ++m) chkMese_[m]->setChecked(s.chkMese[m]);
+    for (std::size_t i = 0; i < 2; ++i) {
+        cboGiorno_[i]->setCurrentIndex(s.cboGiorno[i] - 1);
+        cboMese_[i]->setCurrentIndex(s.cboMese[i] - 1);
+    }
+    AggiornaGruppi();
+}
+
+void FrmOpzioni::AggiornaGruppi() {
+    for (std::size_t g = 1; g <= 7; ++g) chkDay_[g]->setEnabled(chkGiorni_->isChecked());
+    for (std::size_t m = 1; m <= 12; ++m) chkMese_[m]->setEnabled(chkMesi_->isChecked());
+    for (std::size_t i = 0; i < 2; ++i) {
+        cboGiorno_[i]->setEnabled(chkPeriodo_->isChecked());
+        cboMese_[i]->setEnabled(chkPeriodo_->isChecked());
+    }
+}
+
+void FrmOpzioni::Conferma() {
+    const auto esito = config::SalvaRestrizioni(Ambiente().ini, Scelte());
+    for (std::size_t i = 0; i < 2; ++i)
+        if (esito.cboGiorno[i] >= 1 && esito.cboGiorno[i] <= 31) cboGiorno_[i]->setCurrentIndex(esito.cboGiorno[i] - 1);
+    if (!esito.errore.vuoto()) {
+        MostraMessaggio(this, esito.errore);
+        return;
+    }
+    emit restrizioniCambiate();
+    accept();
+}
+
+void FrmOpzioni::done(int risultato) {
+    SalvaPosizione(this, "OpzioniLeft", "OpzioniTop");
+    QDialog::done(risultato);
+}
+
+}  // namespace gorgo::schermi

@@ -1,0 +1,58 @@
+#include "screens/config/frm_url.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <string>
+
+#include "config/impostazioni.h"
+#include "screens/archives/ambiente.h"
+#include "screens/config/messaggi.h"
+#include "screens/config/stile.h"
+
+namespace gorgo::schermi {
+
+FrmUrl::FrmUrl(QWidget* parent) : QDialog(parent) {
+    setObjectName("frmUrl");
+    setWindowTitle(QStringLiteral("Url"));
+    setModal(true);
+
+    auto* principale = new QVBoxLayout(this);
+    txtUrl_ = new QLineEdit(this);
+    txtUrl_->setObjectName("txtUrl");
+    txtUrl_->setMinimumWidth(360);
+    principale->addWidget(txtUrl_);
+    auto* pulsanti = new QHBoxLayout;
+    auto* cmdAggiorna = new QPushButton(QStringLiteral("Aggiorna l'url"), this);
+    cmdAggiorna->setObjectName("cmdAggiorna");
+    auto* cmdEsci = new QPushButton(QStringLiteral("Esci"), this);
+    cmdEsci->setObjectName("cmdEsci");
+    pulsanti->addStretch();
+    pulsanti->addWidget(cmdAggiorna);
+    pulsanti->addWidget(cmdEsci);
+    principale->addLayout(pulsanti);
+
+    connect(cmdAggiorna, &QPushButton::clicked, this, &FrmUrl::Aggiorna);
+    connect(cmdEsci, &QPushButton::clicked, this, &FrmUrl::reject);
+
+    txtUrl_->setText(QString::fromStdString(config::LeggiImpostazione(
+        Ambiente().ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
+    ApplicaStile(this, Ambiente().ini);
+}
+
+void FrmUrl::Aggiorna() {
+    if (!txtUrl_->text().startsWith(QLatin1String("http")))
+        txtUrl_->setText(QStringLiteral("http://") + txtUrl_->text());
+    const std::string url = txtUrl_->text().toStdString();
+    // The core holds the rule (12 characters or more) and refuses control characters.
+    const Messaggio errore = config::ControllaValoreImpostazione(config::sezioni::Options, "Url", url);
+    if (!errore.vuoto()) {
+        MostraMessaggio(this, errore);
+        return;
+    }
+    config::ScriviImpostazione(Ambiente().ini, config::sezioni::Options, "Url", url);
+    accept();
+}
+
+}  // namespace gorgo::schermi

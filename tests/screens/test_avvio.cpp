@@ -1,0 +1,190 @@
+// Start-up and the main window: the last draws on a copy of the real archives, the
+// missing-archive message, one instance only, window places, the computing window and its stop.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QTest>
+#include <atomic>
+#include <fstream>
+#include <thread>
+
+#include "archives/demo.h"
+#include "screens/archives/ambiente.h"
+#include "screens/archives/avvio.h"
+#include "screens/config/elaborazioni.h"
+#include "screens/config/messaggi.h"
+#include "support/archivi_reali.h"
+#include "support/cartelle.h"
+
+namespace gorgo::schermi {
+namespace {
+
+using test::CartellaTemporanea;
+
+// Collects the messages that would have been shown.
+struct Messaggi {
+    std::vector<Messaggio> visti;
+    GestoreMessaggi prima;
+    Messaggi() {
+        prima = ImpostaGestoreMessaggi([this](const Messaggio& m, QMessageBox::StandardButtons) {
+            visti.push_back(m);
+            return QMessageBox::Ok;
+        });
+    }
+    ~Messaggi() { ImpostaGestoreMessaggi(prima); }
+};
+
+void Azzera() {
+    Ambiente().archivio.reset();
+    Ambiente().ElaborazioneInCorso = false;
+    Ambiente().demo = false;
+}
+
+template <typename T>
+T* Trova(QWidget* w, const char* nome) {
+    T* c = w->findChild<T*>(nome);
+    EXPECT_NE(c, nullptr) << nome;
+    return c;
+}
+
+TEST(Avvio, UltimeEstrazioniDegliArchiviReali) {
+    GORGO_RICHIEDI_ARCHIVI_REALI(reale);
+    CartellaTemporanea c;
+    test::CopiaArchiviReali(reale, c.percorso());
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    auto principale = AvviaProgramma(c.percorso(), blocco);
+    ASSERT_NE(principale, nullptr);
+    EXPECT_TRUE(m.visti.empty());
+    EXPECT_EQ(principale->windowTitle(), QString::fromUtf8(FrmMain::CaptionPrincipale));
+    EXPECT_EQ(Trova<QLabel>(principale.get(), "lblUltimaEstrazione_0")->text(), "n.208 del 30/12/2025");
+    EXPECT_EQ(Trova<QLabel>(principale.get(), "lblUltimaEstrazione_1")->text(), "n.55 del 07/04/2026");
+    EXPECT_FALSE(Trova<QLabel>(principale.get(), "lblNessuna")->isHidden());
+    for (const char* nome : {"lblRestrizioni_0", "lblRestrizioni_1", "lblRestrizioni_2", "lblRestrizioni_3"})
+        EXPECT_TRUE(Trova<QLabel>(principale.get(), nome)->isHidden()) << nome;
+    // Screens not there yet are disabled and say so.
+    QPushButton* gorgo = Trova<QPushButton>(principale.get(), "cmdGorgo");
+    EXPECT_FALSE(gorgo->isEnabled());
+    EXPECT_EQ(gorgo->toolTip(), QString::fromUtf8(TestoInArrivo));
+    EXPECT_EQ(Trova<QPushButton>(principale.get(), "cmdCambiaImpostazioniRestrizione")->toolTip(),
+              "Permette di impostare i parametri di esclusione per le ricerche statistiche");
+    principale.reset();
+    Azzera();
+}
+
+TEST(Avvio, ArchiviMancantiFinisconoIlProgramma) {
+    CartellaTemporanea c;
+    std::filesystem::create_directories(c / "Archivi");
+    { std::ofstream(c / "Archivi/SuperEnalotto.ind", std::ios::binary) << std::string(20, '\0'); }
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    EXPECT_EQ(AvviaProgramma(c.percorso(), blocco), nullptr);
+    ASSERT_EQ(m.visti.size(), 1u);
+    EXPECT_EQ(m.visti[0].testo,
+              "Archivi Estrazioni.ind  Anni.ind  mancanti! " + (c / "Archivi/SuperEnalotto.ind").string());
+    EXPECT_EQ(m.visti[0].titolo, "Errore");
+    EXPECT_EQ(m.visti[0].icona, Icona::Stop);
+    Azzera();
+}
+
+TEST(Avvio, UnaSolaIstanza) {
+    CartellaTemporanea c;
+    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    Messaggi m;
+    std::unique_ptr<QLockFile> primo, secondo;
+    auto principale = AvviaProgramma(c.percorso(), primo);
+    ASSERT_NE(principale, nullptr);
+    EXPECT_EQ(AvviaProgramma(c.percorso(), secondo), nullptr);
+    ASSERT_EQ(m.visti.size(), 1u);
+    EXPECT_EQ(m.visti[0].testo, MessaggioIstanzaUnica);
+    principale.reset();
+    primo.reset();
+    Azzera();
+
+    // The lock of a run that crashed (its process is gone) does not block the next start.
+    {
+        std::ofstream f(c / "Gorgo.lock");
+        f << "999999\nGorgo 2\n" << QSysInfo::machineHostName().toStdString() << "\n";
+    }
+    std::unique_ptr<QLockFile> terzo;
+    EXPECT_NE(AvviaProgramma(c.percorso(), terzo), nullptr);
+    EXPECT_EQ(m.visti.size(), 1u);
+    Azzera();
+}
+
+TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
+    CartellaTemporanea c;
+    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    { std::ofstream(c / "Gorgo.ini") << "[Forms]\nMainLeft=99999999\nMainTop=-5000000\n"; }
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    auto principale = AvviaProgramma(c.percorso(), blocco);
+    ASSERT_NE(principale, nullptr);
+    principale->show();
+    const QRect schermo = principale->screen()->availableGeometry();
+    EXPECT_TRUE(schermo.contains(principale->frameGeometry().topLeft())) << principale->x() << "," << principale->y();
+    // Closing writes the place back in twips.
+    principale->close();
+    const std::string ini = test::LeggiFile(c / "Gorgo.ini");
+    EXPECT_EQ(ini.find("MainLeft=99999999"), std::string::npos) << ini;
+    principale.reset();
+    Azzera();
+}
+
+// A long job on the worker thread: the computing window shows, refuses to close, the main
+// window refuses to close, and a click on cmdStop ends the job soon.
+TEST(Elaborazioni, StopDiUnLavoroInCorso) {
+    CartellaTemporanea c;
+    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    auto principale = AvviaProgramma(c.percorso(), blocco);
+    ASSERT_NE(principale, nullptr);
+    principale->show();
+
+    std::atomic<bool> partito{false};
+    bool finito = false, fermato = false;
+    Elaborazione* e = Elaborazione::Avvia(
+        principale.get(), "Analisi algoritmi...",
+        [&](std::stop_token stop, const Progresso& progresso) {
+            partito = true;
+            for (int i = 0; !stop.stop_requested(); ++i) {
+                progresso("Analisi algoritmi 27...", i % 90, 90);
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            }
+        },
+        [&](bool f) {
+            finito = true;
+            fermato = f;
+        });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return partito.load(); }, 2000));
+    FrmElaborazioni* finestra = e->finestra();
+    ASSERT_NE(finestra, nullptr);
+    EXPECT_TRUE(Ambiente().ElaborazioneInCorso);
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    finestra->close();
+    EXPECT_TRUE(finestra->isVisible());
+    principale->close();
+    EXPECT_TRUE(principale->isVisible());
+
+    QPushButton* stop = Trova<QPushButton>(finestra, "cmdStop");
+    EXPECT_EQ(stop->toolTip(), "Annulla la ricerca in corso");
+    QElapsedTimer t;
+    t.start();
+    QTest::mouseClick(stop, Qt::LeftButton);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return finito; }, 2000));
+    EXPECT_LT(t.elapsed(), 1000);
+    EXPECT_TRUE(fermato);
+    EXPECT_FALSE(Ambiente().ElaborazioneInCorso);
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    principale->close();
+    EXPECT_FALSE(principale->isVisible());
+    principale.reset();
+    Azzera();
+}
+
+}  // namespace
+}  // namespace gorgo::schermi
