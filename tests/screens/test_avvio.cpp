@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
@@ -112,6 +114,33 @@ TEST(Avvio, UnaSolaIstanza) {
     std::unique_ptr<QLockFile> terzo;
     EXPECT_NE(AvviaProgramma(c.percorso(), terzo), nullptr);
     EXPECT_EQ(m.visti.size(), 1u);
+    Azzera();
+}
+
+// "Cambia..." opens the restrictions; their confirm shows in the panel at once.
+TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
+    CartellaTemporanea c;
+    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    auto principale = AvviaProgramma(c.percorso(), blocco);
+    ASSERT_NE(principale, nullptr);
+    principale->show();
+    bool aperto = false;
+    QTimer::singleShot(0, [&] {
+        QWidget* dialogo = QApplication::activeModalWidget();
+        ASSERT_NE(dialogo, nullptr);
+        aperto = dialogo->objectName() == "frmOpzioni";
+        Trova<QCheckBox>(dialogo, "chkMesi")->setChecked(true);
+        Trova<QCheckBox>(dialogo, "chkMese_8")->setChecked(false);
+        QTest::mouseClick(Trova<QPushButton>(dialogo, "cmdOk"), Qt::LeftButton);
+    });
+    QTest::mouseClick(Trova<QPushButton>(principale.get(), "cmdCambiaImpostazioniRestrizione"), Qt::LeftButton);
+    EXPECT_TRUE(aperto);
+    EXPECT_TRUE(Trova<QLabel>(principale.get(), "lblNessuna")->isHidden());
+    EXPECT_FALSE(Trova<QLabel>(principale.get(), "lblRestrizioni_2")->isHidden());
+    EXPECT_NE(test::LeggiFile(c / "Gorgo.ini").find("Mesi=YYYYYYYNYYYY"), std::string::npos);
+    principale.reset();
     Azzera();
 }
 

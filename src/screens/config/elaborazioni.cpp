@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "screens/archives/ambiente.h"
+#include "screens/config/stile.h"
 
 namespace gorgo::schermi {
 
@@ -28,6 +29,7 @@ FrmElaborazioni::FrmElaborazioni(QWidget* parent) : QDialog(parent) {
     l->addWidget(prgAvanzamento_);
     l->addWidget(cmdStop_, 0, Qt::AlignHCenter);
     connect(cmdStop_, &QPushButton::clicked, this, &FrmElaborazioni::stopRichiesto);
+    ApplicaStile(this, Ambiente().ini);
 }
 
 void FrmElaborazioni::Descrivi(const QString& testo, int valore, int massimo) {
