@@ -1,5 +1,7 @@
 #include "screens/config/frm_esclusioni.h"
 
+#include "screens/config/caselle.h"
+
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -14,9 +16,6 @@ namespace gorgo::schermi {
 
 namespace {
 
-const QString NomiGiorni[] = {QStringLiteral("Domenica"),  QStringLiteral("Lunedì"),  QStringLiteral("Martedì"),
-                              QStringLiteral("Mercoledì"), QStringLiteral("Giovedì"), QStringLiteral("Venerdì"),
-                              QStringLiteral("Sabato")};
 
 }  // namespace
 
@@ -26,14 +25,7 @@ FrmEsclusioni::FrmEsclusioni(QWidget* parent) : QDialog(parent) {
     setModal(true);
 
     auto* principale = new QVBoxLayout(this);
-    auto* giorni = new QGridLayout;
-    for (int g = 1; g <= 7; ++g) {
-        auto* c = new QCheckBox(NomiGiorni[g - 1], this);
-        c->setObjectName(QStringLiteral("chkDay_%1").arg(g));
-        giorni->addWidget(c, (g - 1) / 4, (g - 1) % 4);
-        chkDay_[static_cast<std::size_t>(g)] = c;
-    }
-    principale->addLayout(giorni);
+    principale->addLayout(CreaCaselle(this, QStringLiteral("chkDay"), NomiGiorniCaselle(), 4, chkDay_));
     chkLoadTipsAtStartup_ = new QCheckBox(QStringLiteral("&Mostra i suggerimenti all'avvio"), this);
     chkLoadTipsAtStartup_->setObjectName("chkLoadTipsAtStartup");
     principale->addWidget(chkLoadTipsAtStartup_);

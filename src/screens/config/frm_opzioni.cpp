@@ -15,6 +15,7 @@
 #include "config/impostazioni.h"
 #include "screens/archives/ambiente.h"
 #include "screens/archives/twips.h"
+#include "screens/config/caselle.h"
 #include "screens/config/aiuto.h"
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
@@ -23,13 +24,6 @@ namespace gorgo::schermi {
 
 namespace {
 
-const QString NomiGiorni[] = {QStringLiteral("Domenica"),  QStringLiteral("Lunedì"),  QStringLiteral("Martedì"),
-                              QStringLiteral("Mercoledì"), QStringLiteral("Giovedì"), QStringLiteral("Venerdì"),
-                              QStringLiteral("Sabato")};
-const QString NomiMesi[] = {QStringLiteral("Gennaio"), QStringLiteral("Febbraio"), QStringLiteral("Marzo"),
-                            QStringLiteral("Aprile"),  QStringLiteral("Maggio"),   QStringLiteral("Giugno"),
-                            QStringLiteral("Luglio"),  QStringLiteral("Agosto"),   QStringLiteral("Settembre"),
-                            QStringLiteral("Ottobre"), QStringLiteral("Novembre"), QStringLiteral("Dicembre")};
 
 constexpr std::string_view Schermo = "frmOpzioni";
 
@@ -47,27 +41,13 @@ FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
     chkGiorni_->setToolTip(
         QStringLiteral("Inserisce un periodo di indagine limitato ai giorni della settimana indicati"));
     principale->addWidget(chkGiorni_);
-    auto* giorni = new QGridLayout;
-    for (int g = 1; g <= 7; ++g) {
-        auto* c = new QCheckBox(NomiGiorni[g - 1], this);
-        c->setObjectName(QStringLiteral("chkDay_%1").arg(g));
-        giorni->addWidget(c, (g - 1) / 4, (g - 1) % 4);
-        chkDay_[static_cast<std::size_t>(g)] = c;
-    }
-    principale->addLayout(giorni);
+    principale->addLayout(CreaCaselle(this, QStringLiteral("chkDay"), NomiGiorniCaselle(), 4, chkDay_));
 
     chkMesi_ = new QCheckBox(QStringLiteral("Considera solo estrazioni\navvenute nei seguenti mesi:"), this);
     chkMesi_->setObjectName("chkMesi");
     chkMesi_->setToolTip(QStringLiteral("Inserisce un periodo di indagine limitato ai mesi indicati"));
     principale->addWidget(chkMesi_);
-    auto* mesi = new QGridLayout;
-    for (int m = 1; m <= 12; ++m) {
-        auto* c = new QCheckBox(NomiMesi[m - 1], this);
-        c->setObjectName(QStringLiteral("chkMese_%1").arg(m));
-        mesi->addWidget(c, (m - 1) / 4, (m - 1) % 4);
-        chkMese_[static_cast<std::size_t>(m)] = c;
-    }
-    principale->addLayout(mesi);
+    principale->addLayout(CreaCaselle(this, QStringLiteral("chkMese"), NomiMesiCaselle(), 4, chkMese_));
 
     chkPeriodo_ = new QCheckBox(QStringLiteral("Considera solo estrazioni avvenute nel seguente periodo:"), this);
     chkPeriodo_->setObjectName("chkPeriodo");
@@ -86,7 +66,7 @@ FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
         periodo->addWidget(cboGiorno_[i]);
         cboMese_[i] = new QComboBox(this);
         cboMese_[i]->setObjectName(QStringLiteral("cboMese_%1").arg(i));
-        for (const QString& m : NomiMesi) cboMese_[i]->addItem(m);
+        cboMese_[i]->addItems(NomiMesiCaselle());
         periodo->addWidget(cboMese_[i]);
     }
     periodo->addStretch();
