@@ -1,5 +1,6 @@
 #include "builder/report.h"
 
+#include <array>
 #include <fmt/format.h>
 
 namespace gorgo::builder {
@@ -84,6 +85,96 @@ config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerc
         r.riga(fmt::format("Algoritmo: {}, Sort.: {}, Pres./quantità: {}, % presenza: {}, {}: {}", riga.descrizione,
                            riga.testoSortite(), riga.testoPresenze(), riga.testoPercentuale(), testa, riga.testoSpia));
     return r;
+}
+
+namespace {
+
+std::string SenzaBlanchi(std::string_view t) {
+    const auto a = t.find_first_not_of(' ');
+    if (a == std::string_view::npos) return {};
+    return std::string(t.substr(a, t.find_last_not_of(' ') - a + 1));
+}
+
+// "Num.", "Som.", "Dif.", "Amb.": the first three letters of the spy head and a point.
+std::string TestaBreve(TipoSpia tipo) { return std::string(TestaColonnaSpia(tipo).substr(0, 3)) + "."; }
+
+config::Tabella TabellaVerifica(TipoSpia tipo) {
+    return {"", "*------------*-------*----*------*--------*--------*------------*-----------*-------*------*",
+            "| Data spia  | Ruota | " + TestaBreve(tipo) +
+                " | Pos. | Ind.m. | Ind.a. | Previsione | Data sor. | Ruota | C.po |"};
+}
+
+config::Tabella TabellaPrevisioni(const std::string& titolo, bool stampa) {
+    return {titolo, "*--------------------------------------°------------*-------*-------*-------*-------*",
+            std::string("| Descrizione algoritmo                | Previsione |  Rit. | R.Max | Freq. |") +
+                (stampa ? " I.C.  |" : "  I.C. |")};
+}
+
+config::ReportTesto Previsioni(const ParametriRicerca& p, const EsitoPrevisioni& e, const StoriaLotto& storia,
+                               bool stampa) {
+    config::ReportTesto r = IntestazioneCostruttore(p, storia);
+    r.apriTabella(TabellaPrevisioni(e.titolo, stampa));
+    for (const RigaPrevisione& x : e.righe) {
+        config::RigaReport riga = r.rigaTabella();
+        riga.metti(3, x.descrizione).metti(42, x.previsione);
+        riga.mettiDestra(59, x.ritardo).mettiDestra(67, x.ritardoMax).mettiDestra(75, x.frequenza);
+        if (x.conIndice) riga.mettiDestra(83, x.indiceConvenienza);
+        r.riga(riga);
+    }
+    return r.chiudiTabella();
+}
+
+}  // namespace
+
+config::ReportTesto StampaVerificaRighe(const ParametriRicerca& p, const EsitoVerifica& v, std::string_view,
+                                        const StoriaLotto& storia) {
+    config::ReportTesto r = IntestazioneCostruttore(p, storia);
+    r.apriTabella(TabellaVerifica(p.tipoSpia));
+    static constexpr std::array<std::pair<size_t, int>, 10> kColonne = {
+        {{0, 3}, {1, 17}, {2, 24}, {3, 30}, {4, 38}, {5, 47}, {7, 56}, {8, 67}, {9, 80}, {10, 88}}};
+    for (const RigaVerifica& x : v.righe) {
+        config::RigaReport riga = r.rigaTabella();
+        for (const auto& [c, colonna] : kColonne) riga.metti(colonna, x.colonne[c]);
+        r.riga(riga);
+    }
+    return r.chiudiTabella();
+}
+
+config::ReportTesto ReportVerifica(const ParametriRicerca& p, const EsitoVerifica& v, std::string_view descrizione,
+                                   const StoriaLotto& storia) {
+    config::ReportTesto r = IntestazioneCostruttore(p, storia);
+    r.riga(std::string(descrizione));
+    const std::string_view testa = TestaColonnaSpia(p.tipoSpia);
+    for (const RigaVerifica& x : v.righe) {
+        const auto& c = x.colonne;
+        r.riga(fmt::format("Data spia: {}, R.: {}, {}: {}, Pos.: {}, Ind.m.: {}, Ind.a.: {}, Prev.: {}, "
+                           "Data sor.: {}, R.: {}, C.po.: {}",
+                           c[0], SenzaBlanchi(c[1]), testa, c[2], c[3], c[4], c[5], c[7], c[8], SenzaBlanchi(c[9]),
+                           c[10]));
+    }
+    return r;
+}
+
+config::ReportTesto ReportRiepilogo(const EsitoRiepilogo& e) {
+    config::ReportTesto r;
+    for (const std::string& t : e.testa) r.riga(t);
+    for (const std::string& t : e.righe) r.riga(t);
+    return r;
+}
+
+config::ReportTesto StampaPrevisioniRighe(const ParametriRicerca& p, const EsitoPrevisioni& e,
+                                          const StoriaLotto& storia) {
+    return Previsioni(p, e, storia, true);
+}
+
+config::ReportTesto ReportPrevisioni(const ParametriRicerca& p, const EsitoPrevisioni& e, const StoriaLotto& storia) {
+    return Previsioni(p, e, storia, false);
+}
+
+std::string DescrizioneListaSortite(size_t quante) { return fmt::format(" Dettaglio delle {} sortite", quante); }
+
+std::array<std::string, 7> ColonneListaSortite(const CasoSpia& c) {
+    return {c.data, c.nomeRuota, c.testoSpia, c.testoPosizione, c.testoIndiceMese, c.testoIndiceAnnuale, c.testoIndice};
 }
 
 }  // namespace gorgo::builder

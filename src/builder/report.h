@@ -5,6 +5,7 @@
 #include <string>
 
 #include "builder/ricerca.h"
+#include "builder/verifica.h"
 #include "config/report_testo.h"
 
 namespace gorgo::builder {
@@ -21,5 +22,36 @@ config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const Sto
 
 // The header, then one line a row: "Algoritmo: ..., Sort.: ..., Pres./quantità: ...".
 config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito, const StoriaLotto& storia);
+
+// ---- verification, recap, forecasts, list of cases ----
+
+inline constexpr std::string_view NomeReportVerifica = "RisultatiAlgoritmo";
+inline constexpr std::string_view NomeReportRiepilogo = "ReportGorgo";
+inline constexpr std::string_view NomeReportPrevisioni = "Calcolo_previsioni";
+inline constexpr std::string_view TitoloStampaVerifica = "Algoritmo";  // the second title is the description
+inline constexpr std::string_view TitoloRiepilogo = "Riepilogo della tecnica selezionata";
+inline constexpr std::string_view TitoloListaSortite = "Dettaglio delle sortite";
+
+// The printed verification: the header, then the boxed table of lvListaPrevisioni.
+config::ReportTesto StampaVerificaRighe(const ParametriRicerca& p, const EsitoVerifica& verifica,
+                                        std::string_view descrizione, const StoriaLotto& storia);
+// The file form: the header, the description, then one line a row: "Data spia: ..., R.: ...".
+config::ReportTesto ReportVerifica(const ParametriRicerca& p, const EsitoVerifica& verifica,
+                                   std::string_view descrizione, const StoriaLotto& storia);
+
+// The lines of lstReport, head then figures, for the printer and the file alike.
+config::ReportTesto ReportRiepilogo(const EsitoRiepilogo& riepilogo);
+
+// The forecasts of frmAlgoritmiCalcolati: the header, then the table under the window's title.
+// The printed form heads the last cell "| I.C.  |", the file form "|  I.C. |".
+config::ReportTesto StampaPrevisioniRighe(const ParametriRicerca& p, const EsitoPrevisioni& previsioni,
+                                          const StoriaLotto& storia);
+config::ReportTesto ReportPrevisioni(const ParametriRicerca& p, const EsitoPrevisioni& previsioni,
+                                     const StoriaLotto& storia);
+
+// frmListaSortite: its description line " Dettaglio delle N sortite", and its seven columns,
+// those of lstVListaUscite in order.
+std::string DescrizioneListaSortite(size_t quante);
+std::array<std::string, 7> ColonneListaSortite(const CasoSpia& caso);
 
 }  // namespace gorgo::builder

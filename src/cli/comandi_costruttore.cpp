@@ -1,134 +1,31 @@
 // costruttore: the search for algorithms, with every parameter of the builder's screen.
 
-#include <cstdio>
 #include <fmt/format.h>
 #include <filesystem>
-#include <map>
 #include <iostream>
 
 #include "builder/contesto.h"
 #include "builder/report.h"
 #include "builder/ricerca.h"
 #include "cli/contesto.h"
-#include "config/impostazioni.h"
+#include "cli/parametri_ricerca.h"
 
 namespace gorgo::cli {
 
 namespace {
 
 struct ArgomentiCostruttore {
-    std::string spia = "numero", modo = "fisso", ambo, posizioni, da, a, indiceMese = "U", tipo = "ambate";
-    std::string ruoteRicerca, ruoteGioco, posizioniValide = "12345", operazioni = "+-x", terzine;
-    int valore = 1, colpi = 9, ultime = 0, sorte = 2;
-    bool tuttiGliAmbi = false, senzaUltime = false, soloPosizione = false, seleziona = false;
+    ArgomentiRicerca ricerca;
+    bool seleziona = false;
     std::string report;
     bool accoda = false, sovrascrivi = false;
 };
 
-// "tutte", "tutte+nz" or wheel codes (BA,CA,...,NZ, also RM for Roma), as the screen's boxes.
-std::array<bool, 12> LeggiRuote(const std::string& testo, const char* opzione) {
-    std::array<bool, 12> r{};
-    std::string t;
-    for (char c : testo) t += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    if (t == "TUTTE") return {true, false, false, false, false, false, false, false, false, false, false, false};
-    if (t == "TUTTE+NZ") return {true, false, false, false, false, false, false, false, false, false, false, true};
-    size_t inizio = 0;
-    while (inizio <= t.size()) {
-        const size_t fine = std::min(t.find(',', inizio), t.size());
-        const std::string sigla = t.substr(inizio, fine - inizio);
-        bool trovata = false;
-        for (int w = 1; w <= NumeroRuote; ++w)
-            if (sigla == SigleRuota[static_cast<size_t>(w)] || (w == 8 && sigla == "RM")) r[static_cast<size_t>(w)] = trovata = true;
-        if (!trovata)
-            throw Rifiuta(fmt::format("{}: ruota \"{}\" sconosciuta. Indicare tutte, tutte+nz oppure le sigle "
-                                      "BA,CA,FI,GE,MI,NA,PA,RO,TO,VE,NZ separate da virgole.",
-                                      opzione, sigla));
-        inizio = fine + 1;
-    }
-    return r;
-}
-
-std::array<bool, 6> LeggiPosizioni(const std::string& testo, const char* opzione) {
-    std::array<bool, 6> p{};
-    for (char c : testo) {
-        if (c < '1' || c > '5') throw Rifiuta(fmt::format("{}: posizioni da 1 a 5, per esempio 135.", opzione));
-        p[static_cast<size_t>(c - '0')] = true;
-    }
-    return p;
-}
-
-builder::ParametriRicerca Parametri(const ArgomentiCostruttore& a, const config::FileIni& ini) {
-    using namespace builder;
-    ParametriRicerca p;
-    const std::map<std::string, TipoSpia> spie = {{"numero", TipoSpia::Numero}, {"somma", TipoSpia::Somma},
-                                                  {"differenza", TipoSpia::Differenza}, {"ambo", TipoSpia::Ambo}};
-    const std::map<std::string, ModoSpia> modi = {{"fisso", ModoSpia::Fisso}, {"tutti", ModoSpia::Tutti},
-                                                  {"indice", ModoSpia::SoloIndiceMensile}};
-    const std::map<std::string, TipoRicerca> tipi = {{"ambate", TipoRicerca::Ambate}, {"ambi", TipoRicerca::Ambi},
-                                                     {"terzine-ambo", TipoRicerca::TerzineAmbo},
-                                                     {"terzine-terno", TipoRicerca::TerzineTerno},
-                                                     {"codici", TipoRicerca::Codici}};
-    p.tipoSpia = spie.at(a.spia);
-    p.modoSpia = modi.at(a.modo);
-    p.tipoRicerca = tipi.at(a.tipo);
-    p.valoreSpia = a.valore;
-    if (!a.ambo.empty()) {
-        int x = 0, y = 0;
-        if (std::sscanf(a.ambo.c_str(), "%d-%d", &x, &y) != 2)
-            throw Rifiuta("--ambo: indicare i due numeri come 12-34.");
-        p.amboSpia = {x, y};
-    }
-    p.tuttiGliAmbi = a.tuttiGliAmbi;
-    if (!a.posizioni.empty()) {
-        p.posizioneDeterminata = true;
-        p.posizioniSpia = LeggiPosizioni(a.posizioni, "--posizioni");
-    }
-    if (a.ultime > 0) {
-        p.perData = 1;
-        p.sortiteDaCercare = a.ultime;
-    }
-    p.dataDa = a.da;
-    p.dataA = a.a;
-    if (a.indiceMese == "U" || a.indiceMese == "u")
-        p.indiceMese = 0;
-    else if (a.indiceMese == "tutti" || a.indiceMese == "22")
-        p.indiceMese = 22;
-    else {
-        char* fine = nullptr;
-        const long n = std::strtol(a.indiceMese.c_str(), &fine, 10);
-        if (*fine || n < 1 || n > 21) throw Rifiuta("--indice-mese: U, un numero da 1 a 21 oppure tutti.");
-        p.indiceMese = static_cast<int>(n);
-    }
-    // Wheels default to the screen's settings.
-    const auto& S = config::sezioni::Settings;
-    auto daImpostazione = [&](const char* chiave) {
-        const config::CaselleRuote c =
-            config::CaricaRuoteConNz(config::LeggiImpostazione(ini, S, chiave, config::Predefinito(S, chiave)));
-        return std::array<bool, 12>(c);
-    };
-    p.ruoteRicerca = a.ruoteRicerca.empty() ? daImpostazione("RuoteConNz") : LeggiRuote(a.ruoteRicerca, "--ruote-ricerca");
-    p.ruoteGioco = a.ruoteGioco.empty() ? daImpostazione("RuoteConNzGioco") : LeggiRuote(a.ruoteGioco, "--ruote-gioco");
-    p.colpi = a.colpi;
-    p.controllaUltime = !a.senzaUltime;
-    p.soloPosizione = a.soloPosizione;
-    p.posizioniValide = LeggiPosizioni(a.posizioniValide, "--posizioni-valide");
-    p.sorte = a.sorte;
-    p.operazioni = {a.operazioni.find('+') != std::string::npos, a.operazioni.find('-') != std::string::npos,
-                    a.operazioni.find('x') != std::string::npos};
-    return p;
-}
-
 void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
     const Archivio archivio = ctx.ApriArchivi();
     const config::FileIni ini(ctx.FileImpostazioni().string());
-    const builder::ParametriRicerca p = Parametri(a, ini);
-    const builder::ContestoCostruttore cc = builder::PreparaCostruttore(
-        archivio.Storia(), ini, archivio.PercorsoProgramma(), a.terzine.empty() ? std::nullopt : std::optional(a.terzine));
-    if (p.tipoRicerca == builder::TipoRicerca::Codici && !cc.terzine.valido)
-        throw Rifiuto{cc.terzine.messaggio.vuoto()
-                          ? Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " + cc.fileTerzine,
-                                      "Errore", Icona::Esclamazione}
-                          : cc.terzine.messaggio};
+    const builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
+    const builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
     // The file is settled before the search, so that a refusal costs nothing.
     if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
         throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
@@ -191,28 +88,7 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
 void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
     auto a = std::make_shared<ArgomentiCostruttore>();
     auto* c = app.add_subcommand("costruttore", "Ricerca degli algoritmi (il costruttore): casi della spia e algoritmi migliori");
-    c->add_option("--spia", a->spia, "Tipo di spia")->check(CLI::IsMember({"numero", "somma", "differenza", "ambo"}));
-    c->add_option("--modo", a->modo, "fisso, tutti (tutti i numeri/somme/differenze), indice (solo indice mensile)")
-        ->check(CLI::IsMember({"fisso", "tutti", "indice"}));
-    c->add_option("--valore", a->valore, "Numero, somma o differenza spia (predefinito 1)");
-    c->add_option("--ambo", a->ambo, "Ambo spia, come 12-34");
-    c->add_flag("--tutti-gli-ambi", a->tuttiGliAmbi, "Con l'ambo spia: tutti gli ambi");
-    c->add_option("--posizioni", a->posizioni, "Posizione determinata della spia, come 135 (predefinito: tutte)");
-    c->add_option("--da", a->da, "Inizio del periodo GG/MM/AAAA (predefinito: dieci anni prima dell'ultima)");
-    c->add_option("--a", a->a, "Fine del periodo GG/MM/AAAA (predefinito: l'ultima estrazione)");
-    c->add_option("--ultime", a->ultime, "Le ultime n sortite della spia invece del periodo");
-    c->add_option("--indice-mese", a->indiceMese, "U (ultima del mese, predefinito), 1..21 oppure tutti");
-    c->add_option("--ruote-ricerca", a->ruoteRicerca, "tutte, tutte+nz o sigle BA,CA,...,NZ (predefinito: impostazioni)");
-    c->add_option("--ruote-gioco", a->ruoteGioco, "Come --ruote-ricerca");
-    c->add_option("--colpi", a->colpi, "Colpi di gioco (predefinito 9)");
-    c->add_flag("--senza-ultime", a->senzaUltime, "Non usare come spia le ultime estrazioni del periodo (\"Controlla le ultime 9 estraz.\" spento)");
-    c->add_option("--tipo", a->tipo, "ambate, ambi, terzine-ambo, terzine-terno, codici")
-        ->check(CLI::IsMember({"ambate", "ambi", "terzine-ambo", "terzine-terno", "codici"}));
-    c->add_flag("--solo-posizione", a->soloPosizione, "Solo posizione sul q.e.");
-    c->add_option("--posizioni-valide", a->posizioniValide, "Validità dell'ambata, come 12345");
-    c->add_option("--sorte", a->sorte, "Codici: 2 (ambi) o 3 (terni)")->check(CLI::IsMember({2, 3}));
-    c->add_option("--operazioni", a->operazioni, "Codici: operazioni fra +, - e x (predefinito +-x)");
-    c->add_option("--terzine", a->terzine, "File delle terzine ridotte (predefinito: impostazione FileTerzine o Terzine.txt)");
+    AggiungiOpzioniRicerca(c, a->ricerca);
     c->add_flag("--seleziona", a->seleziona, "Righe già selezionate");
     c->add_option("--report", a->report, "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
     c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");

@@ -42,5 +42,6 @@ void StampaJson(const nlohmann::json& j);
 void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx);
 void AggiungiComandiImpostazioni(CLI::App& app, Contesto& ctx);
 void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx);
+void AggiungiComandiVerifica(CLI::App& app, Contesto& ctx);
 
 }  // namespace gorgo::cli

@@ -56,6 +56,7 @@ int main(int argc, char** argv) {
     gorgo::cli::AggiungiComandiArchivi(app, ctx);
     gorgo::cli::AggiungiComandiImpostazioni(app, ctx);
     gorgo::cli::AggiungiComandiCostruttore(app, ctx);
+    gorgo::cli::AggiungiComandiVerifica(app, ctx);
     for (CLI::App* sub : app.get_subcommands({})) {
         sub->group("Comandi");
         sub->get_help_ptr()->group("Opzioni");

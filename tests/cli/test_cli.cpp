@@ -259,5 +259,77 @@ TEST(CliReale, ArchivioReale) {
     EXPECT_EQ(d["data"], "27/12/2025");
 }
 
+
+TEST_F(Cli, VerificaEPrevisioni) {
+    const std::vector<std::string> ricerca = {"--valore", "27", "--ruote-ricerca", "tutte", "--ruote-gioco", "tutte",
+                                              "--indice-mese", "tutti", "--da", "01/01/2024"};
+    auto con = [&](std::vector<std::string> a) {
+        a.insert(a.end(), ricerca.begin(), ricerca.end());
+        return Su(a);
+    };
+    const json c = json::parse(con({"--json", "costruttore"}).out);
+    ASSERT_GE(c["righe"].size(), 2u);
+    const std::string chiave = c["righe"][0]["chiave"], chiave2 = c["righe"][1]["chiave"];
+    const std::string descrizione = c["righe"][0]["descrizione"];
+
+    const Esito ev = con({"--json", "verifica", "--chiave", chiave});
+    ASSERT_EQ(ev.codice, 0) << ev.err;
+    const json v = json::parse(ev.out);
+    EXPECT_EQ(v["descrizione"], descrizione);
+    ASSERT_FALSE(v["righe"].empty());
+    int precedente = 0;
+    for (const json& r : v["righe"]) {
+        EXPECT_GE(r["indice_esito"].get<int>(), precedente);  // ascending on the hidden key
+        precedente = r["indice_esito"];
+        const std::string esito = r["data_sortita"];
+        EXPECT_EQ(r["algoritmo"], esito.size() == 10 ? descrizione : std::string("Nessuno"));
+        EXPECT_EQ(r["spia"], "27");
+    }
+    EXPECT_EQ(v["riepilogo"]["rilevati"], v["righe"].size());
+    EXPECT_EQ(v["riepilogo"]["righe"][0].get<std::string>().rfind(" Casi rilevati   : ", 0), 0u);
+    EXPECT_EQ(v["riepilogo"]["testa"][0], "Gorgo 2");
+    // The case of the last draw is the newest; the risultati line tells whether one runs.
+    EXPECT_EQ(v["risultati"].get<std::string>().rfind(descrizione + " : risultati ottenuti", 0), 0u);
+
+    const Esito testo = con({"verifica", "--chiave", chiave});
+    ASSERT_EQ(testo.codice, 0) << testo.err;
+    EXPECT_NE(testo.out.find(" Casi rilevati   : "), std::string::npos);
+    EXPECT_NE(testo.out.find("Condizione di gioco:"), std::string::npos);
+
+    const Esito ep = con({"--json", "previsioni", "--chiave", chiave, "--chiave", chiave2});
+    ASSERT_EQ(ep.codice, 0) << ep.err;
+    const json p = json::parse(ep.out);
+    EXPECT_EQ(p["titolo"], "Calcolo previsioni degli algoritmi selezionati: Ambate");
+    ASSERT_EQ(p["righe"].size(), 2u);
+    EXPECT_EQ(p["righe"][0]["descrizione"], descrizione);
+    EXPECT_EQ(p["righe"][0]["previsione"], v["previsione"]);
+    EXPECT_NE(p["righe"][0]["ic"].get<std::string>().find(','), std::string::npos);
+    EXPECT_NE(con({"previsioni", "--chiave", chiave}).out.find("Calcolo previsioni degli algoritmi selezionati: "),
+              std::string::npos);
+
+    // Refusals: the key's own fault, the period's, a missing key; nothing written, nothing printed.
+    const std::string prima = Istantanea(cartella_);
+    struct Caso {
+        std::vector<std::string> argomenti;
+        std::string messaggio;
+    };
+    const Caso casi[] = {
+        {{"verifica", "--chiave", "123"}, "Calcolo impossibile: algoritmo mancante."},
+        {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "Calcolo impossibile: "},
+        {{"verifica", "--chiave", chiave, "--colpi", "0"}, "Inserire il n. di colpi di gioco !"},
+        {{"previsioni", "--chiave", chiave, "--chiave", "1"}, "Calcolo impossibile: algoritmo mancante."},
+        {{"previsioni", "--chiave", chiave, "--tipo", "codici", "--terzine", (c_.percorso() / "manca.txt").string()},
+         "manca.txt"},
+        {{"verifica"}, "Manca il parametro obbligatorio"},
+    };
+    for (const Caso& k : casi) {
+        const Esito e = con(k.argomenti);
+        EXPECT_EQ(e.codice, 2) << k.argomenti[0] << " " << e.err;
+        EXPECT_NE(e.err.find(k.messaggio), std::string::npos) << e.err;
+        EXPECT_TRUE(e.out.empty()) << e.out;
+    }
+    EXPECT_EQ(Istantanea(cartella_), prima);
+}
+
 }  // namespace
 }  // namespace gorgo

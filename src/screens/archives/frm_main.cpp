@@ -16,6 +16,7 @@
 #include "screens/archives/ambiente.h"
 #include "screens/archives/frm_about_me.h"
 #include "screens/archives/twips.h"
+#include "screens/builder/frm_costruttore.h"
 #include "screens/config/browser.h"
 #include "screens/config/frm_colori.h"
 #include "screens/config/frm_esclusioni.h"
@@ -205,8 +206,12 @@ void FrmMain::CreaPannello() {
     int i = 0;
     for (const Voce& vc : voci) {
         QPushButton* b = Pulsante(vc.nome, QString::fromUtf8(vc.testo));
-        b->setEnabled(false);
-        b->setToolTip(QString::fromUtf8(TestoInArrivo));
+        if (std::string_view(vc.nome) == "cmdGorgo") {
+            connect(b, &QPushButton::clicked, this, [this] { ApriCostruttore(); });
+        } else {
+            b->setEnabled(false);
+            b->setToolTip(QString::fromUtf8(TestoInArrivo));
+        }
         p->addWidget(b, i / 3, i % 3);
         ++i;
     }
@@ -308,6 +313,19 @@ void FrmMain::ApriUrl() {
 void FrmMain::ApriSitoWeb() {
     ApriBrowser(QString::fromStdString(config::LeggiImpostazione(
         Ambiente().ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
+}
+
+void FrmMain::ApriCostruttore() {
+    // A window already open comes forward instead of opening twice.
+    if (costruttore_) {
+        costruttore_->showNormal();
+        costruttore_->raise();
+        costruttore_->activateWindow();
+        return;
+    }
+    auto* f = new FrmCostruttore(this);
+    costruttore_ = f;
+    f->show();
 }
 
 void FrmMain::ApriInformazioni() {

@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <QPointer>
 #include <QPushButton>
 #include <array>
 
@@ -37,8 +38,10 @@ private:
     void ApriUrl();
     void ApriSitoWeb();
     void ApriInformazioni();
+    void ApriCostruttore();
 
     std::array<QLabel*, 2> lblUltimaEstrazione_{};
+    QPointer<QWidget> costruttore_;
     QLabel* lblNessuna_ = nullptr;
     std::array<QLabel*, 4> lblRestrizioni_{};
 };
