@@ -1,0 +1,1 @@
+#include "rete/rete.h"
