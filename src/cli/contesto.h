@@ -43,5 +43,8 @@ void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx);
 void AggiungiComandiImpostazioni(CLI::App& app, Contesto& ctx);
 void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx);
 void AggiungiComandiVerifica(CLI::App& app, Contesto& ctx);
+void AggiungiComandiInserisci(CLI::App& app, Contesto& ctx);
+void AggiungiComandiManutenzione(CLI::App& app, Contesto& ctx);
+void AggiungiComandiScarica(CLI::App& app, Contesto& ctx);
 
 }  // namespace gorgo::cli

@@ -57,6 +57,9 @@ int main(int argc, char** argv) {
     gorgo::cli::AggiungiComandiImpostazioni(app, ctx);
     gorgo::cli::AggiungiComandiCostruttore(app, ctx);
     gorgo::cli::AggiungiComandiVerifica(app, ctx);
+    gorgo::cli::AggiungiComandiInserisci(app, ctx);
+    gorgo::cli::AggiungiComandiManutenzione(app, ctx);
+    gorgo::cli::AggiungiComandiScarica(app, ctx);
     for (CLI::App* sub : app.get_subcommands({})) {
         sub->group("Comandi");
         sub->get_help_ptr()->group("Opzioni");

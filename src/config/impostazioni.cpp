@@ -59,6 +59,8 @@ constexpr VoceImpostazione kTabella[] = {
     V(O, "Giorni estrazione", "NNYNYNY"),
     V(O, "Show Tips at Startup", "1"),
     V(O, "Url", UrlPredefinita),
+    // The public archive moves from time to time: the user sets where it is.
+    V(O, "UrlStorico", ""),
     V(O, "Riepilogo", TestoFalso),
     V(O, "FileFormazioni", ""),
     V(O, "FileTerzine", ""),
@@ -279,6 +281,13 @@ Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view
         return valore == "0" || valore == "1" ? Messaggio{} : errore("Serve 1 oppure 0.");
     if (k == "Minimizza" || k == "Riepilogo")
         return TestoBooleano(valore) ? Messaggio{} : errore("Serve True oppure False.");
+    if (k == "UrlStorico") {
+        // Empty puts the key back as it came: no address known.
+        const bool http = valore.starts_with("http://") || valore.starts_with("https://");
+        return valore.empty() || (http && valore.find(' ') == std::string_view::npos)
+                   ? Messaggio{}
+                   : errore("Serve un indirizzo che inizi con http:// oppure https://.");
+    }
     if (k == "Url") {
         // As the address dialog: "http://" in front when missing, then at least 12 characters.
         const std::string url = valore.starts_with("http") ? std::string(valore) : "http://" + std::string(valore);

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 #include <fstream>
 #include <nlohmann/json.hpp>
+#include <zip.h>
 
 #include "archives/archivio.h"
 #include "support/archivi_reali.h"
@@ -329,6 +330,251 @@ TEST_F(Cli, VerificaEPrevisioni) {
         EXPECT_TRUE(e.out.empty()) << e.out;
     }
     EXPECT_EQ(Istantanea(cartella_), prima);
+}
+
+// The writers from the command line, on a copy of the real archives.
+class CliManutenzione : public ::testing::Test {
+protected:
+    void SetUp() override {
+        auto reale = test::CartellaReale();
+        if (!reale) GTEST_SKIP() << "archivi reali assenti ($GORGO_SHARED/dati/Archivi)";
+        aggiornamenti_ = reale->parent_path() / "aggiornamenti";
+        if (!fs::exists(aggiornamenti_ / "AggiornamentoPz.bin")) GTEST_SKIP() << "file di aggiornamento assenti";
+        cartella_ = c_.percorso() / "gorgo";
+        test::CopiaArchiviReali(*reale, cartella_);
+    }
+    Esito Su(std::vector<std::string> argomenti, const fs::path& cartella = {}) {
+        argomenti.insert(argomenti.begin(), {"--cartella", (cartella.empty() ? cartella_ : cartella).string()});
+        return Esegui(argomenti);
+    }
+    std::string File(const char* nome) const { return (aggiornamenti_ / nome).string(); }
+    void Scrivi(const fs::path& p, const std::string& s) const {
+        std::ofstream f(p, std::ios::binary | std::ios::trunc);
+        f << s;
+    }
+    CartellaTemporanea c_;
+    fs::path cartella_, aggiornamenti_;
+};
+
+TEST_F(CliManutenzione, AggiornaEsportaEsportaTesto) {
+    const Esito a = Su({"--json", "aggiorna", File("AggiornamentoPz.bin")});
+    ASSERT_EQ(a.codice, 0) << a.err;
+    const json j = json::parse(a.out);
+    EXPECT_EQ(j["messaggio"], "Aggiornamento archivi al 21/08/2026 effettuato");
+    EXPECT_EQ(j["aggiunte"], 134);
+    EXPECT_EQ(j["anni_aggiunti"], 1);
+    EXPECT_EQ(j["estrazioni"], 10913);
+    EXPECT_EQ(j["ultima"], "n.134 del 21/08/2026");
+    const Esito di_nuovo = Su({"aggiorna", File("AggiornamentoPz.bin")});
+    EXPECT_EQ(di_nuovo.codice, 0);
+    EXPECT_EQ(di_nuovo.out.rfind("Per il momento non ci sono aggiornamenti utili\n", 0), 0u) << di_nuovo.out;
+
+    const fs::path esportato = c_ / "esportato.bin";
+    const Esito e = Su({"esporta", esportato.string(), "--da", "30/12/2025"});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    EXPECT_NE(e.out.find("Esportazione archivio " + esportato.string() + " al 21/08/2026 effettuata"), std::string::npos);
+    EXPECT_EQ(LeggiFile(esportato), LeggiFile(File("AggiornamentoPz.bin")));
+    const json tutto = json::parse(Su({"--json", "esporta", esportato.string()}).out);
+    EXPECT_EQ(tutto["esportate"], 10913 - 7772);
+    EXPECT_EQ(fs::file_size(esportato), (10913u - 7772u) * 66u);
+
+    const fs::path testo = c_ / "storico.txt";
+    const json t = json::parse(Su({"--json", "esporta-testo", testo.string()}).out);
+    EXPECT_EQ(t["esportate"], 10913);
+    const std::string scritto = LeggiFile(testo);
+    EXPECT_EQ(scritto.substr(scritto.find("2025/12/30\t")), LeggiFile(File("storico-2026.txt")));
+}
+
+TEST_F(CliManutenzione, RifiutiSenzaScrivereNulla) {
+    const std::string agg = LeggiFile(File("AggiornamentoPz.bin"));
+    Scrivi(c_ / "65.bin", agg.substr(0, 65));
+    Scrivi(c_ / "67.bin", agg.substr(0, 67));
+    Scrivi(c_ / "lacuna.bin", agg.substr(66));
+    Scrivi(c_ / "rotto.txt", "2026/01/02\tBA\t1\t2\t3\t4\t5\n2026/01/02\tCA\t1\t2\t3\t4\n");
+    const std::string prima = Istantanea(cartella_);
+    struct Caso {
+        std::vector<std::string> argomenti;
+        std::string messaggio;
+    };
+    const Caso casi[] = {
+        {{"aggiorna", (c_ / "65.bin").string()}, (c_ / "65.bin").string() + " corrotto o mancante !"},
+        {{"aggiorna", (c_ / "67.bin").string()}, (c_ / "67.bin").string() + " corrotto o mancante !"},
+        {{"aggiorna", (c_ / "manca.bin").string()}, "manca.bin corrotto o mancante !"},
+        {{"aggiorna", (c_ / "lacuna.bin").string()}, "Discontinuità di memorizzazione - Aggiornamento impossibile"},
+        {{"aggiorna", File("AggiornamentoPz.bin"), "--super"}, "corrotto o mancante !"},
+        {{"importa", (c_ / "lacuna.bin").string()}, "Riga 1: formato non riconosciuto"},
+        {{"importa", (c_ / "rotto.txt").string()}, "Riga 2: formato non riconosciuto"},
+        {{"esporta", (c_ / "x.bin").string(), "--da", "32/01/2020"}, "Inserire la data nel formato GG/MM/AAAA !"},
+        {{"esporta", (cartella_ / "Archivi" / "Estrazioni.ind").string()}, "è un archivio del programma"},
+        {{"esporta-testo", (cartella_ / "Archivi" / "anni.ind").string()}, "è un archivio del programma"},
+        {{"aggiorna"}, "Manca il parametro obbligatorio"},
+    };
+    for (const Caso& k : casi) {
+        const Esito e = Su(k.argomenti);
+        EXPECT_EQ(e.codice, 2) << k.argomenti[0] << " " << e.err;
+        EXPECT_NE(e.err.find(k.messaggio), std::string::npos) << k.argomenti[0] << ": " << e.err;
+        EXPECT_TRUE(e.out.empty()) << e.out;
+    }
+    EXPECT_EQ(Istantanea(cartella_), prima);
+    EXPECT_FALSE(fs::exists(c_ / "x.bin"));
+}
+
+TEST_F(CliManutenzione, ImportaInUnaCartellaVuotaEDaZip) {
+    const fs::path nuova = c_ / "nuova" / "gorgo";
+    // A faulty file creates nothing.
+    Scrivi(c_ / "rotto.txt", "2026/01/02\tBA\t1\t2\t3\t4\t5\n2026/01/02\tBA\t1\t2\t3\t4\t5\n");
+    const Esito r = Su({"importa", (c_ / "rotto.txt").string()}, nuova);
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_NE(r.err.find("Riga 2: la ruota di Bari del 02/01/2026 compare già alla riga 1."), std::string::npos) << r.err;
+    EXPECT_FALSE(fs::exists(c_ / "nuova"));
+
+    const Esito e = Su({"--json", "importa", File("storico-2026.txt")}, nuova);
+    ASSERT_EQ(e.codice, 0) << e.err;
+    const json j = json::parse(e.out);
+    EXPECT_TRUE(j["creato"].get<bool>());
+    EXPECT_EQ(j["aggiunte"], 135);
+    EXPECT_EQ(j["ultima"], "n.134 del 21/08/2026");
+    EXPECT_TRUE(fs::exists(nuova / "Archivi" / "Estrazioni.ind"));
+    const fs::path testo = c_ / "riscritto.txt";
+    ASSERT_EQ(Su({"esporta-testo", testo.string()}, nuova).codice, 0);
+    EXPECT_EQ(LeggiFile(testo), LeggiFile(File("storico-2026.txt")));
+
+    // The same as a zip into the 2025 archive: the records of the update file.
+    const fs::path zip = c_ / "storico.zip";
+    {
+        int errore = 0;
+        zip_t* z = zip_open(zip.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &errore);
+        ASSERT_NE(z, nullptr);
+        const std::string s = LeggiFile(File("storico-2026.txt"));
+        ASSERT_GE(zip_file_add(z, "storico.txt", zip_source_buffer(z, s.data(), s.size(), 0), 0), 0);
+        ASSERT_EQ(zip_close(z), 0);
+    }
+    const Esito ez = Su({"importa", zip.string()});
+    ASSERT_EQ(ez.codice, 0) << ez.err;
+    EXPECT_EQ(ez.out.rfind("Importazione archivio del Lotto al 21/08/2026 effettuata: 134 estrazioni aggiunte.", 0), 0u)
+        << ez.out;
+    const std::string estrazioni = LeggiFile(cartella_ / "Archivi" / "Estrazioni.ind");
+    EXPECT_EQ(estrazioni.substr(10779 * 66), LeggiFile(File("AggiornamentoPz.bin")).substr(66));
+}
+
+TEST_F(CliManutenzione, ImportaSuperEnalotto) {
+    const std::string super = LeggiFile(cartella_ / "Archivi" / "SuperEnalotto.ind");
+    fs::resize_file(cartella_ / "Archivi" / "SuperEnalotto.ind", super.size() - 2 * 20);
+    // The last three draws, newest first, semicolons, with a heading.
+    std::string lista = "Data;N1;N2;N3;N4;N5;N6;Jolly;SuperStar\n";
+    for (size_t k = 1; k <= 3; ++k) {
+        const auto* r = reinterpret_cast<const RecordSuperEnalotto*>(super.data() + super.size() - k * 20);
+        lista += r->dataTesto();
+        for (int n : r->Sestina) lista.append(";").append(std::to_string(n));
+        lista.append(";").append(std::to_string(r->Jolly)).append(";").append(std::to_string(r->SuperStar)).append("\n");
+    }
+    Scrivi(c_ / "super.csv", lista);
+    const Esito e = Su({"--json", "importa", "--super", (c_ / "super.csv").string()});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    EXPECT_EQ(json::parse(e.out)["aggiunte"], 2);
+    EXPECT_EQ(LeggiFile(cartella_ / "Archivi" / "SuperEnalotto.ind"), super);
+}
+
+TEST_F(CliManutenzione, UnArchivioInterrottoSiRiparaPrimaDiScrivere) {
+    // The draws of the update written, anni.ind not: the next writer repairs, says so, goes on.
+    {
+        std::ofstream f(cartella_ / "Archivi" / "Estrazioni.ind", std::ios::binary | std::ios::app);
+        f << LeggiFile(File("AggiornamentoPz.bin")).substr(66, 10 * 66) << "mezzo";
+    }
+    EXPECT_EQ(Su({"info"}).codice, 2);  // the readers refuse an archive out of step
+    const Esito e = Su({"aggiorna", File("AggiornamentoPz.bin")});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    EXPECT_NE(e.err.find("Archivio riparato"), std::string::npos) << e.err;
+    EXPECT_NE(e.out.find("Estrazioni aggiunte: 124;"), std::string::npos) << e.out;
+    EXPECT_EQ(Su({"info"}).codice, 0);
+}
+
+// inserisci: a draw as text; the screen's questions need --conferma, without it nothing is
+// written; a stored date corrects that draw and leaves the year index alone.
+TEST_F(Cli, Inserisci) {
+    std::string testo;
+    for (int i = 1; i <= 55; ++i) testo += std::to_string(i) + (i % 5 == 0 ? " / " : " ");
+    const Archivio prima = Archivio::Apri(cartella_);
+    const int32_t n = prima.NumeroEstrazioni();
+    const int32_t anni = prima.NumeroAnni();
+
+    Esito e = Su({"--json", "inserisci", testo});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    json j = json::parse(e.out);
+    EXPECT_EQ(j["indice"], n + 1);
+    EXPECT_EQ(j["data"], "01/01/2026");  // the day proposed after Tuesday 30/12/2025
+    EXPECT_EQ(j["numero_anno"], 1);
+    EXPECT_TRUE(j["nuova"].get<bool>());
+    EXPECT_TRUE(j["anno_aggiunto"].get<bool>());
+    EXPECT_TRUE(j["domande"].empty());
+    EXPECT_EQ(j["numeri"][54], 55);
+    {
+        const Archivio a = Archivio::Apri(cartella_);
+        EXPECT_EQ(a.NumeroAnni(), anni + 1);
+        EXPECT_EQ(a.LeggiEstrazione(n + 1).Numero(11, 5), 55);
+    }
+
+    // Refusals and unanswered questions write nothing.
+    const std::string istantanea = Istantanea(cartella_);
+    std::string uguali = testo;
+    uguali.replace(uguali.find(" 7 "), 3, " 6 ");
+    struct Caso {
+        std::vector<std::string> argomenti;
+        std::string messaggio;
+    };
+    const Caso casi[] = {
+        {{"inserisci", uguali}, "Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?"},
+        {{"inserisci", "1 2 3 4 5 6 7 8 9 10"}, "Mancano alcuni numeri. Memorizzi ugualmente ?"},
+        {{"inserisci", testo, "--data", "30/12/2025"}, "L'estrazione del 30/12/2025 è già in archivio"},
+        {{"inserisci", testo, "--data", "31/12/2025"}, "In archivio non c'è un'estrazione del 31/12/2025"},
+        {{"inserisci", testo, "--data", "1/2/2026"}, "Inserire la data nel formato GG/MM/AAAA !"},
+        {{"inserisci", testo, "--data", "30/02/2026"}, "Inserire la data nel formato GG/MM/AAAA !"},
+        {{"inserisci", "12 34 56 91 22 33 44 55", "--conferma"}, "Valori incongruenti - Non è possibile decodificare"},
+        {{"inserisci", "1 2 3", "--conferma"}, "Testo troppo corto"},
+        {{"inserisci", "nessun numero qui", "--conferma"}, "Il testo non contiene numeri."},
+        {{"inserisci", "1 2 3 4 5 6 7 8", "--super", "--data", "01/01/2020"}, "In archivio non c'è"},
+    };
+    for (const Caso& c : casi) {
+        const Esito r = Su(c.argomenti);
+        EXPECT_EQ(r.codice, 2) << c.argomenti[1] << " " << r.err;
+        EXPECT_NE(r.err.find(c.messaggio), std::string::npos) << r.err;
+        EXPECT_TRUE(r.out.empty()) << r.out;
+    }
+    EXPECT_EQ(Istantanea(cartella_), istantanea);
+
+    // Yes to the question: stored, and the question said on the way.
+    e = Su({"inserisci", uguali, "--conferma"});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    EXPECT_NE(e.out.find("Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?  Sì"), std::string::npos) << e.out;
+    EXPECT_NE(e.out.find("Estrazione n.2 del sabato 03/01/2026 memorizzata (progressivo " + std::to_string(n + 2) + ")"),
+              std::string::npos)
+        << e.out;
+
+    // The correction of a stored draw: the year index does not move.
+    const std::string indiceAnni = LeggiFile(cartella_ / "Archivi/anni.ind");
+    e = Su({"--json", "inserisci", "90 89 88 87 86", "--data", "01/01/2026", "--conferma"});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    j = json::parse(e.out);
+    EXPECT_FALSE(j["nuova"].get<bool>());
+    EXPECT_EQ(j["indice"], n + 1);
+    EXPECT_EQ(j["domande"].size(), 1u);
+    EXPECT_EQ(LeggiFile(cartella_ / "Archivi/anni.ind"), indiceAnni);
+    {
+        const Archivio a = Archivio::Apri(cartella_);
+        EXPECT_EQ(a.NumeroEstrazioni(), n + 2);
+        EXPECT_EQ(a.LeggiEstrazione(n + 1).Numero(1, 1), 90);
+        EXPECT_EQ(a.LeggiEstrazione(n + 1).Numero(2, 1), 6);  // the later boxes keep the stored numbers
+    }
+
+    // SuperEnalotto, on a date of its own choosing.
+    const int32_t s = prima.NumeroEstrazioniSuper();
+    e = Su({"--json", "inserisci", "3 14 15 22 65 35 jolly 8 superstar 9", "--super", "--data", "02/01/2026"});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    j = json::parse(e.out);
+    EXPECT_EQ(j["gioco"], "superenalotto");
+    EXPECT_EQ(j["indice"], s + 1);
+    EXPECT_EQ(j["numeri"], json::array({3, 14, 15, 22, 65, 35, 8, 9}));
+    EXPECT_EQ(Su({"info"}).codice, 0);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "archives/demo.h"
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
+#include "maintenance/aggiornamento.h"
 #include "screens/archives/ambiente.h"
 #include "screens/config/messaggi.h"
 
@@ -42,6 +43,11 @@ std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorso, s
         return nullptr;
     }
     try {
+        // A run cut short while writing leaves the files out of step: bring them back first.
+        if (std::filesystem::is_directory(percorso / "Archivi")) {
+            const manutenzione::EsitoRiparazione r = manutenzione::RiparaCartellaArchivi(percorso / "Archivi");
+            if (r.riparato()) MostraMessaggio(nullptr, {r.descrizione, "Gorgo 2", Icona::Informazione});
+        }
         a.archivio = std::make_unique<Archivio>(Archivio::Apri(percorso, ModoApertura::Scrittura));
     } catch (const ErroreArchivio& e) {
         MostraMessaggio(nullptr, {e.what(), "Errore", Icona::Stop});

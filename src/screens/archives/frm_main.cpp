@@ -15,7 +15,12 @@
 #include "config/restrizioni.h"
 #include "screens/archives/ambiente.h"
 #include "screens/archives/frm_about_me.h"
+#include "maintenance/importazione.h"
 #include "screens/archives/twips.h"
+#include "screens/config/elaborazioni.h"
+#include "screens/maintenance/frm_aggiornamenti.h"
+#include "screens/maintenance/frm_esportazione.h"
+#include "screens/maintenance/scelta_file.h"
 #include "screens/builder/frm_costruttore.h"
 #include "screens/config/browser.h"
 #include "screens/config/frm_colori.h"
@@ -24,6 +29,9 @@
 #include "screens/config/frm_url.h"
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
+#include "screens/maintenance/frm_input_estrazioni.h"
+#include "screens/maintenance/frm_stampa_estrazioni.h"
+#include "screens/maintenance/frm_aggiorna_internet.h"
 
 namespace gorgo::schermi {
 
@@ -91,23 +99,36 @@ void FrmMain::CreaMenu() {
     voce(file, "mnuFileExit", QStringLiteral("&Esci"), [this] { close(); });
 
     QMenu* lotto = mb->addMenu(QStringLiteral("&Estrazioni Lotto"));
-    voce(lotto, "mnuEstrazioniInserisci", QStringLiteral("Inserisci/modifica"), nullptr);
+    voce(lotto, "mnuEstrazioniInserisci", QStringLiteral("Inserisci/modifica"),
+         [this] { ApriEstrazioni(FinestraEstrazioni::Inserisci); });
     voce(lotto, "mnuEstrazioniConsulta", QStringLiteral("Consulta"), nullptr);
-    voce(lotto, "mnuEstrazioniAggiorna", QStringLiteral("Aggiorna da file..."), nullptr);
-    voce(lotto, "mnuEstrazioniAggiornaInt", QStringLiteral("Aggiorna archivi Lotto da Internet..."), nullptr);
-    voce(lotto, "mnuEstrazioniEsporta", QStringLiteral("Esporta archivio lotto..."), nullptr);
-    voce(lotto, "mnuEstrazioniStampa", QStringLiteral("Stampa..."), nullptr);
+    voce(lotto, "mnuEstrazioniAggiorna", QStringLiteral("Aggiorna da file..."),
+         [this] { ApriDialogoArchivio(new FrmAggiornamenti(this)); });
+    voce(lotto, "mnuEstrazioniAggiornaInt", QStringLiteral("Aggiorna archivi Lotto da Internet..."),
+         [this] { ApriAggiornaInternet(false); });
+    voce(lotto, "mnuEstrazioniScaricaStorico", QStringLiteral("Scarica archivio storico da Internet..."),
+         [this] { ApriScaricaStorico(); });
+    voce(lotto, "mnuEstrazioniEsporta", QStringLiteral("Esporta archivio lotto..."),
+         [this] { ApriDialogoArchivio(new FrmEsportazione(this)); });
+    voce(lotto, "mnuEstrazioniImporta", QStringLiteral("Importa archivio da file di testo..."),
+         [this] { ImportaArchivioTesto(); });
+    voce(lotto, "mnuEstrazioniStampa", QStringLiteral("Stampa..."), [this] { ApriEstrazioni(FinestraEstrazioni::Stampa); });
 
     QMenu* dieci = mb->addMenu(QStringLiteral("Estrazioni 10eLotto"));
     voce(dieci, "mnuEstrazioniConsulta10elotto", QStringLiteral("Consulta"), nullptr);
-    voce(dieci, "mnuEstrazioniStampa10elotto", QStringLiteral("Stampa..."), nullptr);
+    voce(dieci, "mnuEstrazioniStampa10elotto", QStringLiteral("Stampa..."),
+         [this] { ApriEstrazioni(FinestraEstrazioni::Stampa10eLotto); });
 
     QMenu* super = mb->addMenu(QStringLiteral("Estrazioni Superenalotto"));
-    voce(super, "mnuEstrazioniInserisciSuper", QStringLiteral("Inserisci/modifica"), nullptr);
+    voce(super, "mnuEstrazioniInserisciSuper", QStringLiteral("Inserisci/modifica"),
+         [this] { ApriEstrazioni(FinestraEstrazioni::InserisciSuper); });
     voce(super, "mnuEstrazioniConsultaSuper", QStringLiteral("Consulta"), nullptr);
-    voce(super, "mnuEstrazioniAggiornaSuper", QStringLiteral("Aggiorna da file..."), nullptr);
-    voce(super, "mnuEstrazioniAggiornaIntSuper", QStringLiteral("Aggiorna archivi SuperEnalotto da Internet..."), nullptr);
-    voce(super, "mnuEstrazioniStampaSuper", QStringLiteral("Stampa..."), nullptr);
+    voce(super, "mnuEstrazioniAggiornaSuper", QStringLiteral("Aggiorna da file..."),
+         [this] { ApriDialogoArchivio(new FrmAggiornamentiSuper(this)); });
+    voce(super, "mnuEstrazioniAggiornaIntSuper", QStringLiteral("Aggiorna archivi SuperEnalotto da Internet..."),
+         [this] { ApriAggiornaInternet(true); });
+    voce(super, "mnuEstrazioniStampaSuper", QStringLiteral("Stampa..."),
+         [this] { ApriEstrazioni(FinestraEstrazioni::StampaSuper); });
 
     QMenu* strumenti = mb->addMenu(QStringLiteral("S&trumenti"));
     voce(strumenti, "mnuStrumentiRestrizioni", QStringLiteral("Restrizioni di ricerca..."), [this] { ApriOpzioni(); });
@@ -220,10 +241,8 @@ void FrmMain::CreaPannello() {
     for (int k = 0; k < 2; ++k) {
         QPushButton* b = Pulsante(scarica[k].nome, QStringLiteral("..."));
         b->setMaximumWidth(48);
-        b->setEnabled(false);
-        // The tool tip of the system for the first; "comes later" while the screen is not there.
-        b->setToolTip(k == 0 ? QStringLiteral("Aggiorna l'archivio estrazioni via internet - %1").arg(QString::fromUtf8(TestoInArrivo))
-                             : QString::fromUtf8(TestoInArrivo));
+        if (k == 0) b->setToolTip(QStringLiteral("Aggiorna l'archivio estrazioni via internet"));
+        connect(b, &QPushButton::clicked, this, [this, k] { ApriAggiornaInternet(k == 1); });
         auto* etichetta = new QLabel(QString::fromUtf8(scarica[k].testo), pulsanti);
         etichetta->setObjectName(QStringLiteral("lblScarica_%1").arg(k));
         p->addWidget(b, 2 + k, 0, Qt::AlignRight);
@@ -325,6 +344,89 @@ void FrmMain::ApriCostruttore() {
     }
     auto* f = new FrmCostruttore(this);
     costruttore_ = f;
+    f->show();
+}
+
+void FrmMain::ApriAggiornaInternet(bool super) {
+    QPointer<QWidget>& aperta = super ? aggiornaSuperInternet_ : aggiornaInternet_;
+    if (aperta) {
+        aperta->showNormal();
+        aperta->raise();
+        aperta->activateWindow();
+        return;
+    }
+    FrmAggiornaInternetBase* f = super ? static_cast<FrmAggiornaInternetBase*>(new FrmAggiornaSuperInternet(this))
+                                       : new FrmAggiornaInternet(this);
+    f->setAttribute(Qt::WA_DeleteOnClose);
+    connect(f, &FrmAggiornaInternetBase::archivioAggiornato, this, [this] { AggiornaUltimeEstrazioni(); });
+    aperta = f;
+    f->show();
+}
+
+void FrmMain::ApriScaricaStorico() {
+    if (scaricaStorico_) {
+        scaricaStorico_->showNormal();
+        scaricaStorico_->raise();
+        scaricaStorico_->activateWindow();
+        return;
+    }
+    auto* f = new FrmScaricaStorico(this);
+    f->setAttribute(Qt::WA_DeleteOnClose);
+    connect(f, &FrmScaricaStorico::archivioAggiornato, this, [this] { AggiornaUltimeEstrazioni(); });
+    scaricaStorico_ = f;
+    f->show();
+}
+
+void FrmMain::ApriDialogoArchivio(QDialog* dialogo) {
+    dialogo->setAttribute(Qt::WA_DeleteOnClose);
+    if (auto* a = qobject_cast<FrmAggiornamenti*>(dialogo))
+        connect(a, &FrmAggiornamenti::archivioAggiornato, this, [this] { AggiornaUltimeEstrazioni(); });
+    dialogo->exec();
+    AggiornaUltimeEstrazioni();
+}
+
+void FrmMain::ImportaArchivioTesto() {
+    const QString file = ScegliFileManutenzione(
+        this, ModoSceltaFile::Apri, QStringLiteral("Importa archivio da file di testo"),
+        QStringLiteral("Archivio storico (*.txt *.zip)|*.txt;*.zip|Tutti i file (*.*)|*.*"),
+        QString::fromStdString(Ambiente().PercorsoProgramma.string()));
+    if (file.isEmpty()) return;
+    CMouse mouse;
+    const manutenzione::EsitoImportazione e =
+        manutenzione::ImportaFile(*Ambiente().archivio, file.toStdString(), manutenzione::Gioco::Lotto);
+    MostraMessaggio(this, e.messaggio);
+    AggiornaUltimeEstrazioni();
+}
+
+void FrmMain::ApriEstrazioni(FinestraEstrazioni quale) {
+    QPointer<QWidget>& aperta = finestreEstrazioni_[static_cast<size_t>(quale)];
+    if (aperta) {
+        aperta->showNormal();
+        aperta->raise();
+        aperta->activateWindow();
+        return;
+    }
+    QWidget* f = nullptr;
+    switch (quale) {
+        case FinestraEstrazioni::Inserisci:
+        case FinestraEstrazioni::InserisciSuper: {
+            auto* input = quale == FinestraEstrazioni::Inserisci ? new FrmInputEstrazioni(this)
+                                                                  : new FrmInputEstrazioniSuperEnalotto(this);
+            connect(input, &FrmInputEstrazioni::estrazioneMemorizzata, this, [this] { AggiornaUltimeEstrazioni(); });
+            f = input;
+            break;
+        }
+        case FinestraEstrazioni::Stampa:
+            f = new FrmStampaEstrazioni(this);
+            break;
+        case FinestraEstrazioni::StampaSuper:
+            f = new FrmStampaEstrazioniSuperEnalotto(this);
+            break;
+        case FinestraEstrazioni::Stampa10eLotto:
+            f = new FrmStampaEstrazioni10eLotto(this);
+            break;
+    }
+    aperta = f;
     f->show();
 }
 

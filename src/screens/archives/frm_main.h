@@ -2,6 +2,7 @@
 // frmMain: the hub of the program. It shows the last stored draw of each archive and the
 // restrictions in force, and opens every procedure from a button or a menu.
 
+#include <QDialog>
 #include <QLabel>
 #include <QMainWindow>
 #include <QPointer>
@@ -36,12 +37,21 @@ private:
     void ApriEsclusioni();
     void ApriColori();
     void ApriUrl();
+    // The entry and print screens of the draws, one window each.
+    enum class FinestraEstrazioni { Inserisci, InserisciSuper, Stampa, StampaSuper, Stampa10eLotto };
+    void ApriEstrazioni(FinestraEstrazioni quale);
+    void ApriDialogoArchivio(QDialog* dialogo);
+    void ImportaArchivioTesto();
     void ApriSitoWeb();
     void ApriInformazioni();
     void ApriCostruttore();
+    void ApriAggiornaInternet(bool super);
+    void ApriScaricaStorico();
 
     std::array<QLabel*, 2> lblUltimaEstrazione_{};
     QPointer<QWidget> costruttore_;
+    std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
+    QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
     QLabel* lblNessuna_ = nullptr;
     std::array<QLabel*, 4> lblRestrizioni_{};
 };

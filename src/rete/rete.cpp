@@ -1,1 +1,0 @@
-#include "rete/rete.h"

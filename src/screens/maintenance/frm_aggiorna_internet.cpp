@@ -1,0 +1,404 @@
+#include "screens/maintenance/frm_aggiorna_internet.h"
+
+#include <QCloseEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <fmt/format.h>
+#include <system_error>
+
+#include "archives/archivio.h"
+#include "config/impostazioni.h"
+#include "maintenance/importazione.h"
+#include "maintenance/internet.h"
+#include "rete/scaricatore.h"
+#include "screens/archives/ambiente.h"
+#include "screens/config/messaggi.h"
+#include "screens/config/stile.h"
+
+namespace gorgo::schermi {
+
+namespace m = manutenzione;
+
+namespace {
+
+QString Q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+
+QPushButton* Pulsante(QWidget* parent, const char* nome, const QString& testo, const QString& suggerimento = {}) {
+    auto* b = new QPushButton(testo, parent);
+    b->setObjectName(nome);
+    if (!suggerimento.isEmpty()) b->setToolTip(suggerimento);
+    return b;
+}
+
+QLabel* Etichetta(QWidget* parent, const char* nome, const QString& testo = {}) {
+    auto* l = new QLabel(testo, parent);
+    l->setObjectName(nome);
+    return l;
+}
+
+// The status line of the transfer, framed as a panel.
+QLabel* EtichettaStato(QWidget* parent) {
+    QLabel* l = Etichetta(parent, "lblStatus");
+    l->setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    l->setWordWrap(true);
+    l->setMinimumHeight(44);
+    l->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return l;
+}
+
+// The long form of a stored date: "sabato 21 agosto 2026".
+std::string DataLunga(const Data& d) {
+    if (!d.valida()) return {};
+    return fmt::format("{} {} {} {}", NomeGiorno(d.giornoSettimana()), d.giorno, NomeMese(d.mese), d.anno);
+}
+
+std::string LeggiUrl(std::string_view chiave) {
+    return config::LeggiImpostazione(Ambiente().ini, config::sezioni::Options, chiave,
+                                     config::Predefinito(config::sezioni::Options, chiave));
+}
+
+}  // namespace
+
+// ---- frmAggiornaInternet and frmAggiornaSuperInternet ------------------------------------
+
+FrmAggiornaInternetBase::FrmAggiornaInternetBase(m::Gioco gioco, const char* nome, const QString& titolo,
+                                                 QWidget* parent)
+    : QWidget(parent, Qt::Window), gioco_(gioco), scaricatore_(new rete::Scaricatore(this)) {
+    setObjectName(nome);
+    setWindowTitle(titolo);
+
+    auto* principale = new QVBoxLayout(this);
+    auto* ultima = new QGroupBox(QStringLiteral("Ultima estrazione memorizzata nel sistema:"), this);
+    ultima->setObjectName("fraUltima");
+    auto* g = new QGridLayout(ultima);
+    g->addWidget(Etichetta(ultima, "lblTestoNumero", QStringLiteral("Numero estrazione")), 0, 0);
+    g->addWidget(Etichetta(ultima, "lblTestoAnno", QStringLiteral("Anno estrazione")), 0, 1);
+    g->addWidget(Etichetta(ultima, "lblTestoUltima", QStringLiteral("Data")), 0, 2);
+    lblNumero_ = Etichetta(ultima, "lblNumero");
+    lblAnno_ = Etichetta(ultima, "lblAnno");
+    lblUltima_ = Etichetta(ultima, "lblUltima");
+    for (QLabel* l : {lblNumero_, lblAnno_, lblUltima_}) {
+        QFont f = l->font();
+        f.setBold(true);
+        l->setFont(f);
+    }
+    g->addWidget(lblNumero_, 1, 0);
+    g->addWidget(lblAnno_, 1, 1);
+    g->addWidget(lblUltima_, 1, 2);
+    g->setColumnStretch(2, 1);
+    principale->addWidget(ultima);
+
+    lblStatus_ = EtichettaStato(this);
+    principale->addWidget(lblStatus_);
+
+    cmdScarica_ = Pulsante(this, "cmdScarica", QStringLiteral("Scarica aggiornamento dal web..."));
+    cmdApri_ = Pulsante(this, "cmdApri", QStringLiteral("Apri file..."));
+    cmdAggiorna_ = Pulsante(this, "cmdAggiorna", QStringLiteral("Aggiorna"));
+    cmdAnnulla_ = Pulsante(this, "cmdAnnulla", QStringLiteral("Annulla"));
+    cmdEsci_ = Pulsante(this, "cmdEsci", QStringLiteral("Esci"));
+    auto* riga = new QHBoxLayout;
+    for (QPushButton* b : {cmdScarica_, cmdApri_, cmdAggiorna_, cmdAnnulla_}) riga->addWidget(b);
+    riga->addStretch();
+    riga->addWidget(cmdEsci_);
+    principale->addLayout(riga);
+    cmdAggiorna_->setEnabled(false);
+    cmdAnnulla_->setEnabled(false);
+
+    connect(cmdScarica_, &QPushButton::clicked, this, &FrmAggiornaInternetBase::Scarica);
+    connect(cmdApri_, &QPushButton::clicked, this, &FrmAggiornaInternetBase::Apri);
+    connect(cmdAggiorna_, &QPushButton::clicked, this, &FrmAggiornaInternetBase::Aggiorna);
+    connect(cmdAnnulla_, &QPushButton::clicked, this, &FrmAggiornaInternetBase::Annulla);
+    connect(cmdEsci_, &QPushButton::clicked, this, &QWidget::close);
+    connect(scaricatore_, &rete::Scaricatore::statoCambiato, this, &FrmAggiornaInternetBase::Stato);
+    connect(scaricatore_, &rete::Scaricatore::terminato, this, &FrmAggiornaInternetBase::FineScaricamento);
+
+    MostraUltima();
+    ApplicaStile(this, Ambiente().ini);
+    // After the standard tips, which give every cmdAnnulla its generic one.
+    cmdAnnulla_->setToolTip(QStringLiteral("Interrompe la connessione"));
+    cmdEsci_->setToolTip(QStringLiteral("Esci senza modificare nulla"));
+    setMinimumWidth(560);
+}
+
+FrmAggiornaInternet::FrmAggiornaInternet(QWidget* parent)
+    : FrmAggiornaInternetBase(m::Gioco::Lotto, "frmAggiornaInternet",
+                              QStringLiteral("Aggiormanemto estrazioni lotto da Internet"), parent) {}
+
+FrmAggiornaSuperInternet::FrmAggiornaSuperInternet(QWidget* parent)
+    : FrmAggiornaInternetBase(m::Gioco::SuperEnalotto, "frmAggiornaSuperInternet",
+                              QStringLiteral("Aggiornamento estrazioni Superenalotto da Internet"), parent) {}
+
+std::filesystem::path FrmAggiornaInternetBase::CopiaLocale() const {
+    return m::CopiaLocale(Ambiente().PercorsoProgramma, gioco_);
+}
+
+void FrmAggiornaInternetBase::MostraUltima() {
+    const Archivio* a = Ambiente().archivio.get();
+    if (!a) return;
+    if (gioco_ == m::Gioco::Lotto && a->NumeroEstrazioni() > 0) {
+        const RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+        lblNumero_->setText(QString::number(r.NumeroAnno));
+        lblAnno_->setText(QString::number(r.data().anno));
+        lblUltima_->setText(Q(DataLunga(r.data())));
+    } else if (gioco_ == m::Gioco::SuperEnalotto && a->NumeroEstrazioniSuper() > 0) {
+        const RecordSuperEnalotto r = a->LeggiRecordSuper(a->NumeroEstrazioniSuper());
+        lblNumero_->setText(QString::number(r.NumeroAnno));
+        lblAnno_->setText(QString::number(r.data().anno));
+        lblUltima_->setText(Q(DataLunga(r.data())));
+    }
+}
+
+void FrmAggiornaInternetBase::ImpostaStato(const std::string& testo, const std::string& dettaglio) {
+    // The system's text first; what failed, when known, on the line below.
+    lblStatus_->setText(dettaglio.empty() ? Q(testo) : Q(testo) + QLatin1Char('\n') + Q(dettaglio));
+    lblStatus_->setToolTip(Q(dettaglio));
+}
+
+void FrmAggiornaInternetBase::Stato(int stato, int codice, const QString& testo) {
+    if (stato == m::stati::Errore) {
+        lblStatus_->setText(Q(m::TestoStatoErrore(lblStatus_->text().toStdString(), codice, testo.toStdString())));
+        errore_ = true;
+        return;
+    }
+    if (const auto t = m::TestoStato(stato)) lblStatus_->setText(Q(*t));
+}
+
+void FrmAggiornaInternetBase::Scarica() {
+    errore_ = false;
+    const std::string indirizzo = m::IndirizzoAggiornamento(LeggiUrl("Url"), gioco_);
+    cmdAnnulla_->setEnabled(true);
+    cmdScarica_->setEnabled(false);
+    cmdApri_->setEnabled(false);
+    cmdAggiorna_->setEnabled(false);
+    lblStatus_->setToolTip({});
+    scaricatore_->Avvia(Q(indirizzo));
+}
+
+void FrmAggiornaInternetBase::Annulla() {
+    scaricatore_->Annulla();
+    cmdAnnulla_->setEnabled(false);
+    ImpostaStato(std::string(m::testi::AzioneAnnullata));
+}
+
+void FrmAggiornaInternetBase::FineScaricamento() {
+    cmdAnnulla_->setEnabled(false);
+    cmdScarica_->setEnabled(true);
+    cmdApri_->setEnabled(true);
+    const rete::RisultatoScaricamento& r = scaricatore_->Risultato();
+    const m::Scaricamento s = r.PerIlNucleo();
+    const std::filesystem::path copia = CopiaLocale();
+    const m::ValutazioneScaricamento v = m::ValutaScaricamento(s, gioco_, copia);
+    if (v.scriviCopiaLocale) {
+        if (const std::error_code e = m::ScriviCopiaLocale(copia, s.corpo)) {
+            if (gioco_ == m::Gioco::SuperEnalotto)
+                MostraMessaggio(this, {m::MessaggioErroreSuper(e.value(), "Impossibile scrivere il file", 7, copia,
+                                                               static_cast<std::uintmax_t>(s.corpo.size())),
+                                       "Errore", Icona::Stop});
+            else
+                MostraMessaggio(this, m::MessaggioCopiaLocale(copia, e));
+            return;
+        }
+    }
+    if (!v.stato.empty())
+        ImpostaStato(v.stato, v.dettaglio);
+    else
+        lblStatus_->setToolTip(Q(v.dettaglio));
+    if (!v.messaggio.vuoto()) MostraMessaggio(this, v.messaggio);
+    if (v.esito == m::EsitoScaricamento::Pronto) Apri();
+}
+
+void FrmAggiornaInternetBase::Apri() {
+    ImpostaStato(std::string(m::testi::FineConnessione));
+    const std::filesystem::path copia = CopiaLocale();
+    try {
+        std::error_code ec;
+        const auto lunghezza = std::filesystem::file_size(copia, ec);
+        if (ec || lunghezza == 0) return;
+        const auto dati = m::LeggiFileAggiornamento(copia);
+        if (!dati) {
+            MostraMessaggio(this, m::ErrFile(copia.string()));
+            return;
+        }
+        const Archivio* a = Ambiente().archivio.get();
+        if (!a) throw ErroreArchivio("archivio non aperto");
+        const m::ControlloAggiornamento c = m::ControllaAggiornamento(*a, *dati, gioco_, copia.string());
+        switch (c.stato) {
+            case m::StatoAggiornamento::Pronto: break;
+            case m::StatoAggiornamento::NienteDiNuovo: MostraMessaggio(this, m::MessaggioNienteDiNuovo()); return;
+            default: MostraMessaggio(this, c.messaggio); return;
+        }
+        cmdAggiorna_->setEnabled(true);
+        if (Chiedi(this, m::DomandaAllineamento(gioco_, c.ultimaData), QMessageBox::Yes | QMessageBox::No,
+                   QMessageBox::Yes) != QMessageBox::Yes)
+            return;
+        ImpostaStato(std::string(m::testi::FineConnessione));
+    } catch (const std::exception&) {
+        ImpostaStato(std::string(m::testi::ErroreAperturaStato));
+        MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", Icona::Stop});
+        return;
+    }
+    Aggiorna();
+}
+
+void FrmAggiornaInternetBase::Aggiorna() {
+    if (!cmdAggiorna_->isEnabled()) return;
+    const std::filesystem::path copia = CopiaLocale();
+    try {
+        Archivio* a = Ambiente().archivio.get();
+        const auto dati = m::LeggiFileAggiornamento(copia);
+        if (!a || !dati) throw ErroreArchivio(copia.string());
+        const m::EsitoAggiornamento e = m::ApplicaAggiornamento(*a, *dati, gioco_, copia.string());
+        if (!e.riuscito) {
+            cmdAggiorna_->setEnabled(false);
+            MostraMessaggio(this, e.messaggio);
+            return;
+        }
+        MostraUltima();
+        if (e.aggiunte > 0) emit archivioAggiornato();
+        MostraMessaggio(this, e.messaggio);
+    } catch (const std::exception&) {
+        cmdAggiorna_->setEnabled(false);
+        ImpostaStato(std::string(m::testi::ErroreAperturaStato));
+        MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", Icona::Stop});
+        return;
+    }
+    close();
+}
+
+void FrmAggiornaInternetBase::closeEvent(QCloseEvent* e) {
+    // A transfer still running ends with the window.
+    if (scaricatore_->InCorso()) {
+        scaricatore_->disconnect(this);
+        scaricatore_->Annulla();
+    }
+    e->accept();
+}
+
+// ---- frmScaricaStorico --------------------------------------------------------------------
+
+FrmScaricaStorico::FrmScaricaStorico(QWidget* parent)
+    : QWidget(parent, Qt::Window), scaricatore_(new rete::Scaricatore(this)) {
+    setObjectName("frmScaricaStorico");
+    setWindowTitle(QStringLiteral("Scarica archivio storico da Internet"));
+
+    auto* principale = new QVBoxLayout(this);
+    principale->addWidget(Etichetta(this, "lblIndirizzo", QStringLiteral("Indirizzo dell'archivio storico (zip o testo):")));
+    txtUrlStorico_ = new QLineEdit(this);
+    txtUrlStorico_->setObjectName("txtUrlStorico");
+    txtUrlStorico_->setMinimumWidth(420);
+    txtUrlStorico_->setText(Q(LeggiUrl("UrlStorico")));
+    principale->addWidget(txtUrlStorico_);
+    lblStatus_ = EtichettaStato(this);
+    principale->addWidget(lblStatus_);
+
+    cmdScarica_ = Pulsante(this, "cmdScarica", QStringLiteral("Scarica e importa"));
+    cmdAnnulla_ = Pulsante(this, "cmdAnnulla", QStringLiteral("Annulla"));
+    cmdEsci_ = Pulsante(this, "cmdEsci", QStringLiteral("Esci"));
+    auto* riga = new QHBoxLayout;
+    riga->addWidget(cmdScarica_);
+    riga->addWidget(cmdAnnulla_);
+    riga->addStretch();
+    riga->addWidget(cmdEsci_);
+    principale->addLayout(riga);
+    cmdAnnulla_->setEnabled(false);
+
+    connect(cmdScarica_, &QPushButton::clicked, this, &FrmScaricaStorico::Scarica);
+    connect(cmdAnnulla_, &QPushButton::clicked, this, &FrmScaricaStorico::Annulla);
+    connect(cmdEsci_, &QPushButton::clicked, this, &QWidget::close);
+    connect(scaricatore_, &rete::Scaricatore::statoCambiato, this, [this](int stato, int codice, const QString& testo) {
+        if (stato == m::stati::Errore)
+            lblStatus_->setText(Q(m::TestoStatoErrore(lblStatus_->text().toStdString(), codice, testo.toStdString())));
+        else if (const auto t = m::TestoStato(stato))
+            lblStatus_->setText(Q(*t));
+    });
+    connect(scaricatore_, &rete::Scaricatore::terminato, this, &FrmScaricaStorico::FineScaricamento);
+
+    ApplicaStile(this, Ambiente().ini);
+    cmdScarica_->setToolTip(QStringLiteral("Scarica l'archivio storico e importa le estrazioni nuove"));
+    cmdAnnulla_->setToolTip(QStringLiteral("Interrompe la connessione"));
+}
+
+void FrmScaricaStorico::Scarica() {
+    const std::string indirizzo = txtUrlStorico_->text().trimmed().toStdString();
+    if (indirizzo.empty()) {
+        MostraMessaggio(this, {std::string(m::TestoStoricoNonImpostato), std::string(m::TitoloStorico),
+                               Icona::Esclamazione});
+        return;
+    }
+    // The address is kept for next time, once it is of the right form.
+    if (Messaggio errore = config::ControllaValoreImpostazione(config::sezioni::Options, "UrlStorico", indirizzo);
+        !errore.vuoto()) {
+        MostraMessaggio(this, errore);
+        return;
+    }
+    if (indirizzo != LeggiUrl("UrlStorico"))
+        config::ScriviImpostazione(Ambiente().ini, config::sezioni::Options, "UrlStorico", indirizzo);
+    cmdScarica_->setEnabled(false);
+    cmdAnnulla_->setEnabled(true);
+    lblStatus_->setToolTip({});
+    scaricatore_->Avvia(Q(indirizzo));
+}
+
+void FrmScaricaStorico::Annulla() {
+    scaricatore_->Annulla();
+    cmdAnnulla_->setEnabled(false);
+    lblStatus_->setText(Q(m::testi::AzioneAnnullata));
+}
+
+void FrmScaricaStorico::FineScaricamento() {
+    cmdScarica_->setEnabled(true);
+    cmdAnnulla_->setEnabled(false);
+    const rete::RisultatoScaricamento& r = scaricatore_->Risultato();
+    if (r.annullato) {
+        lblStatus_->setText(Q(m::testi::AzioneAnnullata));
+        return;
+    }
+    const m::ControlloStorico c = m::ControllaScaricamentoStorico(r.PerIlNucleo());
+    if (!c.valido) {
+        lblStatus_->setText(Q(c.messaggio.testo));
+        lblStatus_->setToolTip(Q(c.dettaglio));
+        MostraMessaggio(this, c.messaggio);
+        return;
+    }
+    Archivio* a = Ambiente().archivio.get();
+    if (!a) return;
+    const std::string_view dati(r.corpo.constData(), static_cast<size_t>(r.corpo.size()));
+    try {
+        const m::EsitoImportazione prova = m::ControllaDati(*a, dati, m::Gioco::Lotto);
+        if (!prova.riuscito) {
+            lblStatus_->setText(Q(prova.messaggio.testo));
+            MostraMessaggio(this, prova.messaggio);
+            return;
+        }
+        if (prova.aggiunte == 0) {
+            lblStatus_->setText(Q(m::TestoNienteDiNuovo));
+            MostraMessaggio(this, m::MessaggioNienteDiNuovo());
+            return;
+        }
+        const Messaggio domanda{fmt::format("L'archivio storico scaricato porta {} estrazioni nuove, fino al {}. "
+                                            "Confermi l'importazione ?",
+                                            prova.aggiunte, prova.ultimaData),
+                                std::string(m::TitoloStorico), Icona::Domanda};
+        if (Chiedi(this, domanda, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) != QMessageBox::Yes) return;
+        const m::EsitoImportazione e = m::ImportaDati(*a, dati, m::Gioco::Lotto);
+        lblStatus_->setText(Q(e.messaggio.testo));
+        if (e.riuscito && e.aggiunte > 0) emit archivioAggiornato();
+        MostraMessaggio(this, e.messaggio);
+    } catch (const std::exception& ex) {
+        lblStatus_->setText(Q(m::testi::ErroreAperturaStato));
+        MostraMessaggio(this, {ex.what(), "Errore", Icona::Stop});
+    }
+}
+
+void FrmScaricaStorico::closeEvent(QCloseEvent* e) {
+    if (scaricatore_->InCorso()) {
+        scaricatore_->disconnect(this);
+        scaricatore_->Annulla();
+    }
+    e->accept();
+}
+
+}  // namespace gorgo::schermi

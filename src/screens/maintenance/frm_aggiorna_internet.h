@@ -1,0 +1,101 @@
+#pragma once
+// frmAggiornaInternet and frmAggiornaSuperInternet: the update file fetched with one HTTP GET
+// from Url, sieved, kept as a local copy, then applied as a file update after a question.
+// frmScaricaStorico: the public archive fetched from UrlStorico and its new draws imported.
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QWidget>
+#include <filesystem>
+#include <string>
+
+#include "maintenance/aggiornamento.h"
+
+namespace gorgo::rete {
+class Scaricatore;
+}
+
+namespace gorgo::schermi {
+
+class FrmAggiornaInternetBase : public QWidget {
+    Q_OBJECT
+public:
+    manutenzione::Gioco gioco() const { return gioco_; }
+    rete::Scaricatore* scaricatore() const { return scaricatore_; }
+
+    // cmdScarica, cmdApri, cmdAggiorna, cmdAnnulla.
+    void Scarica();
+    void Apri();
+    void Aggiorna();
+    void Annulla();
+
+signals:
+    // The archive has taken new draws: the main window shows its last ones.
+    void archivioAggiornato();
+
+protected:
+    FrmAggiornaInternetBase(manutenzione::Gioco gioco, const char* nome, const QString& titolo, QWidget* parent);
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    void Stato(int stato, int codice, const QString& testo);
+    void FineScaricamento();
+    void MostraUltima();
+    void ImpostaStato(const std::string& testo, const std::string& dettaglio = {});
+    std::filesystem::path CopiaLocale() const;
+
+    manutenzione::Gioco gioco_;
+    rete::Scaricatore* scaricatore_;
+    QLabel* lblStatus_;
+    QLabel* lblNumero_;
+    QLabel* lblAnno_;
+    QLabel* lblUltima_;
+    QPushButton* cmdScarica_;
+    QPushButton* cmdApri_;
+    QPushButton* cmdAggiorna_;
+    QPushButton* cmdAnnulla_;
+    QPushButton* cmdEsci_;
+    // Set by the client's error state, as the system keeps it.
+    bool errore_ = false;
+};
+
+class FrmAggiornaInternet : public FrmAggiornaInternetBase {
+    Q_OBJECT
+public:
+    explicit FrmAggiornaInternet(QWidget* parent = nullptr);
+};
+
+class FrmAggiornaSuperInternet : public FrmAggiornaInternetBase {
+    Q_OBJECT
+public:
+    explicit FrmAggiornaSuperInternet(QWidget* parent = nullptr);
+};
+
+class FrmScaricaStorico : public QWidget {
+    Q_OBJECT
+public:
+    explicit FrmScaricaStorico(QWidget* parent = nullptr);
+    rete::Scaricatore* scaricatore() const { return scaricatore_; }
+
+    void Scarica();
+    void Annulla();
+
+signals:
+    void archivioAggiornato();
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    void FineScaricamento();
+
+    rete::Scaricatore* scaricatore_;
+    QLineEdit* txtUrlStorico_;
+    QLabel* lblStatus_;
+    QPushButton* cmdScarica_;
+    QPushButton* cmdAnnulla_;
+    QPushButton* cmdEsci_;
+};
+
+}  // namespace gorgo::schermi

@@ -1,0 +1,199 @@
+#include "screens/maintenance/frm_aggiornamenti.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "screens/archives/ambiente.h"
+#include "screens/config/aiuto.h"
+#include "screens/config/messaggi.h"
+#include "screens/config/stile.h"
+#include "screens/maintenance/scelta_file.h"
+
+namespace gorgo::schermi {
+
+namespace {
+
+using manutenzione::Gioco;
+using manutenzione::StatoAggiornamento;
+
+QString Testo(const std::string& s) { return QString::fromStdString(s); }
+
+QLabel* Valore(QWidget* parent, const char* nome) {
+    auto* l = new QLabel(parent);
+    l->setObjectName(nome);
+    l->setFrameShape(QFrame::Panel);
+    l->setFrameShadow(QFrame::Sunken);
+    l->setMinimumWidth(90);
+    return l;
+}
+
+}  // namespace
+
+FrmAggiornamenti::FrmAggiornamenti(QWidget* parent) : FrmAggiornamenti(Gioco::Lotto, parent) {}
+
+FrmAggiornamenti::FrmAggiornamenti(Gioco gioco, QWidget* parent) : QDialog(parent), gioco_(gioco) {
+    const bool lotto = gioco == Gioco::Lotto;
+    setObjectName(lotto ? "frmAggiornamenti" : "frmAggiornamentiSuper");
+    setWindowTitle(lotto ? QStringLiteral("Aggiormanemto estrazioni da file")
+                         : QStringLiteral("Aggiornamento estrazioni Superenalotto da file"));
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    auto* principale = new QVBoxLayout(this);
+    auto* ultima = new QGroupBox(QStringLiteral("Ultima estrazione memorizzata nel sistema:"), this);
+    ultima->setObjectName("fraUltima");
+    auto* griglia = new QGridLayout(ultima);
+    lblNumero_ = Valore(this, "lblNumero");
+    lblAnno_ = Valore(this, "lblAnno");
+    lblUltima_ = Valore(this, "lblUltima");
+    griglia->addWidget(new QLabel(QStringLiteral("Numero estrazione"), this), 0, 0);
+    griglia->addWidget(lblNumero_, 0, 1);
+    griglia->addWidget(new QLabel(QStringLiteral("Anno estrazione"), this), 1, 0);
+    griglia->addWidget(lblAnno_, 1, 1);
+    griglia->addWidget(new QLabel(QStringLiteral("Data"), this), 2, 0);
+    griglia->addWidget(lblUltima_, 2, 1);
+    principale->addWidget(ultima);
+
+    auto* file = new QHBoxLayout;
+    file->addWidget(new QLabel(QStringLiteral("File aggiornato al :"), this));
+    lblFile_ = Valore(this, "lblFile");
+    file->addWidget(lblFile_);
+    file->addStretch();
+    principale->addLayout(file);
+    lblAggiunte_ = new QLabel(this);
+    lblAggiunte_->setObjectName("lblAggiunte");
+    principale->addWidget(lblAggiunte_);
+
+    auto* pulsanti = new QHBoxLayout;
+    auto* cmdApri = new QPushButton(QStringLiteral("Apri file..."), this);
+    cmdApri->setObjectName("cmdApri");
+    cmdApri->setToolTip(QStringLiteral("Apre un archivio aggiornamento estrazioni precedentemente esportato"));
+    cmdAggiorna_ = new QPushButton(QStringLiteral("Aggiorna"), this);
+    cmdAggiorna_->setObjectName("cmdAggiorna");
+    cmdAggiorna_->setToolTip(QStringLiteral("Aggiorna l'archivio estrazioni con i dati del file selezionato"));
+    cmdAggiorna_->setEnabled(false);
+    auto* cmdEsci = new QPushButton(QStringLiteral("Esci"), this);
+    cmdEsci->setObjectName("cmdEsci");
+    pulsanti->addWidget(cmdApri);
+    pulsanti->addWidget(cmdAggiorna_);
+    pulsanti->addStretch();
+    if (!lotto) {
+        auto* cmdHelp = new QPushButton(QStringLiteral("Aiuto"), this);
+        cmdHelp->setObjectName("cmdHelp");
+        pulsanti->addWidget(cmdHelp);
+        connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoAggiornamentiSuper); });
+    }
+    pulsanti->addWidget(cmdEsci);
+    principale->addLayout(pulsanti);
+
+    connect(cmdApri, &QPushButton::clicked, this, &FrmAggiornamenti::Apri);
+    connect(cmdAggiorna_, &QPushButton::clicked, this, &FrmAggiornamenti::Aggiorna);
+    connect(cmdEsci, &QPushButton::clicked, this, &FrmAggiornamenti::close);
+
+    MostraUltima();
+    ApplicaStile(this, Ambiente().ini);
+    // The tool tip of the system, over the standard one of cmdEsci.
+    cmdEsci->setToolTip(QStringLiteral("Esci senza modificare nulla"));
+}
+
+FrmAggiornamentiSuper::FrmAggiornamentiSuper(QWidget* parent) : FrmAggiornamenti(Gioco::SuperEnalotto, parent) {}
+
+void FrmAggiornamenti::MostraUltima() {
+    const Archivio* a = Ambiente().archivio.get();
+    lblNumero_->clear();
+    lblAnno_->clear();
+    lblUltima_->clear();
+    if (!a) return;
+    const bool lotto = gioco_ == Gioco::Lotto;
+    const int32_t n = lotto ? a->NumeroEstrazioni() : a->NumeroEstrazioniSuper();
+    if (n < 1) return;
+    int numeroAnno = 0;
+    std::string data;
+    if (lotto) {
+        const RecordEstrazione r = a->LeggiEstrazione(n);
+        numeroAnno = r.NumeroAnno;
+        data = r.dataTesto();
+    } else {
+        const RecordSuperEnalotto r = a->LeggiRecordSuper(n);
+        numeroAnno = r.NumeroAnno;
+        data = r.dataTesto();
+    }
+    lblNumero_->setText(QString::number(numeroAnno));
+    lblAnno_->setText(Testo(data.substr(6)));
+    lblUltima_->setText(Testo(data));
+}
+
+void FrmAggiornamenti::Chiudi() {
+    percorso_.clear();
+    dati_.clear();
+    cmdAggiorna_->setEnabled(false);
+}
+
+void FrmAggiornamenti::Apri() {
+    Chiudi();
+    const QString filtro =
+        gioco_ == Gioco::Lotto
+            ? QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|File aggiornamento Gorgo (*.alb)|*.alb|"
+                             "Tutti i file (*.*)|*.*")
+            : QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|Tutti i file (*.*)|*.*");
+    const QString scelto =
+        ScegliFileManutenzione ? ScegliFileManutenzione(this, ModoSceltaFile::Apri, QStringLiteral("Apri"), filtro,
+                                                        Testo(Ambiente().PercorsoProgramma.string()))
+                               : QString();
+    if (scelto.isEmpty()) return;
+    const std::string percorso = scelto.toStdString();
+    Archivio* a = Ambiente().archivio.get();
+    const auto dati = manutenzione::LeggiFileAggiornamento(percorso);
+    if (!dati || !a) {
+        MostraMessaggio(this, manutenzione::ErrFile(percorso));
+        return;
+    }
+    const auto c = manutenzione::ControllaAggiornamento(*a, *dati, gioco_, percorso);
+    if (c.stato == StatoAggiornamento::Corrotto || c.stato == StatoAggiornamento::ArchivioVuoto) {
+        MostraMessaggio(this, c.messaggio);
+        return;
+    }
+    lblFile_->setText(Testo(c.ultimaData));
+    if (c.stato == StatoAggiornamento::Discontinuo) {
+        lblFile_->clear();
+        MostraMessaggio(this, c.messaggio);
+        return;
+    }
+    // A file that brings nothing new passes the checks and leaves cmdAggiorna disabled.
+    if (c.pronto()) {
+        percorso_ = percorso;
+        dati_ = *dati;
+        cmdAggiorna_->setEnabled(true);
+    }
+}
+
+void FrmAggiornamenti::Aggiorna() {
+    if (!cmdAggiorna_->isEnabled() || dati_.empty()) return;
+    Archivio* a = Ambiente().archivio.get();
+    if (!a) return;
+    cmdAggiorna_->setEnabled(false);
+    manutenzione::EsitoAggiornamento e;
+    try {
+        e = manutenzione::ApplicaAggiornamento(*a, dati_, gioco_, percorso_);
+    } catch (const ErroreArchivio& errore) {
+        Chiudi();
+        MostraUltima();
+        MostraMessaggio(this, Messaggio{errore.what(), "Errore", Icona::Stop});
+        return;
+    }
+    Chiudi();
+    MostraUltima();
+    if (!e.riuscito) {
+        MostraMessaggio(this, e.messaggio);
+        return;
+    }
+    lblAggiunte_->setText(QStringLiteral("Estrazioni aggiunte: %1").arg(e.aggiunte));
+    if (e.aggiunte > 0) emit archivioAggiornato();
+    MostraMessaggio(this, e.messaggio);
+    close();
+}
+
+}  // namespace gorgo::schermi

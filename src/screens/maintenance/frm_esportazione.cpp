@@ -1,0 +1,128 @@
+#include "screens/maintenance/frm_esportazione.h"
+
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "archives/regole.h"
+#include "maintenance/aggiornamento.h"
+#include "screens/archives/ambiente.h"
+#include "screens/config/aiuto.h"
+#include "screens/config/messaggi.h"
+#include "screens/config/stile.h"
+#include "screens/maintenance/scelta_file.h"
+
+namespace gorgo::schermi {
+
+namespace {
+
+QLabel* Valore(QWidget* parent, const char* nome) {
+    auto* l = new QLabel(parent);
+    l->setObjectName(nome);
+    l->setFrameShape(QFrame::Panel);
+    l->setFrameShadow(QFrame::Sunken);
+    l->setMinimumWidth(90);
+    return l;
+}
+
+}  // namespace
+
+FrmEsportazione::FrmEsportazione(QWidget* parent) : QDialog(parent) {
+    setObjectName("frmEsportazione");
+    setWindowTitle(QStringLiteral("Esportazione archivio lotto"));
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    auto* principale = new QVBoxLayout(this);
+    auto* riquadro = new QGroupBox(QStringLiteral("Esporta aggiornamento al :"), this);
+    riquadro->setObjectName("fraEsporta");
+    auto* griglia = new QGridLayout(riquadro);
+    lblNumero_ = Valore(this, "lblNumero");
+    lblAnno_ = Valore(this, "lblAnno");
+    lblUltima_ = Valore(this, "lblUltima");
+    griglia->addWidget(new QLabel(QStringLiteral("Numero estrazione"), this), 0, 0);
+    griglia->addWidget(lblNumero_, 0, 1);
+    griglia->addWidget(new QLabel(QStringLiteral("Anno estrazione"), this), 1, 0);
+    griglia->addWidget(lblAnno_, 1, 1);
+    griglia->addWidget(new QLabel(QStringLiteral("Data di esportazione degli archivi"), this), 2, 0);
+    griglia->addWidget(lblUltima_, 2, 1);
+    principale->addWidget(riquadro);
+
+    // The first draw to export: by default the system's fixed start.
+    auto* da = new QHBoxLayout;
+    da->addWidget(new QLabel(QStringLiteral("Esporta dalla data :"), this));
+    txtDataInizio_ = new QLineEdit(this);
+    txtDataInizio_->setObjectName("txtDataInizio");
+    txtDataInizio_->setMaxLength(10);
+    txtDataInizio_->setToolTip(QStringLiteral("Prima estrazione del file (GG/MM/AAAA); vuoto: dall'estrazione n. %1")
+                                   .arg(manutenzione::PrimaEsportata));
+    da->addWidget(txtDataInizio_);
+    da->addStretch();
+    principale->addLayout(da);
+
+    auto* pulsanti = new QHBoxLayout;
+    auto* cmdEsporta = new QPushButton(QStringLiteral("Esporta"), this);
+    cmdEsporta->setObjectName("cmdEsporta");
+    cmdEsporta->setToolTip(QStringLiteral("Salva il file delle estrazioni"));
+    auto* cmdHelp = new QPushButton(QStringLiteral("Aiuto"), this);
+    cmdHelp->setObjectName("cmdHelp");
+    auto* cmdEsci = new QPushButton(QStringLiteral("Esci"), this);
+    cmdEsci->setObjectName("cmdEsci");
+    pulsanti->addWidget(cmdEsporta);
+    pulsanti->addStretch();
+    pulsanti->addWidget(cmdHelp);
+    pulsanti->addWidget(cmdEsci);
+    principale->addLayout(pulsanti);
+
+    connect(cmdEsporta, &QPushButton::clicked, this, &FrmEsportazione::Esporta);
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoEsportazione); });
+    connect(cmdEsci, &QPushButton::clicked, this, &FrmEsportazione::close);
+
+    if (const Archivio* a = Ambiente().archivio.get(); a && a->NumeroEstrazioni() > 0) {
+        const RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+        lblNumero_->setText(QString::number(r.NumeroAnno));
+        lblAnno_->setText(QString::fromStdString(r.dataTesto().substr(6)));
+        lblUltima_->setText(QString::fromStdString(r.dataTesto()));
+        if (a->NumeroEstrazioni() >= manutenzione::PrimaEsportata)
+            txtDataInizio_->setText(QString::fromStdString(a->DataEstrazione(manutenzione::PrimaEsportata)));
+    }
+    ApplicaStile(this, Ambiente().ini);
+}
+
+void FrmEsportazione::Esporta() {
+    const Archivio* a = Ambiente().archivio.get();
+    if (!a) return;
+    int32_t primo = manutenzione::PrimaEsportata;
+    const QString da = txtDataInizio_->text().trimmed();
+    if (!da.isEmpty()) {
+        const RisultatoData r = ControllaData(da.toStdString(), *a, false);
+        if (r.ErroreData) {
+            MostraMessaggio(this, r.messaggio);
+            return;
+        }
+        primo = r.IndiceTrovato;
+    }
+    QString scelto = ScegliFileManutenzione
+                         ? ScegliFileManutenzione(this, ModoSceltaFile::Salva, QStringLiteral("Salva"),
+                                                  QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|"
+                                                                 "File aggiornamento Gorgo (*.alb)|*.alb"),
+                                                  QString::fromStdString(Ambiente().PercorsoProgramma.string()))
+                         : QString();
+    if (scelto.isEmpty()) return;
+    if (QFileInfo(scelto).suffix().isEmpty()) scelto += QStringLiteral(".bin");
+    try {
+        const auto e = manutenzione::EsportaAggiornamento(*a, scelto.toStdString(), primo);
+        MostraMessaggio(this, e.messaggio);
+        if (!e.riuscito) return;
+    } catch (const ErroreArchivio& errore) {
+        MostraMessaggio(this, Messaggio{errore.what(), "Errore", Icona::Stop});
+        return;
+    }
+    close();
+}
+
+}  // namespace gorgo::schermi

@@ -1,0 +1,71 @@
+#pragma once
+// frmInputEstrazioni and its SuperEnalotto twin: browse the archive draw by draw, correct a
+// stored draw or add a new one, typed or pasted. The engine holds the state and the rules;
+// the window shows it and asks its questions.
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSlider>
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "maintenance/inserimento.h"
+
+namespace gorgo::schermi {
+
+class FrmInputEstrazioni : public QWidget {
+    Q_OBJECT
+public:
+    explicit FrmInputEstrazioni(QWidget* parent = nullptr)
+        : FrmInputEstrazioni(parent, manutenzione::GiocoInserimento::Lotto) {}
+
+    manutenzione::Inserimento& Motore() { return *motore_; }
+    // cmdMemorizza with its questions; true when the draw was written.
+    bool Memorizza();
+
+signals:
+    // A draw was written: the main panel shows the last draws again.
+    void estrazioneMemorizzata();
+
+protected:
+    FrmInputEstrazioni(QWidget* parent, manutenzione::GiocoInserimento gioco);
+    bool eventFilter(QObject* oggetto, QEvent* evento) override;
+    void closeEvent(QCloseEvent* e) override;
+    void changeEvent(QEvent* e) override;
+    void showEvent(QShowEvent* e) override;
+
+private:
+    void CreaControlli();
+    // The engine's state into the controls, with their change handlers silent.
+    void MostraStato();
+    void Nuova();
+    void Correggi();
+    void Inserisci();
+    void ControllaUscita(QLineEdit* casella);
+
+    std::unique_ptr<manutenzione::Inserimento> motore_;
+    bool InCaricamento_ = false;
+    bool inControllo_ = false;
+    bool centrata_ = false;
+    std::vector<QLineEdit*> txtEstratto_;  // index 0 is box 1
+    QLineEdit *txtGiorno_ = nullptr, *txtMese_ = nullptr, *txtAnno_ = nullptr;
+    QLabel *lblGiornoEstraz_ = nullptr, *lblNumeroAnnoEstraz_ = nullptr, *lblAnnoEstrazione_ = nullptr,
+           *lblTotaleEstrazioni_ = nullptr;
+    QSlider* Slider1_ = nullptr;
+    QPushButton *cmdPrecedente_ = nullptr, *cmdSuccessiva_ = nullptr, *cmdNuova_ = nullptr, *cmdMemorizza_ = nullptr,
+                *cmdCorreggi_ = nullptr, *cmdEsci_ = nullptr, *cmdAiuto_ = nullptr, *cmdInserisci_ = nullptr,
+                *cmdCancella_ = nullptr;
+    QPlainTextEdit* Text1_ = nullptr;
+};
+
+class FrmInputEstrazioniSuperEnalotto : public FrmInputEstrazioni {
+    Q_OBJECT
+public:
+    explicit FrmInputEstrazioniSuperEnalotto(QWidget* parent = nullptr)
+        : FrmInputEstrazioni(parent, manutenzione::GiocoInserimento::SuperEnalotto) {}
+};
+
+}  // namespace gorgo::schermi

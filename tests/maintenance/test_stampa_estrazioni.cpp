@@ -1,0 +1,364 @@
+// The printed pages of the draws: the lines of each layout, the page breaks by their counts,
+// the month and near-date choices, the checks before the first page.
+
+#include <gtest/gtest.h>
+
+#include <fmt/format.h>
+
+#include "archives/archivio.h"
+#include "archives/demo.h"
+#include "archives/dieci_e_lotto.h"
+#include "archives/regole.h"
+#include "maintenance/stampa_estrazioni.h"
+#include "support/cartelle.h"
+
+namespace gorgo::manutenzione {
+namespace {
+
+using config::RigaTesto;
+using test::CartellaTemporanea;
+
+// One demo archive for the whole suite: the tests only read it.
+class StampaEstrazioni : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() {
+        cartella_ = new CartellaTemporanea;
+        test::CreaArchivioDemo(cartella_->percorso());
+        archivio_ = new Archivio(Archivio::Apri(cartella_->percorso()));
+    }
+    static void TearDownTestSuite() {
+        delete archivio_;
+        delete cartella_;
+    }
+    static const Archivio& A() { return *archivio_; }
+    // The date of draw i, and the index of the draw on a date.
+    static std::string D(int32_t i) { return A().DataEstrazione(i); }
+    static int32_t I(const Data& d) { return A().CercaIndice(d, false)->IndiceTrovato; }
+
+    static CartellaTemporanea* cartella_;
+    static Archivio* archivio_;
+};
+CartellaTemporanea* StampaEstrazioni::cartella_ = nullptr;
+Archivio* StampaEstrazioni::archivio_ = nullptr;
+
+ParametriStampaEstrazioni Parametri(std::string da, std::string a, int ruota = 1) {
+    ParametriStampaEstrazioni p;
+    p.dataInizio = std::move(da);
+    p.dataFine = std::move(a);
+    p.ruota = ruota;
+    return p;
+}
+
+// Pages as lists of lines, split at the marks.
+std::vector<std::vector<std::string>> Pagine(const StampaComposta& s) {
+    std::vector<std::vector<std::string>> pagine;
+    for (const RigaTesto& r : s.righe) {
+        if (pagine.empty() || r.nuovaPagina) pagine.emplace_back();
+        pagine.back().push_back(r.testo);
+    }
+    return pagine;
+}
+
+constexpr size_t Testata = 6;  // lines of the page header
+
+TEST_F(StampaEstrazioni, ListaDiUnaSolaEstrazione) {
+    const int32_t i = I({4, 1, 2025});
+    const StampaComposta s = ComponiStampaLotto(A(), Parametri(D(i), D(i), 1));
+    ASSERT_TRUE(s.errore.vuoto()) << s.errore.testo;
+    EXPECT_EQ(s.layout, LayoutStampa::Lista);
+    EXPECT_EQ(s.font, "Courier New");
+    EXPECT_EQ(s.punti, 10);
+    EXPECT_EQ(s.pagine, 1);
+    EXPECT_EQ(s.estrazioni, 1);
+    const auto pagine = Pagine(s);
+    ASSERT_EQ(pagine.size(), 1u);
+    ASSERT_EQ(pagine[0].size(), Testata + 1);
+    EXPECT_EQ(s.titolo1, "Gorgo - Stampa estrazioni dal " + D(i) + " al " + D(i));
+    EXPECT_EQ(s.titolo2, "Ruota : Bari      ");
+    EXPECT_EQ(pagine[0][1], config::Centrato(s.titolo1));
+    EXPECT_EQ(pagine[0][3], config::Centrato(s.titolo2));
+    EXPECT_EQ(pagine[0][4], std::string(64, ' ') + "Pag.   1");
+    EXPECT_TRUE(s.righe[1].grassetto);
+    const RecordEstrazione r = A().LeggiEstrazione(i);
+    EXPECT_EQ(pagine[0][6], fmt::format("     {}  {:02} {:02} {:02} {:02} {:02}", D(i), r.Numero(1, 1), r.Numero(1, 2),
+                                        r.Numero(1, 3), r.Numero(1, 4), r.Numero(1, 5)));
+    EXPECT_EQ(RigaLista(r, 1), pagine[0][6].substr(5));
+}
+
+TEST_F(StampaEstrazioni, ListaCentoEstrazioniUnaPaginaCentounoDue) {
+    const int32_t da = I({2, 1, 2020});
+    StampaComposta s = ComponiStampaLotto(A(), Parametri(D(da), D(da + 99), 6));
+    ASSERT_TRUE(s.errore.vuoto());
+    EXPECT_EQ(s.pagine, 1);
+    auto pagine = Pagine(s);
+    ASSERT_EQ(pagine.size(), 1u);
+    ASSERT_EQ(pagine[0].size(), Testata + 50);
+    // Line i at column 6, line i + 50 at column 47.
+    for (int k = 0; k < 50; ++k) {
+        const std::string& riga = pagine[0][Testata + static_cast<size_t>(k)];
+        EXPECT_EQ(riga.substr(5, 26), RigaLista(A().LeggiEstrazione(da + k), 6)) << k;
+        EXPECT_EQ(riga.substr(46), RigaLista(A().LeggiEstrazione(da + 50 + k), 6)) << k;
+    }
+
+    s = ComponiStampaLotto(A(), Parametri(D(da), D(da + 100), 6));
+    EXPECT_EQ(s.pagine, 2);
+    pagine = Pagine(s);
+    ASSERT_EQ(pagine.size(), 2u);
+    ASSERT_EQ(pagine[1].size(), Testata + 1);
+    EXPECT_EQ(pagine[1][4], std::string(64, ' ') + "Pag.   2");
+    EXPECT_EQ(pagine[1][6], "     " + RigaLista(A().LeggiEstrazione(da + 100), 6));
+    // The second page has its own header, the same titles.
+    EXPECT_EQ(pagine[1][1], pagine[0][1]);
+}
+
+TEST_F(StampaEstrazioni, BlocchiTrePerRigaQuattroRighePerPagina) {
+    const int32_t da = I({2, 1, 2020});
+    const StampaComposta s = ComponiStampaLotto(A(), Parametri(D(da), D(da + 12), 0));
+    ASSERT_TRUE(s.errore.vuoto());
+    EXPECT_EQ(s.layout, LayoutStampa::Blocchi);
+    EXPECT_EQ(s.titolo2, "Ruota : Tutte     ");
+    EXPECT_EQ(s.estrazioni, 13);
+    ASSERT_EQ(s.pagine, 2);
+    const auto pagine = Pagine(s);
+    // Four rows of twelve lines, a blank line between rows.
+    ASSERT_EQ(pagine[0].size(), Testata + 4 * 12 + 3);
+    ASSERT_EQ(pagine[1].size(), Testata + 12);
+    const std::string& titoli = pagine[0][Testata];
+    EXPECT_EQ(titoli, std::string(11, ' ') + D(da) + std::string(15, ' ') + D(da + 1) + std::string(15, ' ') + D(da + 2));
+    EXPECT_TRUE(s.righe[Testata].grassetto);
+    for (int w = 1; w <= 11; ++w) {
+        const std::string& riga = pagine[0][Testata + static_cast<size_t>(w)];
+        for (int k = 0; k < 3; ++k) {
+            const RecordEstrazione r = A().LeggiEstrazione(da + k);
+            const std::string atteso = fmt::format("{}{:02} {:02} {:02} {:02} {:02}", NomiRuota[static_cast<size_t>(w)],
+                                                   r.Numero(w, 1), r.Numero(w, 2), r.Numero(w, 3), r.Numero(w, 4),
+                                                   r.Numero(w, 5));
+            EXPECT_EQ(riga.substr(4 + 25 * static_cast<size_t>(k), 24), atteso) << w << " " << k;
+        }
+    }
+    EXPECT_EQ(pagine[0][Testata + 12], "");
+    EXPECT_EQ(pagine[0][Testata + 13].substr(11, 10), D(da + 3));
+    // The thirteenth draw alone on the second page.
+    EXPECT_EQ(pagine[1][Testata], std::string(11, ' ') + D(da + 12));
+    EXPECT_EQ(pagine[1][Testata + 11].substr(4, 10), "Nazionale ");
+}
+
+TEST_F(StampaEstrazioni, TabellaRigheERighello) {
+    RecordEstrazione r;
+    r.impostaData({7, 3, 2024});
+    const uint8_t numeri[5] = {55, 1, 90, 10, 11};
+    for (int p = 0; p < 5; ++p) r.Ruota[2][p] = numeri[p];
+    const std::string riga = RigaTabella(r, 3);
+    EXPECT_EQ(riga.substr(0, 98),
+              "X........X X......... .......... .......... .......... ....X..... .......... .......... .........X");
+    EXPECT_EQ(riga.substr(98), "  55  1 90 10 11   7");
+    // Every mark stands under its number on the two rulers.
+    for (size_t k = 0; k < 98; ++k) {
+        if (riga[k] != 'X') continue;
+        const int n = (RigaDecine[k] - '0') * 10 + (RigaUnita[k] - '0');
+        EXPECT_TRUE(n == 55 || n == 1 || n == 90 || n == 10 || n == 11) << n;
+    }
+
+    const int32_t da = I({2, 1, 2020});
+    ParametriStampaEstrazioni p = Parametri(D(da), D(da + 50), 5);
+    p.dettagliata = true;
+    const StampaComposta s = ComponiStampaLotto(A(), p);
+    ASSERT_TRUE(s.errore.vuoto());
+    EXPECT_EQ(s.layout, LayoutStampa::Tabella);
+    EXPECT_EQ(s.punti, 9);
+    ASSERT_EQ(s.pagine, 2);
+    const auto pagine = Pagine(s);
+    EXPECT_EQ(pagine[0][Testata], "Estrazioni della ruota di Milano    ");
+    EXPECT_TRUE(s.righe[Testata].grassetto);
+    EXPECT_EQ(pagine[0][Testata + 2], RigaDecine);
+    EXPECT_EQ(pagine[0][Testata + 3], RigaUnita);
+    EXPECT_EQ(pagine[0][Testata + 4], RigaTabella(A().LeggiEstrazione(da), 5));
+    ASSERT_EQ(pagine[0].size(), Testata + 4 + 50);
+    // The rulers again on the next page, then the 51st draw.
+    ASSERT_EQ(pagine[1].size(), Testata + 3);
+    EXPECT_EQ(pagine[1][Testata], RigaDecine);
+    EXPECT_EQ(pagine[1][Testata + 1], RigaUnita);
+    EXPECT_EQ(pagine[1][Testata + 2], RigaTabella(A().LeggiEstrazione(da + 50), 5));
+}
+
+TEST_F(StampaEstrazioni, MeseEDateVicine) {
+    // Only March, in a range of January: nothing but the header.
+    ParametriStampaEstrazioni p = Parametri("02/01/2020", "31/01/2020", 1);
+    p.soloMese = true;
+    p.mese = 3;
+    StampaComposta s = ComponiStampaLotto(A(), p);
+    ASSERT_TRUE(s.errore.vuoto());
+    EXPECT_EQ(s.estrazioni, 0);
+    EXPECT_EQ(s.pagine, 1);
+    EXPECT_EQ(s.righe.size(), Testata);
+    EXPECT_EQ(s.titolo2, "Ruota : Bari       - Solo mese di marzo");
+
+    // Only March over five years: every March draw, none else.
+    p = Parametri("01/01/2015", "31/12/2019", 1);
+    p.soloMese = true;
+    p.mese = 3;
+    s = ComponiStampaLotto(A(), p);
+    int marzo = 0;
+    for (int32_t i = I({1, 1, 2015}); i < I({1, 1, 2020}); ++i) marzo += A().LeggiEstrazione(i).data().mese == 3;
+    EXPECT_EQ(s.estrazioni, marzo);
+
+    // 29 February: in leap years the draw on or after it, else the first after 28 February.
+    p = Parametri("01/01/2015", "30/12/2025", 2);
+    p.dataVicina = true;
+    p.giorno = 29;
+    p.meseVicino = 2;
+    s = ComponiStampaLotto(A(), p);
+    ASSERT_TRUE(s.errore.vuoto()) << s.errore.testo;
+    EXPECT_EQ(s.titolo2, "Ruota : Cagliari   - Solo date vicine al 29 febbraio");
+    EXPECT_EQ(s.estrazioni, 11);
+    std::vector<std::string> date;
+    for (size_t k = Testata; k < s.righe.size(); ++k) date.push_back(s.righe[k].testo.substr(5, 10));
+    ASSERT_EQ(date.size(), 11u);
+    for (int anno = 2015; anno <= 2025; ++anno) {
+        const Data soglia = AnnoBisestile(anno) ? Data{29, 2, anno} : Data{1, 3, anno};
+        const int32_t atteso = I(soglia);
+        EXPECT_EQ(date[static_cast<size_t>(anno - 2015)], D(atteso)) << anno;
+    }
+    // Both choices: the near draw of each year, kept only when it falls in the month.
+    p.soloMese = true;
+    p.mese = 3;
+    s = ComponiStampaLotto(A(), p);
+    int atteso = 0;
+    for (int anno = 2015; anno <= 2025; ++anno) {
+        const Data soglia = AnnoBisestile(anno) ? Data{29, 2, anno} : Data{1, 3, anno};
+        atteso += A().LeggiEstrazione(I(soglia)).data().mese == 3;
+    }
+    EXPECT_EQ(s.estrazioni, atteso);
+    EXPECT_EQ(s.titolo2, "Ruota : Cagliari   - Solo mese di marzo - Solo date vicine al 29 febbraio");
+}
+
+TEST_F(StampaEstrazioni, ControlliPrimaDellaPrimaPagina) {
+    struct Caso {
+        ParametriStampaEstrazioni p;
+        std::string messaggio;
+    };
+    ParametriStampaEstrazioni dettagliata = Parametri("01/01/2020", "31/12/2020", 0);
+    dettagliata.dettagliata = true;
+    ParametriStampaEstrazioni aprile = Parametri("01/01/2020", "31/12/2020", 1);
+    aprile.dataVicina = true;
+    aprile.giorno = 31;
+    aprile.meseVicino = 4;
+    ParametriStampaEstrazioni trenta = aprile;
+    trenta.giorno = 30;
+    trenta.meseVicino = 2;
+    const Caso casi[] = {
+        {Parametri("31/12/2020", "01/01/2020"), "Data finale minore della data iniziale !"},
+        {dettagliata, "E' necessario selezionare una ruota singola!"},
+        {aprile, "Data errata !"},
+        {trenta, "Data errata !"},
+        {Parametri("1/1/2020", "31/12/2020"), "Inserire la data nel formato GG/MM/AAAA !"},
+        {Parametri("01/01/2020", "01/01/2026"),
+         "La data non può essere superiore alla data ultima estrazione inserita (30/12/2025)"},
+        {Parametri("01/01/1850", "01/01/2020"),
+         "La data non può essere inferiore alla data inizio gestione archivi (07/01/1871)"},
+    };
+    for (const Caso& c : casi) {
+        const StampaComposta s = ComponiStampaLotto(A(), c.p);
+        EXPECT_EQ(s.errore.testo.substr(0, c.messaggio.size()), c.messaggio);
+        EXPECT_TRUE(s.righe.empty());
+        EXPECT_EQ(s.pagine, 0);
+    }
+    // Dates that are no draw dates move to the draws found: start forward, end backward.
+    const StampaComposta s = ComponiStampaLotto(A(), Parametri("01/01/2020", "01/01/2021"));
+    ASSERT_TRUE(s.errore.vuoto());
+    EXPECT_EQ(s.dataInizio, D(I({1, 1, 2020})));
+    EXPECT_EQ(s.dataFine, D(I({1, 1, 2021}) - 1));
+    EXPECT_EQ(s.titolo1, "Gorgo - Stampa estrazioni dal " + s.dataInizio + " al " + s.dataFine);
+    // A range between two draws finds the later start and the earlier end.
+    const int32_t i = I({2, 1, 2020});
+    const StampaComposta vuota =
+        ComponiStampaLotto(A(), Parametri(Data::daGiorni(A().LeggiEstrazione(i).data().giorni() + 1).testo(),
+                                          Data::daGiorni(A().LeggiEstrazione(i + 1).data().giorni() - 1).testo()));
+    EXPECT_EQ(vuota.errore.testo, "Data finale minore della data iniziale !");
+}
+
+TEST_F(StampaEstrazioni, SuperEnalotto) {
+    EstrazioneSuper e;
+    e.esito = SuperConJollySuperStar;
+    e.data = "07/03/2024";
+    e.numeri = {1, 2, 3, 44, 55, 90, 7, 8};
+    EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02 03 44 55 90    |  07   |    08     |");
+    EXPECT_EQ(RigaSuper(e).size(), IntestazioneSuper.size());
+    e.esito = SuperSoloSei;
+    EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02 03 44 55 90    |       |           |");
+    e.esito = SuperConSuperStar;
+    EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02 03 44 55 90    |       |    08     |");
+    e.esito = SuperIncompleta;
+    e.numeri = {1, 2, 0, 0, 0, 0, 0, 0};
+    EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02                |       |           |");
+
+    const int32_t n = A().NumeroEstrazioniSuper();
+    const std::string da = A().DataEstrazione(n - 50, ArchivioSuper), a = A().DataEstrazione(n, ArchivioSuper);
+    const StampaComposta s = ComponiStampaSuper(A(), Parametri(da, a, 0));
+    ASSERT_TRUE(s.errore.vuoto()) << s.errore.testo;
+    EXPECT_EQ(s.layout, LayoutStampa::ListaSuper);
+    EXPECT_EQ(s.estrazioni, 51);
+    ASSERT_EQ(s.pagine, 2);
+    const auto pagine = Pagine(s);
+    EXPECT_EQ(s.titolo1, "Gorgo - Stampa estrazioni Superenalotto dal " + da + " al " + a);
+    const std::vector<std::string> testa = {
+        "",
+        config::Centrato(s.titolo1),
+        std::string(64, ' ') + "Pag.  1",
+        "     " + std::string(59, '='),
+        "     " + std::string(IntestazioneSuper),
+        "     " + std::string(59, '='),
+    };
+    ASSERT_EQ(pagine[0].size(), testa.size() + 50);
+    for (size_t k = 0; k < testa.size(); ++k) EXPECT_EQ(pagine[0][k], testa[k]) << k;
+    EXPECT_EQ(pagine[0][testa.size()], "     " + RigaSuper(LeggiEstrazioneSuper(A(), n - 50)));
+    ASSERT_EQ(pagine[1].size(), testa.size() + 1);
+    EXPECT_EQ(pagine[1][2], std::string(64, ' ') + "Pag.  2");
+    EXPECT_EQ(pagine[1][testa.size()], "     " + RigaSuper(LeggiEstrazioneSuper(A(), n)));
+
+    // The choices print under the title; the dates are checked against this archive.
+    ParametriStampaEstrazioni p = Parametri(da, a, 0);
+    p.soloMese = true;
+    p.mese = A().LeggiRecordSuper(n).data().mese;
+    const StampaComposta m = ComponiStampaSuper(A(), p);
+    EXPECT_EQ(m.titolo2, "Solo mese di " + std::string(NomeMese(p.mese)));
+    EXPECT_EQ(Pagine(m)[0][2], config::Centrato(m.titolo2));
+    EXPECT_EQ(ComponiStampaSuper(A(), Parametri("01/01/1900", a)).errore.testo,
+              "La data non può essere inferiore alla data inizio gestione archivi (04/01/1947)");
+}
+
+TEST_F(StampaEstrazioni, DieciELotto) {
+    // Before every wheel was drawn no 10eLotto draw follows: nothing but the header.
+    StampaComposta s = ComponiStampa10eLotto(A(), Parametri("07/01/1871", "31/12/1872", 0));
+    ASSERT_TRUE(s.errore.vuoto());
+    EXPECT_EQ(s.estrazioni, 0);
+    EXPECT_EQ(s.righe.size(), Testata);
+    EXPECT_EQ(s.titolo1, "Gorgo - Stampa estrazioni 10eLotto dal 07/01/1871 al " + s.dataFine);
+    EXPECT_EQ(s.titolo2, "");
+
+    const int32_t da = I({2, 1, 2024});
+    s = ComponiStampa10eLotto(A(), Parametri(D(da), D(da + 59), 0));
+    EXPECT_EQ(s.layout, LayoutStampa::Lista10eLotto);
+    EXPECT_EQ(s.estrazioni, 60);
+    ASSERT_EQ(s.pagine, 2);
+    const auto pagine = Pagine(s);
+    ASSERT_EQ(pagine[0].size(), Testata + 50);
+    ASSERT_EQ(pagine[1].size(), Testata + 10);
+    const Risultato10eLotto r = Estrazione10eLotto(A().LeggiEstrazione(da));
+    ASSERT_GE(r.esito, 0);
+    std::string atteso = "     " + D(da) + " ";
+    for (int n : r.numeri) atteso += fmt::format(" {:02}", n);
+    EXPECT_EQ(pagine[0][Testata], atteso);
+    EXPECT_EQ(pagine[0][Testata], "     " + Riga10eLotto(D(da), r.numeri));
+
+    ParametriStampaEstrazioni p = Parametri(D(da), D(da + 59), 0);
+    p.dataVicina = true;
+    p.giorno = 1;
+    p.meseVicino = 1;
+    s = ComponiStampa10eLotto(A(), p);
+    EXPECT_EQ(s.titolo2, " - Solo date vicine al 1 gennaio");
+    EXPECT_EQ(s.estrazioni, 1);
+}
+
+}  // namespace
+}  // namespace gorgo::manutenzione
