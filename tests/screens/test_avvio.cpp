@@ -145,6 +145,26 @@ TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
     Azzera();
 }
 
+// A write cut short (the year index behind the draws, half a record at the end) is repaired
+// before the archives are opened, and the user is told.
+TEST(Avvio, ArchiviRiparatiAllApertura) {
+    CartellaTemporanea c;
+    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    const std::string anni = test::LeggiFile(c / "Archivi/anni.ind");
+    std::filesystem::resize_file(c / "Archivi/anni.ind", anni.size() - 12);
+    { std::ofstream(c / "Archivi/Estrazioni.ind", std::ios::app | std::ios::binary) << "mezzo record"; }
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    auto principale = AvviaProgramma(c.percorso(), blocco);
+    ASSERT_NE(principale, nullptr);
+    ASSERT_EQ(m.visti.size(), 1u);
+    EXPECT_EQ(m.visti[0].icona, Icona::Informazione);
+    EXPECT_EQ(test::LeggiFile(c / "Archivi/anni.ind"), anni);
+    EXPECT_TRUE(VerificaIntegrita(*Ambiente().archivio).vuoto());
+    principale.reset();
+    Azzera();
+}
+
 TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
     CartellaTemporanea c;
     test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
