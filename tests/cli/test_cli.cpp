@@ -13,6 +13,7 @@
 #include "archives/archivio.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
+#include "support/cli.h"
 
 namespace gorgo {
 namespace {
@@ -22,40 +23,8 @@ using nlohmann::json;
 using test::CartellaTemporanea;
 using test::LeggiFile;
 
-struct Esito {
-    int codice = -1;
-    std::string out, err;
-};
-
-std::string Quota(const std::string& s) {
-    std::string q(1, '\'');
-    for (char c : s) {
-        if (c == '\'')
-            q.append("'\\''");
-        else
-            q.push_back(c);
-    }
-    q.push_back('\'');
-    return q;
-}
-
-Esito Esegui(const std::vector<std::string>& argomenti) {
-    const char* cli = std::getenv("GORGO_CLI");
-    EXPECT_NE(cli, nullptr) << "GORGO_CLI non impostata";
-    CartellaTemporanea tmp;
-    std::string comando = Quota(cli ? cli : "gorgo-cli");
-    for (const auto& a : argomenti) comando.append(" ").append(Quota(a));
-    comando.append(" 2>").append(Quota((tmp / "err").string()));
-    Esito e;
-    FILE* p = ::popen(comando.c_str(), "r");
-    std::array<char, 4096> buf{};
-    size_t n;
-    while ((n = std::fread(buf.data(), 1, buf.size(), p)) > 0) e.out.append(buf.data(), n);
-    const int stato = ::pclose(p);
-    e.codice = WIFEXITED(stato) ? WEXITSTATUS(stato) : -1;
-    e.err = LeggiFile(tmp / "err");
-    return e;
-}
+using test::Esegui;
+using test::Esito;
 
 // Every byte of a program folder, to prove a refusal wrote nothing.
 std::string Istantanea(const fs::path& cartella) {

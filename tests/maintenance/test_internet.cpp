@@ -21,6 +21,7 @@
 #include "rete/scaricatore.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
+#include "support/cli.h"
 
 namespace gorgo::manutenzione {
 namespace {
@@ -65,40 +66,8 @@ std::string Zip(const std::string& nome, const std::string& contenuto, const fs:
 }
 
 // gorgo-cli as a child process; it talks to the test's server from there.
-struct Esito {
-    int codice = -1;
-    std::string out, err;
-};
-
-std::string Quota(const std::string& s) {
-    std::string q(1, '\'');
-    for (char c : s) {
-        if (c == '\'')
-            q.append("'\\''");
-        else
-            q.push_back(c);
-    }
-    q.push_back('\'');
-    return q;
-}
-
-Esito Esegui(const std::vector<std::string>& argomenti) {
-    const char* cli = std::getenv("GORGO_CLI");
-    CartellaTemporanea tmp;
-    std::string comando = Quota(cli ? cli : "gorgo-cli");
-    for (const auto& a : argomenti) comando.append(" ").append(Quota(a));
-    comando.append(" 2>").append(Quota((tmp / "err").string()));
-    Esito e;
-    FILE* p = ::popen(comando.c_str(), "r");
-    if (!p) return e;
-    std::array<char, 4096> buf{};
-    size_t n;
-    while ((n = std::fread(buf.data(), 1, buf.size(), p)) > 0) e.out.append(buf.data(), n);
-    const int stato = ::pclose(p);
-    e.codice = WIFEXITED(stato) ? WEXITSTATUS(stato) : -1;
-    e.err = LeggiFile(tmp / "err");
-    return e;
-}
+using test::Esegui;
+using test::Esito;
 
 std::string Archivi(const fs::path& cartella) {
     std::string s;
