@@ -10,6 +10,7 @@
 #include "archives/archivio.h"
 #include "maintenance/aggiornamento.h"
 #include "support/archivi_reali.h"
+#include "copia_reale.h"
 #include "support/cartelle.h"
 
 namespace gorgo::manutenzione {
@@ -30,37 +31,21 @@ void Accoda(const fs::path& p, std::string_view s) {
 }
 
 // A writable copy of the real 2025 archive and the real update file beside it.
-class AggiornamentoReale : public ::testing::Test {
+class AggiornamentoReale : public test::CopiaReale {
 protected:
     void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti ($GORGO_SHARED/dati/Archivi)";
-        reale_ = *reale;
-        fileReale_ = reale_.parent_path() / "aggiornamenti" / "AggiornamentoPz.bin";
-        if (!fs::exists(fileReale_)) GTEST_SKIP() << "AggiornamentoPz.bin assente";
-        test::CopiaArchiviReali(reale_, cartella());
+        Prepara("AggiornamentoPz.bin");
+        if (IsSkipped()) return;
+        fileReale_ = aggiornamenti_ / "AggiornamentoPz.bin";
         aggiornamento_ = LeggiFile(fileReale_);
-        estrazioni_ = LeggiFile(archivi() / "Estrazioni.ind");
-        anni_ = LeggiFile(archivi() / "anni.ind");
-        super_ = LeggiFile(archivi() / "SuperEnalotto.ind");
-    }
-    fs::path cartella() const { return tmp_.percorso() / "gorgo"; }
-    fs::path archivi() const { return cartella() / "Archivi"; }
-    Archivio Apri() const { return Archivio::Apri(cartella(), ModoApertura::Scrittura); }
-    // Every byte of the three files as they were copied.
-    void AttesoIntatto() const {
-        EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_);
-        EXPECT_EQ(LeggiFile(archivi() / "anni.ind"), anni_);
-        EXPECT_EQ(LeggiFile(archivi() / "SuperEnalotto.ind"), super_);
     }
     std::string Record(int i) const { return aggiornamento_.substr(static_cast<size_t>(i) * 66, 66); }
     std::string Records(int da, int a) const {
         return aggiornamento_.substr(static_cast<size_t>(da) * 66, static_cast<size_t>(a - da) * 66);
     }
 
-    CartellaTemporanea tmp_;
-    fs::path reale_, fileReale_;
-    std::string aggiornamento_, estrazioni_, anni_, super_;
+    fs::path fileReale_;
+    std::string aggiornamento_;
 };
 
 TEST_F(AggiornamentoReale, IlFileRealePortaLArchivioAl21Agosto2026) {

@@ -14,6 +14,7 @@
 #include "maintenance/aggiornamento.h"
 #include "maintenance/importazione.h"
 #include "support/archivi_reali.h"
+#include "copia_reale.h"
 #include "support/cartelle.h"
 
 namespace gorgo::manutenzione {
@@ -62,33 +63,16 @@ std::string Unisci(const std::vector<std::string>& v, const char* fine = "\n") {
     return s;
 }
 
-class Importazione : public ::testing::Test {
+class Importazione : public test::CopiaReale {
 protected:
     void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti ($GORGO_SHARED/dati/Archivi)";
-        reale_ = *reale;
-        const fs::path agg = reale_.parent_path() / "aggiornamenti";
-        if (!fs::exists(agg / "storico-2026.txt")) GTEST_SKIP() << "storico-2026.txt assente";
-        storico_ = LeggiFile(agg / "storico-2026.txt");
-        aggiornamento_ = LeggiFile(agg / "AggiornamentoPz.bin");
-        test::CopiaArchiviReali(reale_, cartella());
-        estrazioni_ = LeggiFile(archivi() / "Estrazioni.ind");
-        anni_ = LeggiFile(archivi() / "anni.ind");
-        super_ = LeggiFile(archivi() / "SuperEnalotto.ind");
-    }
-    fs::path cartella() const { return tmp_.percorso() / "gorgo"; }
-    fs::path archivi() const { return cartella() / "Archivi"; }
-    Archivio Apri() const { return Archivio::Apri(cartella(), ModoApertura::Scrittura); }
-    void AttesoIntatto() const {
-        EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_);
-        EXPECT_EQ(LeggiFile(archivi() / "anni.ind"), anni_);
-        EXPECT_EQ(LeggiFile(archivi() / "SuperEnalotto.ind"), super_);
+        Prepara("storico-2026.txt");
+        if (IsSkipped()) return;
+        storico_ = LeggiFile(aggiornamenti_ / "storico-2026.txt");
+        aggiornamento_ = LeggiFile(aggiornamenti_ / "AggiornamentoPz.bin");
     }
 
-    CartellaTemporanea tmp_;
-    fs::path reale_;
-    std::string storico_, aggiornamento_, estrazioni_, anni_, super_;
+    std::string storico_, aggiornamento_;
 };
 
 TEST_F(Importazione, Storico2026DaGliStessiByteDelFileDiAggiornamento) {

@@ -27,6 +27,23 @@ QPushButton* Pulsante(QWidget* w, const char* nome, const QString& testo) {
     return b;
 }
 
+// Print, file and close at the foot of a report window; the caller connects the first two.
+struct Piede {
+    QPushButton *stampa, *file;
+};
+Piede AggiungiPiede(QWidget* w, QBoxLayout* l, const char* nomeStampa, const char* nomeFile) {
+    auto* pulsanti = new QHBoxLayout;
+    Piede p{Pulsante(w, nomeStampa, QStringLiteral("Stampa")), Pulsante(w, nomeFile, QStringLiteral("Su file"))};
+    QPushButton* esci = Pulsante(w, "cmdEsci", QStringLiteral("Esci"));
+    pulsanti->addWidget(p.stampa);
+    pulsanti->addWidget(p.file);
+    pulsanti->addStretch();
+    pulsanti->addWidget(esci);
+    l->addLayout(pulsanti);
+    QObject::connect(esci, &QPushButton::clicked, w, &QWidget::close);
+    return p;
+}
+
 }  // namespace
 
 FrmReportGorgo::FrmReportGorgo(QWidget* parent, const std::vector<std::string>& righe) : QWidget(parent, Qt::Window) {
@@ -42,22 +59,13 @@ FrmReportGorgo::FrmReportGorgo(QWidget* parent, const std::vector<std::string>& 
         righe_.push_back({r, false, false});
     }
     l->addWidget(lista);
-    auto* pulsanti = new QHBoxLayout;
-    QPushButton* stampa = Pulsante(this, "cmdStampa", QStringLiteral("Stampa"));
-    QPushButton* file = Pulsante(this, "cmdPrintToFile", QStringLiteral("Su file"));
-    QPushButton* esci = Pulsante(this, "cmdEsci", QStringLiteral("Esci"));
-    pulsanti->addWidget(stampa);
-    pulsanti->addWidget(file);
-    pulsanti->addStretch();
-    pulsanti->addWidget(esci);
-    l->addLayout(pulsanti);
+    const auto [stampa, file] = AggiungiPiede(this, l, "cmdStampa", "cmdPrintToFile");
     connect(stampa, &QPushButton::clicked, this, [this] {
         OpzioniStampa o;
         StampaReport(this, righe_, o);
     });
     connect(file, &QPushButton::clicked, this,
             [this] { SalvaReportSuFile(this, righe_, QStringLiteral("ReportGorgo"), DomandaFile::Sovrascrivi); });
-    connect(esci, &QPushButton::clicked, this, &QWidget::close);
     resize(640, 480);
     ApplicaStile(this, Ambiente().ini);
 }
@@ -81,15 +89,7 @@ FrmAlgoritmiCalcolati::FrmAlgoritmiCalcolati(QWidget* parent, const builder::Esi
                                     QString::fromStdString(r.frequenza), QString::fromStdString(r.indiceConvenienza)});
     for (int c = 0; c < lista->columnCount(); ++c) lista->resizeColumnToContents(c);
     l->addWidget(lista);
-    auto* pulsanti = new QHBoxLayout;
-    QPushButton* stampa = Pulsante(this, "cmdStampaAlgoritmi", QStringLiteral("Stampa"));
-    QPushButton* file = Pulsante(this, "cmdPrintToFileAlgoritmi", QStringLiteral("Su file"));
-    QPushButton* esci = Pulsante(this, "cmdEsci", QStringLiteral("Esci"));
-    pulsanti->addWidget(stampa);
-    pulsanti->addWidget(file);
-    pulsanti->addStretch();
-    pulsanti->addWidget(esci);
-    l->addLayout(pulsanti);
+    const auto [stampa, file] = AggiungiPiede(this, l, "cmdStampaAlgoritmi", "cmdPrintToFileAlgoritmi");
     connect(stampa, &QPushButton::clicked, this, [this] {
         OpzioniStampa o;
         o.titolo1 = QStringLiteral("Gorgo 2 - Ideato da Sergio Tordelli");
@@ -99,7 +99,6 @@ FrmAlgoritmiCalcolati::FrmAlgoritmiCalcolati(QWidget* parent, const builder::Esi
     connect(file, &QPushButton::clicked, this, [this] {
         SalvaReportSuFile(this, file_.righe(), QStringLiteral("Calcolo_previsioni"), DomandaFile::InCalce);
     });
-    connect(esci, &QPushButton::clicked, this, &QWidget::close);
     resize(800, 400);
     ApplicaStile(this, Ambiente().ini);
 }

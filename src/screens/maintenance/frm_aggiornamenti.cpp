@@ -11,6 +11,7 @@
 #include "screens/config/aiuto.h"
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
+#include "screens/maintenance/riquadro_ultima.h"
 #include "screens/maintenance/scelta_file.h"
 
 namespace gorgo::schermi {
@@ -22,14 +23,6 @@ using manutenzione::StatoAggiornamento;
 
 QString Testo(const std::string& s) { return QString::fromStdString(s); }
 
-QLabel* Valore(QWidget* parent, const char* nome) {
-    auto* l = new QLabel(parent);
-    l->setObjectName(nome);
-    l->setFrameShape(QFrame::Panel);
-    l->setFrameShadow(QFrame::Sunken);
-    l->setMinimumWidth(90);
-    return l;
-}
 
 }  // namespace
 
@@ -43,23 +36,16 @@ FrmAggiornamenti::FrmAggiornamenti(Gioco gioco, QWidget* parent) : QDialog(paren
     setAttribute(Qt::WA_DeleteOnClose);
 
     auto* principale = new QVBoxLayout(this);
-    auto* ultima = new QGroupBox(QStringLiteral("Ultima estrazione memorizzata nel sistema:"), this);
-    ultima->setObjectName("fraUltima");
-    auto* griglia = new QGridLayout(ultima);
-    lblNumero_ = Valore(this, "lblNumero");
-    lblAnno_ = Valore(this, "lblAnno");
-    lblUltima_ = Valore(this, "lblUltima");
-    griglia->addWidget(new QLabel(QStringLiteral("Numero estrazione"), this), 0, 0);
-    griglia->addWidget(lblNumero_, 0, 1);
-    griglia->addWidget(new QLabel(QStringLiteral("Anno estrazione"), this), 1, 0);
-    griglia->addWidget(lblAnno_, 1, 1);
-    griglia->addWidget(new QLabel(QStringLiteral("Data"), this), 2, 0);
-    griglia->addWidget(lblUltima_, 2, 1);
-    principale->addWidget(ultima);
+    const RiquadroUltima ultima = CreaRiquadroUltima(this, "fraUltima", QStringLiteral("Ultima estrazione memorizzata nel sistema:"),
+                                                     QStringLiteral("Data"));
+    lblNumero_ = ultima.lblNumero;
+    lblAnno_ = ultima.lblAnno;
+    lblUltima_ = ultima.lblUltima;
+    principale->addWidget(ultima.riquadro);
 
     auto* file = new QHBoxLayout;
     file->addWidget(new QLabel(QStringLiteral("File aggiornato al :"), this));
-    lblFile_ = Valore(this, "lblFile");
+    lblFile_ = EtichettaValore(this, "lblFile");
     file->addWidget(lblFile_);
     file->addStretch();
     principale->addLayout(file);

@@ -15,20 +15,13 @@
 #include "screens/config/aiuto.h"
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
+#include "screens/maintenance/riquadro_ultima.h"
 #include "screens/maintenance/scelta_file.h"
 
 namespace gorgo::schermi {
 
 namespace {
 
-QLabel* Valore(QWidget* parent, const char* nome) {
-    auto* l = new QLabel(parent);
-    l->setObjectName(nome);
-    l->setFrameShape(QFrame::Panel);
-    l->setFrameShadow(QFrame::Sunken);
-    l->setMinimumWidth(90);
-    return l;
-}
 
 }  // namespace
 
@@ -38,19 +31,12 @@ FrmEsportazione::FrmEsportazione(QWidget* parent) : QDialog(parent) {
     setAttribute(Qt::WA_DeleteOnClose);
 
     auto* principale = new QVBoxLayout(this);
-    auto* riquadro = new QGroupBox(QStringLiteral("Esporta aggiornamento al :"), this);
-    riquadro->setObjectName("fraEsporta");
-    auto* griglia = new QGridLayout(riquadro);
-    lblNumero_ = Valore(this, "lblNumero");
-    lblAnno_ = Valore(this, "lblAnno");
-    lblUltima_ = Valore(this, "lblUltima");
-    griglia->addWidget(new QLabel(QStringLiteral("Numero estrazione"), this), 0, 0);
-    griglia->addWidget(lblNumero_, 0, 1);
-    griglia->addWidget(new QLabel(QStringLiteral("Anno estrazione"), this), 1, 0);
-    griglia->addWidget(lblAnno_, 1, 1);
-    griglia->addWidget(new QLabel(QStringLiteral("Data di esportazione degli archivi"), this), 2, 0);
-    griglia->addWidget(lblUltima_, 2, 1);
-    principale->addWidget(riquadro);
+    const RiquadroUltima ultima = CreaRiquadroUltima(this, "fraEsporta", QStringLiteral("Esporta aggiornamento al :"),
+                                                     QStringLiteral("Data di esportazione degli archivi"));
+    lblNumero_ = ultima.lblNumero;
+    lblAnno_ = ultima.lblAnno;
+    lblUltima_ = ultima.lblUltima;
+    principale->addWidget(ultima.riquadro);
 
     // The first draw to export: by default the system's fixed start.
     auto* da = new QHBoxLayout;
