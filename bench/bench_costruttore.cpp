@@ -19,14 +19,14 @@ using namespace gorgo;
 using namespace gorgo::builder;
 
 struct Ambiente {
-    StoriaCondivisa storia;
+    gorgo::archives::StoriaCondivisa storia;
     IndiciMensili indici;
     TerzineRidotte terzine;
     ContestoRicerca contesto;
 
     Ambiente() {
         const char* s = std::getenv("GORGO_SHARED");
-        storia = Archivio::Apri(std::filesystem::path(s ? s : "../shared") / "dati").Storia();
+        storia = gorgo::archives::Archivio::Apri(std::filesystem::path(s ? s : "../shared") / "dati").Storia();
         indici = CalcolaIndiciMensili(*storia, "NNYNYNY");
         // 1002 triples, fixed, as a file of reduced triples would give them.
         std::mt19937 g(1002);
@@ -95,7 +95,7 @@ ParametriRicerca S6(const char* da = "30/12/2020") {
 double ValutazioniAmbi(const ParametriRicerca& p, const EsitoRicerca& e) {
     double n = 0;
     for (const CasoSpia& c : e.casi) {
-        const RecordEstrazione& r = (*A().storia)[c.indice];
+        const gorgo::archives::RecordEstrazione& r = (*A().storia)[c.indice];
         for (int a = 1; a <= 55; ++a)
             for (int b = RuotaDiCella(a) * 5 + 1; b <= 55; ++b)
                 if (r.Ruota[(b - 1) / 5][(b - 1) % 5] != 0) n += p.soloPosizione ? 1 : 9 * 45 * 45;

@@ -22,10 +22,10 @@ int main(int argc, char** argv) {
 
     std::optional<std::filesystem::path> scelta;
     if (opzioni.isSet(cartella)) scelta = opzioni.value(cartella).toStdString();
-    const std::filesystem::path percorso = gorgo::TrovaPercorsoProgramma(gorgo::AmbienteCorrente(scelta));
+    const std::filesystem::path percorso = gorgo::archives::TrovaPercorsoProgramma(gorgo::archives::AmbienteCorrente(scelta));
 
     std::unique_ptr<QLockFile> blocco;
-    std::unique_ptr<gorgo::schermi::FrmMain> principale = gorgo::schermi::AvviaProgramma(percorso, blocco);
+    std::unique_ptr<gorgo::screens::FrmMain> principale = gorgo::screens::AvviaProgramma(percorso, blocco);
     if (!principale) return 1;
     principale->show();
     return app.exec();

@@ -8,7 +8,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 namespace fs = std::filesystem;
 
@@ -292,4 +292,4 @@ Messaggio VerificaIntegrita(const Archivio& archivio) {
     return {};
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

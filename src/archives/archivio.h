@@ -15,7 +15,7 @@
 #include "archives/record.h"
 #include "archives/storia.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 // An input/output failure on an archive file; the text is Italian and names the file.
 class ErroreArchivio : public std::runtime_error {
@@ -101,4 +101,4 @@ Messaggio ControllaPresenzaArchivi(const Archivio& archivio);
 // Returns the first problem found as an Italian message, or an empty message.
 Messaggio VerificaIntegrita(const Archivio& archivio);
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -4,7 +4,7 @@
 #include <array>
 #include <fmt/format.h>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 namespace {
 
@@ -117,4 +117,4 @@ std::optional<Data> Data::daTesto(std::string_view t) {
     return d;
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 struct Data {
     int giorno = 0;
@@ -52,4 +52,4 @@ std::string_view NomeGiorno(int giorno);
 // The month whose Italian name this is, without regard to case; 0 for none.
 int NumeroMese(std::string_view nome);
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

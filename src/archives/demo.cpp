@@ -6,7 +6,7 @@
 
 #include "archives/archivio.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 namespace fs = std::filesystem;
 
@@ -173,4 +173,4 @@ bool CartellaDemo(const fs::path& cartella) {
     return fs::exists(cartella / FileDemo, ec);
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

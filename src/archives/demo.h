@@ -12,7 +12,7 @@
 #include "archives/messaggio.h"
 #include "archives/record.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 struct ParametriDemo {
     uint64_t seme = 1871;
@@ -37,4 +37,4 @@ void ScriviArchivi(const std::filesystem::path& cartella, std::span<const Record
 
 bool CartellaDemo(const std::filesystem::path& cartella);
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -2,7 +2,7 @@
 
 #include "archives/storia.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 Risultato10eLotto Estrazione10eLotto(const RecordEstrazione& record) {
     Risultato10eLotto e;
@@ -48,4 +48,4 @@ Risultato10eLotto Estrazione10eLotto(const StoriaLotto& storia, int32_t indice) 
     return Estrazione10eLotto(storia[indice]);
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

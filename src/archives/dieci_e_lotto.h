@@ -6,7 +6,7 @@
 
 #include "archives/record.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 class StoriaLotto;
 
@@ -20,4 +20,4 @@ struct Risultato10eLotto {
 Risultato10eLotto Estrazione10eLotto(const RecordEstrazione& record);
 Risultato10eLotto Estrazione10eLotto(const StoriaLotto& storia, int32_t indice);
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

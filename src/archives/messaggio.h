@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 enum class Icona { Nessuna, Informazione, Esclamazione, Domanda, Stop };
 
@@ -16,4 +16,4 @@ struct Messaggio {
     bool vuoto() const { return testo.empty(); }
 };
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

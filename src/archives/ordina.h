@@ -9,7 +9,7 @@
 #include <string>
 #include <utility>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 namespace dettaglio {
 
@@ -79,4 +79,4 @@ void OrdinaVarianti(std::span<T> t, long primo, long ultimo) {
     if (i < ultimo) OrdinaVarianti(t, i, ultimo);
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <system_error>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 namespace fs = std::filesystem;
 
@@ -32,4 +32,4 @@ AmbientePercorso AmbienteCorrente(std::optional<fs::path> cartella) {
     return a;
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 struct AmbientePercorso {
     std::optional<std::filesystem::path> cartella;  // --cartella
@@ -19,4 +19,4 @@ std::filesystem::path TrovaPercorsoProgramma(const AmbientePercorso& ambiente);
 // The values of this process (environment, /proc/self/exe).
 AmbientePercorso AmbienteCorrente(std::optional<std::filesystem::path> cartella);
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

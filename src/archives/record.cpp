@@ -3,7 +3,7 @@
 #include <cstring>
 #include <fmt/format.h>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 const std::array<std::string_view, 12> NomiRuota = {
     "Tutte     ", "Bari      ", "Cagliari  ", "Firenze   ", "Genova    ", "Milano    ",
@@ -32,29 +32,29 @@ int Campo(std::string_view s) {
     return n;
 }
 
-gorgo::Data DataDaCifre(const char* d) {
-    return gorgo::Data{Campo({d, 2}), Campo({d + 2, 2}), Campo({d + 4, 4})};
+gorgo::archives::Data DataDaCifre(const char* d) {
+    return gorgo::archives::Data{Campo({d, 2}), Campo({d + 2, 2}), Campo({d + 4, 4})};
 }
 
 }  // namespace
 
 std::string RecordEstrazione::dataTesto() const { return TestoData(Data); }
-gorgo::Data RecordEstrazione::data() const { return DataDaCifre(Data); }
+gorgo::archives::Data RecordEstrazione::data() const { return DataDaCifre(Data); }
 
 // Both records keep the date as eight digits and the weekday twice.
 template <typename Record>
-void ImpostaData(Record& r, const gorgo::Data& d) {
+void ImpostaData(Record& r, const gorgo::archives::Data& d) {
     const std::string c = d.cifre();
     std::memcpy(r.Data, c.data(), 8);
     r.GiornoSettimana = r.GiornoSettimanaCopia = static_cast<char>('0' + d.giornoSettimana());
 }
 
-void RecordEstrazione::impostaData(const gorgo::Data& d) { ImpostaData(*this, d); }
+void RecordEstrazione::impostaData(const gorgo::archives::Data& d) { ImpostaData(*this, d); }
 
 std::string RecordSuperEnalotto::dataTesto() const { return TestoData(Data); }
-gorgo::Data RecordSuperEnalotto::data() const { return DataDaCifre(Data); }
+gorgo::archives::Data RecordSuperEnalotto::data() const { return DataDaCifre(Data); }
 
-void RecordSuperEnalotto::impostaData(const gorgo::Data& d) { ImpostaData(*this, d); }
+void RecordSuperEnalotto::impostaData(const gorgo::archives::Data& d) { ImpostaData(*this, d); }
 
 RecordAnno RecordAnno::Crea(int anno, int32_t primaEstrazione) {
     RecordAnno r;
@@ -86,4 +86,4 @@ int32_t RecordAnno::primaEstrazione() const {
     return n;
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -9,7 +9,7 @@
 
 #include "archives/data.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 constexpr int NumeroRuote = 11;
 constexpr int RuotaNazionale = 11;
@@ -37,9 +37,9 @@ struct RecordEstrazione {
     // Characters 1-2, 3-4, 5-8 joined by "/", no check on the stored text.
     std::string dataTesto() const;
     // The stored date; day, month or year 0 where the digits are not digits.
-    gorgo::Data data() const;
+    gorgo::archives::Data data() const;
     int giornoSettimana() const { return GiornoSettimana - '0'; }
-    void impostaData(const gorgo::Data& d);  // date, weekday and its copy
+    void impostaData(const gorgo::archives::Data& d);  // date, weekday and its copy
 };
 static_assert(sizeof(RecordEstrazione) == 66);
 
@@ -67,8 +67,8 @@ struct RecordSuperEnalotto {
 
     std::string_view dataCifre() const { return {Data, 8}; }
     std::string dataTesto() const;
-    gorgo::Data data() const;
-    void impostaData(const gorgo::Data& d);
+    gorgo::archives::Data data() const;
+    void impostaData(const gorgo::archives::Data& d);
 };
 static_assert(sizeof(RecordSuperEnalotto) == 20);
 
@@ -77,4 +77,4 @@ constexpr int LunghezzaRecordEstrazione = 66;
 constexpr int LunghezzaRecordAnno = 12;
 constexpr int LunghezzaRecordSuper = 20;
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

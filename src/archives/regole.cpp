@@ -5,7 +5,7 @@
 
 #include "archives/archivio.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 const std::string_view MessaggioFormatoData =
     "Inserire la data nel formato GG/MM/AAAA !\n"
@@ -121,4 +121,4 @@ bool EsisteFile(const std::filesystem::path& percorso) {
     return std::filesystem::is_regular_file(percorso, ec);
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -10,7 +10,7 @@
 #include "archives/messaggio.h"
 #include "archives/storia.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 class Archivio;
 
@@ -56,4 +56,4 @@ int Fuori90Catena(int n);    // add or take off 90 until in 1..90, 0 becomes 90
 
 bool EsisteFile(const std::filesystem::path& percorso);
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace gorgo {
+namespace gorgo::archives {
 
 StoriaLotto::StoriaLotto(std::vector<RecordEstrazione> record) : record_(std::move(record)) {
     giorni_.reserve(record_.size());
@@ -25,4 +25,4 @@ std::optional<RisultatoRicerca> StoriaLotto::CercaIndice(const Data& data, bool 
     return RisultatoRicerca{indice, (*this)[indice].dataTesto()};
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

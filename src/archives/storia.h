@@ -11,7 +11,7 @@
 
 #include "archives/record.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 struct RisultatoRicerca {
     int32_t IndiceTrovato = 0;
@@ -52,4 +52,4 @@ private:
 
 using StoriaCondivisa = std::shared_ptr<const StoriaLotto>;
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

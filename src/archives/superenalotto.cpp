@@ -2,7 +2,7 @@
 
 #include "archives/archivio.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 EstrazioneSuper LeggiEstrazioneSuper(const RecordSuperEnalotto& r) {
     EstrazioneSuper e;
@@ -29,4 +29,4 @@ EstrazioneSuper LeggiEstrazioneSuper(const Archivio& archivio, int32_t indice) {
     return LeggiEstrazioneSuper(archivio.LeggiRecordSuper(indice));
 }
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -7,7 +7,7 @@
 
 #include "archives/record.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 
 class Archivio;
 
@@ -31,4 +31,4 @@ struct EstrazioneSuper {
 EstrazioneSuper LeggiEstrazioneSuper(const RecordSuperEnalotto& record);
 EstrazioneSuper LeggiEstrazioneSuper(const Archivio& archivio, int32_t indice);
 
-}  // namespace gorgo
+}  // namespace gorgo::archives

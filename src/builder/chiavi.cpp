@@ -23,7 +23,7 @@ int Campo(std::string_view testo) {
     return v;
 }
 
-Messaggio Guasto(std::string_view testo) { return {std::string(testo), "", Icona::Esclamazione}; }
+archives::Messaggio Guasto(std::string_view testo) { return {std::string(testo), "", archives::Icona::Esclamazione}; }
 
 constexpr std::string_view CapogiocoMancante = "Calcolo impossibile: capogioco mancante.";
 constexpr std::string_view PosizioneNonValida = "Calcolo impossibile: posizione non valida.";
@@ -40,11 +40,11 @@ constexpr size_t SeparatoreAmbata = 9, SeparatoreAmbi = 12, SeparatoreTerzina = 
 constexpr size_t MinimoAmbata = 9, MinimoTerzina = 10;
 
 // position (1), wheel (2), sign (1): the head of every one-number rule.
-Messaggio LeggiTesta(std::string_view t, TermineChiave& termine) {
+archives::Messaggio LeggiTesta(std::string_view t, TermineChiave& termine) {
     const int posizione = Campo(t.substr(0, 1));
     if (posizione < 1 || posizione > 5) return Guasto(PosizioneNonValida);
     const int ruota = Campo(t.substr(1, 2));
-    if (ruota < 1 || ruota > NumeroRuote) return Guasto(Ruota1NonValida);
+    if (ruota < 1 || ruota > archives::NumeroRuote) return Guasto(Ruota1NonValida);
     const auto op = OperazioneDaSegno(t[3]);
     if (!op) return Guasto(OperazioneNonValida);
     termine.cella = Cella(ruota, posizione);
@@ -52,13 +52,13 @@ Messaggio LeggiTesta(std::string_view t, TermineChiave& termine) {
     return {};
 }
 
-Messaggio LeggiAmbata(std::string_view chiave, TermineChiave& termine) {
+archives::Messaggio LeggiAmbata(std::string_view chiave, TermineChiave& termine) {
     if (chiave.size() < MinimoAmbata) return Guasto(CapogiocoMancante);
     if (auto e = LeggiTesta(chiave, termine); !e.vuoto()) return e;
     const int posizione2 = Campo(chiave.substr(4, 1));
     if (posizione2 < 0 || posizione2 > 5) return Guasto(Posizione2NonValida);
     const int ruota2 = Campo(chiave.substr(5, 2));
-    if (ruota2 < 0 || ruota2 > NumeroRuote) return Guasto(Ruota2NonValida);
+    if (ruota2 < 0 || ruota2 > archives::NumeroRuote) return Guasto(Ruota2NonValida);
     const int k = Campo(chiave.substr(7, 2));
     if (k < 0 || k > 89) return Guasto(CostanteNonValida);
     termine.cella2 = posizione2 == 0 || ruota2 == 0 ? 0 : Cella(ruota2, posizione2);
@@ -67,7 +67,7 @@ Messaggio LeggiAmbata(std::string_view chiave, TermineChiave& termine) {
 }
 
 // One rule of an Ambi key: characters 1-6 (primo) or 7-12.
-Messaggio LeggiRegolaAmbi(std::string_view chiave, bool primo, TermineChiave& termine) {
+archives::Messaggio LeggiRegolaAmbi(std::string_view chiave, bool primo, TermineChiave& termine) {
     const size_t inizio = primo ? 0 : 6;
     // The shortest key of the table is 9 long; the second rule needs all its 12 characters.
     if (chiave.size() < MinimoAmbata || chiave.size() < inizio + 6) return Guasto(CapogiocoMancante);
@@ -80,20 +80,20 @@ Messaggio LeggiRegolaAmbi(std::string_view chiave, bool primo, TermineChiave& te
     return {};
 }
 
-Messaggio LeggiCella(std::string_view campo, int& cella) {
+archives::Messaggio LeggiCella(std::string_view campo, int& cella) {
     cella = Campo(campo);
     if (cella < 1 || cella > NumeroCelle) return Guasto(PosizioneNonValida);
     return {};
 }
 
-Messaggio LeggiTerzina(std::string_view chiave, std::array<int, 3>& celle) {
+archives::Messaggio LeggiTerzina(std::string_view chiave, std::array<int, 3>& celle) {
     if (chiave.size() < MinimoTerzina) return Guasto(CapogiocoMancante);
     for (size_t i = 0; i < 3; ++i)
         if (auto e = LeggiCella(chiave.substr(i * 2, 2), celle[i]); !e.vuoto()) return e;
     return {};
 }
 
-Messaggio LeggiCodice(std::string_view chiave, TermineChiave& termine, int& terzina) {
+archives::Messaggio LeggiCodice(std::string_view chiave, TermineChiave& termine, int& terzina) {
     if (chiave.size() < MinimoTerzina) return Guasto(CapogiocoMancante);
     if (auto e = LeggiCella(chiave.substr(0, 2), termine.cella); !e.vuoto()) return e;
     terzina = Campo(chiave.substr(2, 4));
@@ -104,11 +104,11 @@ Messaggio LeggiCodice(std::string_view chiave, TermineChiave& termine, int& terz
     return {};
 }
 
-int ValoreCella(const RecordEstrazione& e, int cella) {
+int ValoreCella(const archives::RecordEstrazione& e, int cella) {
     return e.Numero(RuotaDiCella(cella), PosizioneDiCella(cella));
 }
 
-int CalcolaRegola(const TermineChiave& t, const RecordEstrazione& e) {
+int CalcolaRegola(const TermineChiave& t, const archives::RecordEstrazione& e) {
     const int destro = t.cella2 > 0 ? ValoreCella(e, t.cella2) : t.costante;
     return Opera(t.op, ValoreCella(e, t.cella), destro);
 }
@@ -118,7 +118,7 @@ bool LayoutAmbi(std::string_view chiave) {
     return chiave.size() > SeparatoreAmbata && chiave[SeparatoreAmbata] != '_';
 }
 
-NumeriCalcolati Errore(Messaggio m) {
+NumeriCalcolati Errore(archives::Messaggio m) {
     NumeriCalcolati r;
     r.errore = std::move(m);
     return r;
@@ -196,7 +196,7 @@ std::optional<CodaChiave> LeggiCoda(std::string_view chiave) {
 ChiaveLetta LeggiChiave(std::string_view chiave, TipoRicerca tipo) {
     ChiaveLetta r;
     r.tipo = tipo;
-    Messaggio e;
+    archives::Messaggio e;
     switch (tipo) {
         case TipoRicerca::Ambate:
             e = LeggiAmbata(chiave, r.termini[0]);
@@ -252,14 +252,14 @@ std::string DescrizioneCodice(int cella, Operazione op, int terzina, const std::
 
 // ---- calculation ----
 
-NumeriCalcolati CalcolaTermine(std::string_view chiave, const RecordEstrazione& estrazione, bool primo) {
+NumeriCalcolati CalcolaTermine(std::string_view chiave, const archives::RecordEstrazione& estrazione, bool primo) {
     TermineChiave t;
-    Messaggio e = !primo || LayoutAmbi(chiave) ? LeggiRegolaAmbi(chiave, primo, t) : LeggiAmbata(chiave, t);
+    archives::Messaggio e = !primo || LayoutAmbi(chiave) ? LeggiRegolaAmbi(chiave, primo, t) : LeggiAmbata(chiave, t);
     if (!e.vuoto()) return Errore(std::move(e));
     return {{CalcolaRegola(t, estrazione)}, {}};
 }
 
-NumeriCalcolati CalcolaCodice(std::string_view chiave, const RecordEstrazione& estrazione,
+NumeriCalcolati CalcolaCodice(std::string_view chiave, const archives::RecordEstrazione& estrazione,
                               const TerzineRidotte& terzine) {
     TermineChiave t;
     int numero = 0;
@@ -274,7 +274,7 @@ NumeriCalcolati CalcolaCodice(std::string_view chiave, const RecordEstrazione& e
     return r;
 }
 
-NumeriCalcolati CalcolaTerzina(std::string_view chiave, const RecordEstrazione& estrazione) {
+NumeriCalcolati CalcolaTerzina(std::string_view chiave, const archives::RecordEstrazione& estrazione) {
     std::array<int, 3> celle{};
     if (auto e = LeggiTerzina(chiave, celle); !e.vuoto()) return Errore(std::move(e));
     NumeriCalcolati r;
@@ -282,7 +282,7 @@ NumeriCalcolati CalcolaTerzina(std::string_view chiave, const RecordEstrazione& 
     return r;
 }
 
-NumeriCalcolati NumeriAlgoritmo(std::string_view chiave, TipoRicerca tipo, const RecordEstrazione& estrazione,
+NumeriCalcolati NumeriAlgoritmo(std::string_view chiave, TipoRicerca tipo, const archives::RecordEstrazione& estrazione,
                                 const TerzineRidotte* terzine) {
     switch (tipo) {
         case TipoRicerca::Ambate: {

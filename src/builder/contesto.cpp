@@ -4,7 +4,7 @@
 
 namespace gorgo::builder {
 
-ContestoCostruttore PreparaCostruttore(StoriaCondivisa storia, const config::FileIni& ini,
+ContestoCostruttore PreparaCostruttore(archives::StoriaCondivisa storia, const config::FileIni& ini,
                                        const std::filesystem::path& percorsoProgramma,
                                        std::optional<std::string> fileTerzine) {
     ContestoCostruttore c;

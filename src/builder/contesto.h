@@ -12,7 +12,7 @@
 namespace gorgo::builder {
 
 struct ContestoCostruttore {
-    StoriaCondivisa storia;
+    archives::StoriaCondivisa storia;
     IndiciMensili indici;
     config::Restrizioni restrizioni;
     EsitoTerzine terzine;          // terzine.valido false: codes unavailable
@@ -25,7 +25,7 @@ struct ContestoCostruttore {
 
 // `fileTerzine`, when given, wins over the setting FileTerzine, which wins over Terzine.txt
 // in the program folder.
-ContestoCostruttore PreparaCostruttore(StoriaCondivisa storia, const config::FileIni& ini,
+ContestoCostruttore PreparaCostruttore(archives::StoriaCondivisa storia, const config::FileIni& ini,
                                        const std::filesystem::path& percorsoProgramma,
                                        std::optional<std::string> fileTerzine = std::nullopt);
 

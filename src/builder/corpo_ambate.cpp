@@ -16,7 +16,7 @@ void RiempiFinestraNumeri(const Preparata& r, const Caso& c, FinestraNumeri& f) 
     f.H.fill(0);
     const auto& valide = r.p->posizioniValide;
     for (int32_t d = c.indice + 1; d <= c.fineFinestra; ++d) {
-        const RecordEstrazione& e = (*r.storia)[d];
+        const archives::RecordEstrazione& e = (*r.storia)[d];
         for (int w : r.ruoteGioco) {
             for (int pos = 1; pos <= 5; ++pos) {
                 if (!valide[static_cast<size_t>(pos)]) continue;

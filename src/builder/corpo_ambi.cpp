@@ -120,7 +120,7 @@ struct Forma {
 
 }  // namespace
 
-bool CinquinaPiena(const RecordEstrazione& e, int ruota, std::array<int, 5>& n, bool ordina) {
+bool CinquinaPiena(const archives::RecordEstrazione& e, int ruota, std::array<int, 5>& n, bool ordina) {
     for (int p = 0; p < 5; ++p) {
         n[static_cast<size_t>(p)] = e.Ruota[ruota - 1][p];
         if (n[static_cast<size_t>(p)] == 0) return false;
@@ -131,7 +131,7 @@ bool CinquinaPiena(const RecordEstrazione& e, int ruota, std::array<int, 5>& n, 
 
 void RiempiFinestraCoppie(const Preparata& r, const Caso& c, int16_t* coppie, bool ordina) {
     for (int32_t d = c.indice + 1; d <= c.fineFinestra; ++d) {
-        const RecordEstrazione& e = (*r.storia)[d];
+        const archives::RecordEstrazione& e = (*r.storia)[d];
         for (int w : r.ruoteGioco) {
             std::array<int, 5> n;
             if (!CinquinaPiena(e, w, n, ordina)) continue;

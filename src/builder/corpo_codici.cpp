@@ -40,7 +40,7 @@ struct Punteggi {
 
 void RiempiFinestra(const Preparata& r, const Caso& c, Finestre& f, int sorte) {
     for (int32_t d = c.indice + 1; d <= c.fineFinestra; ++d) {
-        const RecordEstrazione& e = (*r.storia)[d];
+        const archives::RecordEstrazione& e = (*r.storia)[d];
         for (int w : r.ruoteGioco) {
             // Zeros never equal a result, so only the numbers drawn take part.
             std::array<int, 5> n{};

@@ -30,7 +30,7 @@ inline size_t IndiceTerna(int a, int b, int c) { return static_cast<size_t>(a + 
 
 void RiempiTerne(const Preparata& r, const Caso& c, Finestre& f) {
     for (int32_t d = c.indice + 1; d <= c.fineFinestra; ++d) {
-        const RecordEstrazione& e = (*r.storia)[d];
+        const archives::RecordEstrazione& e = (*r.storia)[d];
         for (int w : r.ruoteGioco) {
             std::array<int, 5> n;
             if (!CinquinaPiena(e, w, n, true)) continue;

@@ -12,33 +12,33 @@ bool GiornoEstrazione(std::string_view giorni, int giornoSettimana) {
 }
 
 // The first draw day after `dopo`, by the seven flags from Sunday; none set means Saturday.
-Data ProssimaEstrazione(const Data& dopo, std::string_view giorni) {
+archives::Data ProssimaEstrazione(const archives::Data& dopo, std::string_view giorni) {
     bool qualcuno = false;
     for (int g = 1; g <= 7; ++g) qualcuno = qualcuno || GiornoEstrazione(giorni, g);
     const int32_t base = dopo.giorni();
     for (int32_t passo = 1; passo <= 7; ++passo) {
-        const Data d = Data::daGiorni(base + passo);
+        const archives::Data d = archives::Data::daGiorni(base + passo);
         const int g = d.giornoSettimana();
         if (qualcuno ? GiornoEstrazione(giorni, g) : g == 7) return d;
     }
-    return Data::daGiorni(base + 7);  // not reached: seven days hold every weekday
+    return archives::Data::daGiorni(base + 7);  // not reached: seven days hold every weekday
 }
 
-bool StessoMese(const Data& a, const Data& b) { return a.mese == b.mese && a.anno == b.anno; }
+bool StessoMese(const archives::Data& a, const archives::Data& b) { return a.mese == b.mese && a.anno == b.anno; }
 
 }  // namespace
 
-IndiciMensili CalcolaIndiciMensili(const StoriaLotto& storia, std::string_view giorniEstrazione) {
+IndiciMensili CalcolaIndiciMensili(const archives::StoriaLotto& storia, std::string_view giorniEstrazione) {
     const int32_t n = storia.NumeroEstrazioni();
     IndiciMensili r;
     r.indice.assign(static_cast<size_t>(n) + 1, 0);
     r.ultimo.assign(static_cast<size_t>(n) + 1, false);
     if (n < 1) return r;
 
-    Data precedente = storia[1].data();
+    archives::Data precedente = storia[1].data();
     int conta = 0;
     for (int32_t i = 1; i <= n; ++i) {
-        const Data d = storia[i].data();
+        const archives::Data d = storia[i].data();
         if (i > 1 && !StessoMese(d, precedente)) {
             r.ultimo[static_cast<size_t>(i - 1)] = true;
             conta = 0;

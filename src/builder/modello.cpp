@@ -57,10 +57,10 @@ const std::array<std::array<std::array<uint8_t, 91>, 91>, 3> TabellaOperazioni =
 const std::string& NomeCella(int c) {
     static const std::array<std::string, NumeroCelle + 1> nomi = [] {
         std::array<std::string, NumeroCelle + 1> t{};
-        for (int w = 1; w <= NumeroRuote; ++w)
+        for (int w = 1; w <= archives::NumeroRuote; ++w)
             for (int p = 1; p <= 5; ++p)
                 t[static_cast<size_t>(Cella(w, p))] =
-                    std::to_string(p) + "' su " + std::string(NomiRuota[static_cast<size_t>(w)]);
+                    std::to_string(p) + "' su " + std::string(archives::NomiRuota[static_cast<size_t>(w)]);
         return t;
     }();
     if (c < 1 || c > NumeroCelle) return nomi[0];

@@ -96,7 +96,7 @@ struct ChiaveLetta {
     std::array<int, 3> celle{};  // Terzina
     int terzina = 0;             // Codice: 1..9999, checked against the table when calculated
     std::optional<CodaChiave> coda;
-    Messaggio errore;            // "Calcolo impossibile: ..." on a bad key; the fields are then unset
+    archives::Messaggio errore;            // "Calcolo impossibile: ..." on a bad key; the fields are then unset
 };
 ChiaveLetta LeggiChiave(std::string_view chiave, TipoRicerca tipo);
 
@@ -116,7 +116,7 @@ struct TerzineRidotte {
 struct EsitoTerzine {
     TerzineRidotte terzine;
     bool valido = false;     // false: codes unavailable
-    Messaggio messaggio;     // " File terzine non valido!" or "N terzine caricate!\"" or a missing file
+    archives::Messaggio messaggio;     // " File terzine non valido!" or "N terzine caricate!\"" or a missing file
     bool fileMancante = false;
 };
 // Each line: first number in characters 1-2, second in 4-5, third in the last two.
@@ -132,23 +132,23 @@ struct IndiciMensili {
     std::vector<bool> ultimo;     // last draw of its month ("U")
 };
 // giorniEstrazione: seven characters from Sunday, "Y" for a draw day; none set = Saturday.
-IndiciMensili CalcolaIndiciMensili(const StoriaLotto& storia, std::string_view giorniEstrazione);
+IndiciMensili CalcolaIndiciMensili(const archives::StoriaLotto& storia, std::string_view giorniEstrazione);
 
 // ---- calculation of an algorithm at a draw ----
 struct NumeriCalcolati {
     std::vector<int> numeri;  // empty on a fault
-    Messaggio errore;         // "Calcolo impossibile: ..." on a bad key
+    archives::Messaggio errore;         // "Calcolo impossibile: ..." on a bad key
 };
 // The number of an Ambata key, or of the first (primo) or second rule of an Ambi key.
-NumeriCalcolati CalcolaTermine(std::string_view chiave, const RecordEstrazione& estrazione, bool primo = true);
+NumeriCalcolati CalcolaTermine(std::string_view chiave, const archives::RecordEstrazione& estrazione, bool primo = true);
 // The three numbers of a code (with 45 or 90 and "x": the number itself).
-NumeriCalcolati CalcolaCodice(std::string_view chiave, const RecordEstrazione& estrazione,
+NumeriCalcolati CalcolaCodice(std::string_view chiave, const archives::RecordEstrazione& estrazione,
                               const TerzineRidotte& terzine);
 // The values of the three cells of a terzina key, before the rules on equal numbers.
-NumeriCalcolati CalcolaTerzina(std::string_view chiave, const RecordEstrazione& estrazione);
+NumeriCalcolati CalcolaTerzina(std::string_view chiave, const archives::RecordEstrazione& estrazione);
 // All the numbers of an algorithm, with the rules on equal numbers (Ambi: Vertibile;
 // Terzina: Vertibile then +1).
-NumeriCalcolati NumeriAlgoritmo(std::string_view chiave, TipoRicerca tipo, const RecordEstrazione& estrazione,
+NumeriCalcolati NumeriAlgoritmo(std::string_view chiave, TipoRicerca tipo, const archives::RecordEstrazione& estrazione,
                                 const TerzineRidotte* terzine = nullptr);
 
 }  // namespace gorgo::builder

@@ -15,7 +15,7 @@ constexpr std::string_view TuttePosizioni = "11111";
 
 RicercaValidata Rifiuto(std::string testo, std::string focus = {}) {
     RicercaValidata r;
-    r.errore = {std::move(testo), "", Icona::Esclamazione};
+    r.errore = {std::move(testo), "", archives::Icona::Esclamazione};
     r.focus = std::move(focus);
     return r;
 }
@@ -62,22 +62,22 @@ std::string DescrizioneSpia(TipoSpia tipo, ModoSpia modo, int indiceMese, int va
     return t + " sulle ruote di ricerca nel periodo considerato: ";
 }
 
-std::string DataAPredefinita(const StoriaLotto& storia) {
+std::string DataAPredefinita(const archives::StoriaLotto& storia) {
     if (storia.vuota()) return {};
     return storia.DataEstrazione(storia.NumeroEstrazioni());
 }
 
-std::string DataDaPredefinita(const StoriaLotto& storia) {
+std::string DataDaPredefinita(const archives::StoriaLotto& storia) {
     if (storia.vuota()) return {};
-    const Data ultima = storia[storia.NumeroEstrazioni()].data();
+    const archives::Data ultima = storia[storia.NumeroEstrazioni()].data();
     // 29 February ten years back falls on the 28th, as a date picker steps back.
     const int anno = ultima.anno - 10;
-    const Data dieci{std::min(ultima.giorno, GiorniNelMese(ultima.mese, anno)), ultima.mese, anno};
-    const Data minima = *Data::daTesto(DataMinimaPredefinita);
+    const archives::Data dieci{std::min(ultima.giorno, archives::GiorniNelMese(ultima.mese, anno)), ultima.mese, anno};
+    const archives::Data minima = *archives::Data::daTesto(DataMinimaPredefinita);
     return (minima > dieci ? minima : dieci).testo();
 }
 
-RicercaValidata ValidaRicerca(const ParametriRicerca& p, const StoriaLotto& storia) {
+RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaLotto& storia) {
     if (!ParametriPossibili(p)) return Rifiuto("Parametri di ricerca non validi !");
 
     const bool ambo = p.tipoSpia == TipoSpia::Ambo;
@@ -104,7 +104,7 @@ RicercaValidata ValidaRicerca(const ParametriRicerca& p, const StoriaLotto& stor
     // 4. The period, its dates turned into draws; a refused date brings its own message.
     RicercaValidata r;
     if (p.perData == 0) {
-        const RisultatoData da = ControllaData(p.dataDa.empty() ? DataDaPredefinita(storia) : p.dataDa, storia, false);
+        const archives::RisultatoData da = archives::ControllaData(p.dataDa.empty() ? DataDaPredefinita(storia) : p.dataDa, storia, false);
         if (da.ErroreData) {
             RicercaValidata e;
             e.errore = da.messaggio;
@@ -114,7 +114,7 @@ RicercaValidata ValidaRicerca(const ParametriRicerca& p, const StoriaLotto& stor
     } else {
         r.primo = 1;
     }
-    const RisultatoData a = ControllaData(p.dataA.empty() ? DataAPredefinita(storia) : p.dataA, storia, true);
+    const archives::RisultatoData a = archives::ControllaData(p.dataA.empty() ? DataAPredefinita(storia) : p.dataA, storia, true);
     if (a.ErroreData) {
         RicercaValidata e;
         e.errore = a.messaggio;

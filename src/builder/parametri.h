@@ -39,8 +39,8 @@ struct ParametriRicerca {
 
 // The screen's default period: DataA the last draw; DataDa ten years before, or 04/01/1947
 // when that is later.
-std::string DataDaPredefinita(const StoriaLotto& storia);
-std::string DataAPredefinita(const StoriaLotto& storia);
+std::string DataDaPredefinita(const archives::StoriaLotto& storia);
+std::string DataAPredefinita(const archives::StoriaLotto& storia);
 
 // The wheel boxes (index 0 the ten regional wheels) as flags of wheels 1..11: the flags one by
 // one, then box 0 sets 1..10. The count is 10 or 11 with box 0, else the flags set.
@@ -54,7 +54,7 @@ std::string DescrizioneSpia(TipoSpia tipo, ModoSpia modo, int indiceMese, int va
 
 // What validation makes of the parameters: the failure to show, or the ready values.
 struct RicercaValidata {
-    Messaggio errore;   // empty when valid
+    archives::Messaggio errore;   // empty when valid
     std::string focus;  // control to focus on a failure ("txtColpi", "cboNumero", ...)
     int32_t primo = 1, ultimo = 0;  // the period as progressive indices (ultimo lowered without ControllaUltime)
     int32_t ultimoPeriodo = 0;      // DataA's draw, before the lowering
@@ -66,6 +66,6 @@ struct RicercaValidata {
     std::string descrizione;            // "Sortite del numero 27 sulle ruote ... : " (count follows);
                                         // empty with all values, where the search writes none
 };
-RicercaValidata ValidaRicerca(const ParametriRicerca& p, const StoriaLotto& storia);
+RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaLotto& storia);
 
 }  // namespace gorgo::builder

@@ -10,9 +10,9 @@ namespace {
 std::string Ruote(const std::array<bool, 12>& r) {
     if (r[0]) return r[11] ? "Tutte + NZ" : "Tutte";
     std::string s;
-    for (int w = 1; w <= NumeroRuote; ++w)
+    for (int w = 1; w <= archives::NumeroRuote; ++w)
         if (r[static_cast<size_t>(w)]) {
-            std::string_view nome = NomiRuota[static_cast<size_t>(w)];
+            std::string_view nome = archives::NomiRuota[static_cast<size_t>(w)];
             s += std::string(nome.substr(0, nome.find_last_not_of(' ') + 1)) + " ";
         }
     return s;
@@ -53,7 +53,7 @@ std::string_view NomeTipoRicerca(TipoRicerca tipo, TipoSpia spia) {
     return kTipi[static_cast<int>(tipo)];
 }
 
-config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const StoriaLotto& storia) {
+config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const archives::StoriaLotto& storia) {
     const RicercaValidata v = ValidaRicerca(p, storia);
     config::ReportTesto r;
     r.titolo();
@@ -78,7 +78,7 @@ config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const Sto
     return r;
 }
 
-config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito, const StoriaLotto& storia) {
+config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito, const archives::StoriaLotto& storia) {
     config::ReportTesto r = IntestazioneCostruttore(p, storia);
     const std::string_view testa = TestaColonnaSpia(p.tipoSpia);
     for (const RigaAlgoritmo& riga : esito.righe)
@@ -110,7 +110,7 @@ config::Tabella TabellaPrevisioni(const std::string& titolo, bool stampa) {
                 (stampa ? " I.C.  |" : "  I.C. |")};
 }
 
-config::ReportTesto Previsioni(const ParametriRicerca& p, const EsitoPrevisioni& e, const StoriaLotto& storia,
+config::ReportTesto Previsioni(const ParametriRicerca& p, const EsitoPrevisioni& e, const archives::StoriaLotto& storia,
                                bool stampa) {
     config::ReportTesto r = IntestazioneCostruttore(p, storia);
     r.apriTabella(TabellaPrevisioni(e.titolo, stampa));
@@ -127,7 +127,7 @@ config::ReportTesto Previsioni(const ParametriRicerca& p, const EsitoPrevisioni&
 }  // namespace
 
 config::ReportTesto StampaVerificaRighe(const ParametriRicerca& p, const EsitoVerifica& v, std::string_view,
-                                        const StoriaLotto& storia) {
+                                        const archives::StoriaLotto& storia) {
     config::ReportTesto r = IntestazioneCostruttore(p, storia);
     r.apriTabella(TabellaVerifica(p.tipoSpia));
     static constexpr std::array<std::pair<size_t, int>, 10> kColonne = {
@@ -141,7 +141,7 @@ config::ReportTesto StampaVerificaRighe(const ParametriRicerca& p, const EsitoVe
 }
 
 config::ReportTesto ReportVerifica(const ParametriRicerca& p, const EsitoVerifica& v, std::string_view descrizione,
-                                   const StoriaLotto& storia) {
+                                   const archives::StoriaLotto& storia) {
     config::ReportTesto r = IntestazioneCostruttore(p, storia);
     r.riga(std::string(descrizione));
     const std::string_view testa = TestaColonnaSpia(p.tipoSpia);
@@ -163,11 +163,11 @@ config::ReportTesto ReportRiepilogo(const EsitoRiepilogo& e) {
 }
 
 config::ReportTesto StampaPrevisioniRighe(const ParametriRicerca& p, const EsitoPrevisioni& e,
-                                          const StoriaLotto& storia) {
+                                          const archives::StoriaLotto& storia) {
     return Previsioni(p, e, storia, true);
 }
 
-config::ReportTesto ReportPrevisioni(const ParametriRicerca& p, const EsitoPrevisioni& e, const StoriaLotto& storia) {
+config::ReportTesto ReportPrevisioni(const ParametriRicerca& p, const EsitoPrevisioni& e, const archives::StoriaLotto& storia) {
     return Previsioni(p, e, storia, false);
 }
 

@@ -18,10 +18,10 @@ std::string_view TestaColonnaSpia(TipoSpia tipo);
 std::string_view NomeTipoRicerca(TipoRicerca tipo, TipoSpia spia);
 
 // Title, blank line, the parameter lines of the search, blank line.
-config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const StoriaLotto& storia);
+config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const archives::StoriaLotto& storia);
 
 // The header, then one line a row: "Algoritmo: ..., Sort.: ..., Pres./quantità: ...".
-config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito, const StoriaLotto& storia);
+config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito, const archives::StoriaLotto& storia);
 
 // ---- verification, recap, forecasts, list of cases ----
 
@@ -34,10 +34,10 @@ inline constexpr std::string_view TitoloListaSortite = "Dettaglio delle sortite"
 
 // The printed verification: the header, then the boxed table of lvListaPrevisioni.
 config::ReportTesto StampaVerificaRighe(const ParametriRicerca& p, const EsitoVerifica& verifica,
-                                        std::string_view descrizione, const StoriaLotto& storia);
+                                        std::string_view descrizione, const archives::StoriaLotto& storia);
 // The file form: the header, the description, then one line a row: "Data spia: ..., R.: ...".
 config::ReportTesto ReportVerifica(const ParametriRicerca& p, const EsitoVerifica& verifica,
-                                   std::string_view descrizione, const StoriaLotto& storia);
+                                   std::string_view descrizione, const archives::StoriaLotto& storia);
 
 // The lines of lstReport, head then figures, for the printer and the file alike.
 config::ReportTesto ReportRiepilogo(const EsitoRiepilogo& riepilogo);
@@ -45,9 +45,9 @@ config::ReportTesto ReportRiepilogo(const EsitoRiepilogo& riepilogo);
 // The forecasts of frmAlgoritmiCalcolati: the header, then the table under the window's title.
 // The printed form heads the last cell "| I.C.  |", the file form "|  I.C. |".
 config::ReportTesto StampaPrevisioniRighe(const ParametriRicerca& p, const EsitoPrevisioni& previsioni,
-                                          const StoriaLotto& storia);
+                                          const archives::StoriaLotto& storia);
 config::ReportTesto ReportPrevisioni(const ParametriRicerca& p, const EsitoPrevisioni& previsioni,
-                                     const StoriaLotto& storia);
+                                     const archives::StoriaLotto& storia);
 
 // frmListaSortite: its description line " Dettaglio delle N sortite", and its seven columns,
 // those of lstVListaUscite in order.

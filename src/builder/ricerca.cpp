@@ -61,12 +61,12 @@ bool PosizioneSpia(const Preparata& r, int posizione) {
 
 std::vector<Caso> TrovaCasi(const Preparata& r, const Spia& spia) {
     const ParametriRicerca& p = *r.p;
-    const StoriaLotto& s = *r.storia;
+    const archives::StoriaLotto& s = *r.storia;
     std::vector<Caso> casi;
     for (int32_t i = r.v.ultimo; i >= r.v.primo; --i) {
         if (!r.ammessa[static_cast<size_t>(i)]) continue;
         if (p.perData == 1 && static_cast<int>(casi.size()) >= p.sortiteDaCercare) break;
-        const RecordEstrazione& e = s[i];
+        const archives::RecordEstrazione& e = s[i];
         for (int w : r.ruoteRicerca) {
             int pos = 0, pos2 = 0;
             if (!CondizioneSpia(r, spia, e.Ruota[w - 1], pos, pos2)) continue;
@@ -137,7 +137,7 @@ using namespace interno;
 namespace {
 
 CasoSpia TestiCaso(const Preparata& r, const Spia& spia, const Caso& c) {
-    const StoriaLotto& s = *r.storia;
+    const archives::StoriaLotto& s = *r.storia;
     const ParametriRicerca& p = *r.p;
     CasoSpia cs;
     cs.indice = c.indice;
@@ -146,7 +146,7 @@ CasoSpia TestiCaso(const Preparata& r, const Spia& spia, const Caso& c) {
     cs.spia2 = spia.valore2;
     cs.posizione = c.posizione;
     cs.data = s.DataEstrazione(c.indice);
-    cs.nomeRuota = std::string(NomiRuota[static_cast<size_t>(c.ruota)]);
+    cs.nomeRuota = std::string(archives::NomiRuota[static_cast<size_t>(c.ruota)]);
     cs.testoSpia = TestoSpia(r, spia);
     if (p.modoSpia == ModoSpia::SoloIndiceMensile)
         cs.testoPosizione = std::string(2, '-');
@@ -191,17 +191,17 @@ Preparata Prepara(const ParametriRicerca& p, const ContestoRicerca& ctx, const A
     r.testoPosizioni = r.v.testoPosizioni;
     r.tuttiIValori = p.modoSpia != ModoSpia::SoloIndiceMensile &&
                      (p.tipoSpia == TipoSpia::Ambo ? p.tuttiGliAmbi : p.modoSpia == ModoSpia::Tutti);
-    for (int w = 1; w <= NumeroRuote; ++w) {
+    for (int w = 1; w <= archives::NumeroRuote; ++w) {
         if (r.v.ruoteRicerca[static_cast<size_t>(w)]) r.ruoteRicerca.push_back(w);
         if (r.v.ruoteGioco[static_cast<size_t>(w)]) r.ruoteGioco.push_back(w);
     }
-    const StoriaLotto& s = *ctx.storia;
+    const archives::StoriaLotto& s = *ctx.storia;
     const config::Restrizioni& re = ctx.restrizioni;
     const bool restrizioniGiorno = re.Giorno || re.Mese || re.Periodo;
     const IndiciMensili& im = *ctx.indiciMensili;
     r.ammessa.assign(static_cast<size_t>(s.NumeroEstrazioni()) + 1, 0);
     for (int32_t i = 1; i <= s.NumeroEstrazioni(); ++i) {
-        const RecordEstrazione& e = s[i];
+        const archives::RecordEstrazione& e = s[i];
         const bool giorno = !restrizioniGiorno || config::EstrazioneAmmessa(re, e.dataCifre(), e.GiornoSettimana);
         const size_t k = static_cast<size_t>(i);
         const bool mese = p.indiceMese == 22 || (p.indiceMese == 0 ? bool(im.ultimo[k]) : im.indice[k] == p.indiceMese);

@@ -18,7 +18,7 @@ namespace gorgo::builder {
 
 // What a search reads besides its parameters, prepared once when the screen opens.
 struct ContestoRicerca {
-    const StoriaLotto* storia = nullptr;
+    const archives::StoriaLotto* storia = nullptr;
     config::Restrizioni restrizioni;          // GiornoValido comes from the day restrictions
     const IndiciMensili* indiciMensili = nullptr;
     const TerzineRidotte* terzine = nullptr;  // null or empty: codes unavailable
@@ -58,7 +58,7 @@ struct Avanzamento {
 };
 
 struct EsitoRicerca {
-    Messaggio errore;         // validation failure: nothing was run
+    archives::Messaggio errore;         // validation failure: nothing was run
     std::string focus;
     std::string descrizione;  // the description of the search (without the count)
     std::vector<CasoSpia> casi;         // newest first

@@ -23,7 +23,7 @@ struct Caso {
     int posizione = 0;   // position of the spy (first number of an ambo); 0 when not by position
     int posizione2 = 0;  // ambo: position of the second number
     int32_t fineFinestra = 0;  // last draw of the window; below indice + 1 when empty
-    const RecordEstrazione* estrazione = nullptr;
+    const archives::RecordEstrazione* estrazione = nullptr;
     uint8_t numero(int cella) const { return estrazione->Ruota[(cella - 1) / 5][(cella - 1) % 5]; }
 };
 
@@ -31,7 +31,7 @@ struct Caso {
 struct Preparata {
     const ParametriRicerca* p = nullptr;
     const ContestoRicerca* contesto = nullptr;
-    const StoriaLotto* storia = nullptr;
+    const archives::StoriaLotto* storia = nullptr;
     RicercaValidata v;
     std::vector<uint8_t> ammessa;  // by index: GiornoValido and the month test
     std::vector<int> ruoteRicerca, ruoteGioco;
@@ -94,7 +94,7 @@ namespace gorgo::builder::interno {
 
 // The five numbers of a wheel in a draw, when all five are there (a zero skips the wheel
 // in the pair and triple windows); sorted ascending on request.
-bool CinquinaPiena(const RecordEstrazione& e, int ruota, std::array<int, 5>& n, bool ordina);
+bool CinquinaPiena(const archives::RecordEstrazione& e, int ruota, std::array<int, 5>& n, bool ordina);
 
 // The pair window of the Ambi and Terzine bodies: Q of every pair {a, b}, index a + b * 91
 // with a below b, from the wheels whose five numbers are all present.

@@ -30,7 +30,7 @@ constexpr int MassimoTerzine = 9999;
 
 EsitoTerzine NonValido() {
     EsitoTerzine r;
-    r.messaggio = {" File terzine non valido!", "", Icona::Esclamazione};
+    r.messaggio = {" File terzine non valido!", "", archives::Icona::Esclamazione};
     return r;
 }
 
@@ -38,16 +38,16 @@ EsitoTerzine NonValido() {
 
 EsitoTerzine CaricaTerzine(const std::string& percorso) {
     EsitoTerzine esito;
-    if (!EsisteFile(percorso)) {
+    if (!archives::EsisteFile(percorso)) {
         esito.fileMancante = true;
-        esito.messaggio = {"File terzine ridotte non trovato: " + percorso, "", Icona::Esclamazione};
+        esito.messaggio = {"File terzine ridotte non trovato: " + percorso, "", archives::Icona::Esclamazione};
         return esito;
     }
     std::ifstream in(percorso, std::ios::binary);
     std::stringstream buffer;
     buffer << in.rdbuf();
     if (!in) {
-        esito.messaggio = {"Impossibile leggere il file terzine ridotte: " + percorso, "", Icona::Esclamazione};
+        esito.messaggio = {"Impossibile leggere il file terzine ridotte: " + percorso, "", archives::Icona::Esclamazione};
         return esito;
     }
     const std::string testo = buffer.str();
@@ -75,7 +75,7 @@ EsitoTerzine CaricaTerzine(const std::string& percorso) {
     esito.terzine = std::move(t);
     esito.valido = esito.terzine.disponibili();
     if (esito.terzine.quante() != NumeroTerzineAttese)
-        esito.messaggio = {std::to_string(esito.terzine.quante()) + " terzine caricate!\"", "", Icona::Informazione};
+        esito.messaggio = {std::to_string(esito.terzine.quante()) + " terzine caricate!\"", "", archives::Icona::Informazione};
     return esito;
 }
 

@@ -48,7 +48,7 @@ std::string Tronca(std::string_view t) {
 struct Preparazione {
     const ParametriRicerca* p = nullptr;
     const ContestoRicerca* ctx = nullptr;
-    const StoriaLotto* s = nullptr;
+    const archives::StoriaLotto* s = nullptr;
     RicercaValidata v;
     std::vector<uint8_t> ammessa;  // by index: GiornoValido and the month test
     std::vector<int> ruoteRicerca, ruoteGioco;
@@ -71,11 +71,11 @@ Preparazione Prepara(const ParametriRicerca& p, const ContestoRicerca& ctx) {
         case TipoRicerca::TerzineTerno: r.soglia = 3; break;
         case TipoRicerca::Codici: r.soglia = p.sorte; break;
     }
-    for (int w = 1; w <= NumeroRuote; ++w) {
+    for (int w = 1; w <= archives::NumeroRuote; ++w) {
         if (r.v.ruoteRicerca[static_cast<size_t>(w)]) r.ruoteRicerca.push_back(w);
         if (r.v.ruoteGioco[static_cast<size_t>(w)]) r.ruoteGioco.push_back(w);
     }
-    const StoriaLotto& s = *ctx.storia;
+    const archives::StoriaLotto& s = *ctx.storia;
     const config::Restrizioni& re = ctx.restrizioni;
     const bool giorni = re.Giorno || re.Mese || re.Periodo;
     const IndiciMensili* im = ctx.indiciMensili;
@@ -161,8 +161,8 @@ std::string TestoPrevisione(const std::vector<int>& numeri) {
     return t;
 }
 
-Messaggio Avviso(std::string_view testo, std::string_view titolo = {}) {
-    return {std::string(testo), std::string(titolo), Icona::Esclamazione};
+archives::Messaggio Avviso(std::string_view testo, std::string_view titolo = {}) {
+    return {std::string(testo), std::string(titolo), archives::Icona::Esclamazione};
 }
 
 EsitoVerifica Verifica(const Preparazione& r, std::string_view descrizione, std::string_view chiave,
@@ -178,7 +178,7 @@ EsitoVerifica Verifica(const Preparazione& r, std::string_view descrizione, std:
         e.errore = r.v.errore;
         return e;
     }
-    const StoriaLotto& s = *r.s;
+    const archives::StoriaLotto& s = *r.s;
     const int32_t n = s.NumeroEstrazioni();
     e.ultimo = r.v.ultimoPeriodo;
 
@@ -201,7 +201,7 @@ EsitoVerifica Verifica(const Preparazione& r, std::string_view descrizione, std:
     for (int32_t i = r.v.ultimo; i >= r.v.primo; --i) {
         if (!r.ammessa[static_cast<size_t>(i)]) continue;
         if (p.perData == 1 && e.casi >= p.sortiteDaCercare) break;
-        const RecordEstrazione& caso = s[i];
+        const archives::RecordEstrazione& caso = s[i];
         int ruota = 0, pos = 0, pos2 = 0;
         for (int w : r.ruoteRicerca)
             if (SpiaPresente(r, caso.Ruota[w - 1], posizioni, spia, pos, pos2)) {
@@ -226,7 +226,7 @@ EsitoVerifica Verifica(const Preparazione& r, std::string_view descrizione, std:
             base.previsione = previsione.numeri;
             auto& c = base.colonne;
             c[0] = s.DataEstrazione(i);
-            c[1] = std::string(NomiRuota[static_cast<size_t>(ruota)]);
+            c[1] = std::string(archives::NomiRuota[static_cast<size_t>(ruota)]);
             if (r.soloIndice) {
                 c[2] = "--";
                 c[3] = "--";
@@ -261,7 +261,7 @@ EsitoVerifica Verifica(const Preparazione& r, std::string_view descrizione, std:
                 v.ruotaEsito = w;
                 v.colpo = j - i;
                 v.colonne[8] = s.DataEstrazione(j);
-                v.colonne[9] = std::string(NomiRuota[static_cast<size_t>(w)]);
+                v.colonne[9] = std::string(archives::NomiRuota[static_cast<size_t>(w)]);
                 v.colonne[10] = fmt::format("{:>2}", v.colpo);
                 v.colonne[12] = fmt::format("{:>5}", j);
                 v.chiave = std::string(descrizione);
@@ -400,10 +400,10 @@ namespace {
 std::string Ruote(const std::array<bool, 12>& caselle) {
     if (caselle[0]) return caselle[11] ? " Tutte + NZ" : " Tutte";
     std::string t;
-    for (int w = 1; w <= NumeroRuote; ++w)
+    for (int w = 1; w <= archives::NumeroRuote; ++w)
         if (caselle[static_cast<size_t>(w)]) {
             t += ' ';
-            t += Tronca(NomiRuota[static_cast<size_t>(w)]);
+            t += Tronca(archives::NomiRuota[static_cast<size_t>(w)]);
         }
     return t;
 }
@@ -433,7 +433,7 @@ EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& p, const ContestoRicerca
         e.errore = Avviso(ColpiMancanti);
         return e;
     }
-    const StoriaLotto& s = *contesto.storia;
+    const archives::StoriaLotto& s = *contesto.storia;
     const RicercaValidata v = ValidaRicerca(p, s);
     if (!v.errore.vuoto()) {
         e.errore = v.errore;
@@ -531,7 +531,7 @@ EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& p, const ContestoRicerca
 
 // ---------------------------------------------------------------- statistics
 
-StatisticheGioco StatisticheRuoteGioco(const StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco,
+StatisticheGioco StatisticheRuoteGioco(const archives::StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco,
                                        int32_t primoPeriodo) {
     StatisticheGioco st;
     const int32_t n = storia.NumeroEstrazioni();
@@ -542,7 +542,7 @@ StatisticheGioco StatisticheRuoteGioco(const StoriaLotto& storia, const std::arr
     st.ritardoMax2.assign(coppie, 0);
     st.ultimaUscita2.assign(coppie, 0);
     std::vector<int> ruote;
-    for (int w = 1; w <= NumeroRuote; ++w)
+    for (int w = 1; w <= archives::NumeroRuote; ++w)
         if (ruoteGioco[static_cast<size_t>(w)]) ruote.push_back(w);
     const auto segna = [&](int32_t i, bool periodo, int32_t& freq, int32_t& rmax, int32_t& ultima) {
         if (periodo) ++freq;
@@ -555,7 +555,7 @@ StatisticheGioco StatisticheRuoteGioco(const StoriaLotto& storia, const std::arr
     for (int32_t i = PrimaEstrazioneStatistiche; i <= n; ++i) {
         const bool periodo = i >= primoPeriodo;
         if (periodo) ++st.estrazioni;
-        const RecordEstrazione& e = storia[i];
+        const archives::RecordEstrazione& e = storia[i];
         for (int w : ruote) {
             const uint8_t* x = e.Ruota[w - 1];
             for (int p = 0; p < 5; ++p)

@@ -51,7 +51,7 @@ struct RigaVerifica {
 };
 
 struct EsitoVerifica {
-    Messaggio errore;  // AlgoritmoMancante, a validation failure, or the key's own fault
+    archives::Messaggio errore;  // AlgoritmoMancante, a validation failure, or the key's own fault
     int inCorso = 0;
     int casi = 0;
     std::vector<RigaVerifica> righe;  // visible mode only; ascending on column 12
@@ -93,7 +93,7 @@ struct FigureRiepilogo {
 };
 
 struct EsitoRiepilogo {
-    Messaggio errore;                // ColpiMancanti
+    archives::Messaggio errore;                // ColpiMancanti
     FigureRiepilogo figure;
     std::vector<std::string> testa;  // the head block of frmReportGorgo
     std::vector<std::string> righe;  // " Casi rilevati   : " ... " Attesa media    : "
@@ -124,7 +124,7 @@ struct StatisticheGioco {
 
 // From PrimaEstrazioneStatistiche to the archive's end; `ruoteGioco` flags wheels 1..11
 // (index 0 unused); `primoPeriodo` the first draw of the period.
-StatisticheGioco StatisticheRuoteGioco(const StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco,
+StatisticheGioco StatisticheRuoteGioco(const archives::StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco,
                                        int32_t primoPeriodo);
 
 // ---- forecasts ----
@@ -139,7 +139,7 @@ struct RigaPrevisione {
 };
 
 struct EsitoPrevisioni {
-    Messaggio errore;    // NessunAlgoritmoSelezionato under TitoloErrore
+    archives::Messaggio errore;    // NessunAlgoritmoSelezionato under TitoloErrore
     std::string titolo;  // "Calcolo previsioni degli algoritmi selezionati: " + the kind
     std::vector<RigaPrevisione> righe;
     bool aperta = false;  // frmAlgoritmiCalcolati opened (at least one checked row)

@@ -36,18 +36,18 @@ int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view 
     return indice;
 }
 
-int32_t IndiceDaData(const RisultatoData& r) {
+int32_t IndiceDaData(const archives::RisultatoData& r) {
     if (r.ErroreData) throw Rifiuto{r.messaggio};
     return r.IndiceTrovato;
 }
 
 void Info(const Contesto& ctx) {
-    const Archivio a = ctx.ApriArchivi();
-    const RecordEstrazione ultima = a.LeggiEstrazione(a.NumeroEstrazioni());
-    const RecordSuperEnalotto ultimaSuper = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
+    const archives::Archivio a = ctx.ApriArchivi();
+    const archives::RecordEstrazione ultima = a.LeggiEstrazione(a.NumeroEstrazioni());
+    const archives::RecordSuperEnalotto ultimaSuper = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
     const std::string lotto = TestoUltima(ultima.NumeroAnno, ultima.dataTesto());
     const std::string super = TestoUltima(ultimaSuper.NumeroAnno, ultimaSuper.dataTesto());
-    const bool demo = CartellaDemo(a.PercorsoProgramma());
+    const bool demo = archives::CartellaDemo(a.PercorsoProgramma());
     const auto restrizioni = RigheRestrizioni(ctx.FileImpostazioni());
     if (ctx.json) {
         StampaJson({{"cartella", a.PercorsoProgramma().string()},
@@ -67,19 +67,19 @@ void Info(const Contesto& ctx) {
               << "SuperEnalotto\n"
               << "  Ultima estrazione memorizzata : " << super << "\n"
               << "  Estrazioni in archivio        : " << a.NumeroEstrazioniSuper() << " (dal "
-              << a.DataEstrazione(1, ArchivioSuper) << ")\n\n"
+              << a.DataEstrazione(1, archives::ArchivioSuper) << ")\n\n"
               << "Restrizioni attive in ricerche statistiche:\n";
     for (const auto& r : restrizioni) std::cout << "  " << r << "\n";
 }
 
 void MostraEstrazione(const Contesto& ctx, const std::string& argomento) {
-    const Archivio a = ctx.ApriArchivi();
-    const int32_t indice = SembraData(argomento) ? IndiceDaData(ControllaData(argomento, a, false))
+    const archives::Archivio a = ctx.ApriArchivi();
+    const int32_t indice = SembraData(argomento) ? IndiceDaData(archives::ControllaData(argomento, a, false))
                                                  : LeggiIndice(argomento, a.NumeroEstrazioni(), "del Lotto");
-    const RecordEstrazione r = a.LeggiEstrazione(indice);
+    const archives::RecordEstrazione r = a.LeggiEstrazione(indice);
     if (ctx.json) {
         nlohmann::json ruote = nlohmann::json::array();
-        for (int w = 1; w <= NumeroRuote; ++w) {
+        for (int w = 1; w <= archives::NumeroRuote; ++w) {
             nlohmann::json cinquina = nlohmann::json::array();
             for (int p = 1; p <= 5; ++p) cinquina.push_back(r.Numero(w, p));
             ruote.push_back(cinquina);
@@ -92,17 +92,17 @@ void MostraEstrazione(const Contesto& ctx, const std::string& argomento) {
         return;
     }
     std::cout << fmt::format("Estrazione n.{} del {} {} (progressivo assoluto dal 1871: {})\n", r.NumeroAnno,
-                             NomeGiorno(r.giornoSettimana()), r.dataTesto(), indice);
-    for (int w = 1; w <= NumeroRuote; ++w) {
-        std::cout << NomiRuota[static_cast<size_t>(w)];
+                             archives::NomeGiorno(r.giornoSettimana()), r.dataTesto(), indice);
+    for (int w = 1; w <= archives::NumeroRuote; ++w) {
+        std::cout << archives::NomiRuota[static_cast<size_t>(w)];
         for (int p = 1; p <= 5; ++p) std::cout << ' ' << NumeroODash(r.Numero(w, p));
         std::cout << '\n';
     }
 }
 
 void CercaData(const Contesto& ctx, const std::string& testo, bool precedente, bool super) {
-    const Archivio a = ctx.ApriArchivi();
-    const RisultatoData r = super ? ControllaDataSuper(testo, a, precedente) : ControllaData(testo, a, precedente);
+    const archives::Archivio a = ctx.ApriArchivi();
+    const archives::RisultatoData r = super ? archives::ControllaDataSuper(testo, a, precedente) : archives::ControllaData(testo, a, precedente);
     if (r.ErroreData) throw Rifiuto{r.messaggio};
     if (ctx.json) {
         StampaJson({{"indice", r.IndiceTrovato}, {"data", r.DataTrovata}});
@@ -112,11 +112,11 @@ void CercaData(const Contesto& ctx, const std::string& testo, bool precedente, b
 }
 
 void Dieci(const Contesto& ctx, const std::string& argomento) {
-    const Archivio a = ctx.ApriArchivi();
-    const int32_t indice = SembraData(argomento) ? IndiceDaData(ControllaData(argomento, a, false))
+    const archives::Archivio a = ctx.ApriArchivi();
+    const int32_t indice = SembraData(argomento) ? IndiceDaData(archives::ControllaData(argomento, a, false))
                                                  : LeggiIndice(argomento, a.NumeroEstrazioni(), "del Lotto");
-    const RecordEstrazione rec = a.LeggiEstrazione(indice);
-    const Risultato10eLotto r = Estrazione10eLotto(rec);
+    const archives::RecordEstrazione rec = a.LeggiEstrazione(indice);
+    const archives::Risultato10eLotto r = archives::Estrazione10eLotto(rec);
     if (ctx.json) {
         nlohmann::json numeri = nlohmann::json::array();
         if (r.esito >= 0)
@@ -135,11 +135,11 @@ void Dieci(const Contesto& ctx, const std::string& argomento) {
 }
 
 void Super(const Contesto& ctx, const std::string& argomento) {
-    const Archivio a = ctx.ApriArchivi();
+    const archives::Archivio a = ctx.ApriArchivi();
     const int32_t indice = SembraData(argomento)
-                               ? IndiceDaData(ControllaDataSuper(argomento, a, false))
+                               ? IndiceDaData(archives::ControllaDataSuper(argomento, a, false))
                                : LeggiIndice(argomento, a.NumeroEstrazioniSuper(), "del SuperEnalotto");
-    const EstrazioneSuper e = LeggiEstrazioneSuper(a, indice);
+    const archives::EstrazioneSuper e = archives::LeggiEstrazioneSuper(a, indice);
     if (ctx.json) {
         nlohmann::json sei = nlohmann::json::array();
         for (int i = 0; i < 6; ++i) sei.push_back(e.numeri[static_cast<size_t>(i)]);
@@ -154,17 +154,17 @@ void Super(const Contesto& ctx, const std::string& argomento) {
     }
     std::cout << fmt::format("SuperEnalotto n.{} del {} (progressivo {}):", e.numeroAnno, e.data, indice);
     for (int i = 0; i < 6; ++i) std::cout << ' ' << NumeroODash(e.numeri[static_cast<size_t>(i)]);
-    if (e.esito == SuperConJolly || e.esito == SuperConJollySuperStar)
+    if (e.esito == archives::SuperConJolly || e.esito == archives::SuperConJollySuperStar)
         std::cout << "  Jolly " << fmt::format("{:02}", e.numeri[6]);
-    if (e.esito == SuperConSuperStar || e.esito == SuperConJollySuperStar)
+    if (e.esito == archives::SuperConSuperStar || e.esito == archives::SuperConJollySuperStar)
         std::cout << "  SuperStar " << fmt::format("{:02}", e.numeri[7]);
-    if (e.esito == SuperIncompleta) std::cout << "  (estrazione incompleta)";
+    if (e.esito == archives::SuperIncompleta) std::cout << "  (estrazione incompleta)";
     std::cout << '\n';
 }
 
 void Demo(const Contesto& ctx, const std::string& cartella) {
-    if (Messaggio m = CreaCartellaDemo(cartella); !m.vuoto()) throw Rifiuto{m};
-    const Archivio a = Archivio::Apri(cartella);
+    if (archives::Messaggio m = archives::CreaCartellaDemo(cartella); !m.vuoto()) throw Rifiuto{m};
+    const archives::Archivio a = archives::Archivio::Apri(cartella);
     if (ctx.json) {
         StampaJson({{"cartella", a.PercorsoProgramma().string()},
                     {"estrazioni", a.NumeroEstrazioni()},

@@ -22,14 +22,14 @@ struct ArgomentiCostruttore {
 };
 
 void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
-    const Archivio archivio = ctx.ApriArchivi();
+    const archives::Archivio archivio = ctx.ApriArchivi();
     const config::FileIni ini(ctx.FileImpostazioni().string());
     const builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
     const builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
     // The file is settled before the search, so that a refusal costs nothing.
     if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
         throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
-                       "Conferma", Icona::Domanda}};
+                       "Conferma", archives::Icona::Domanda}};
     const builder::EsitoRicerca e = builder::CercaAlgoritmi(p, cc.Contesto(), {}, a.seleziona);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
 
@@ -41,7 +41,7 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
         const auto modo = a.accoda ? config::ModoScrittura::Accoda
                           : a.sovrascrivi ? config::ModoScrittura::Sovrascrivi
                                           : config::ModoScrittura::Nuovo;
-        if (Messaggio m = config::ScriviReportSuFile(a.report, builder::ReportAlgoritmi(p, e, *cc.storia), modo);
+        if (archives::Messaggio m = config::ScriviReportSuFile(a.report, builder::ReportAlgoritmi(p, e, *cc.storia), modo);
             !m.vuoto())
             throw Rifiuto{m, ErroreInterno};
         if (!ctx.json) {

@@ -36,7 +36,7 @@ void Impostazione(const Contesto& ctx, const ArgomentiImpostazione& a) {
     if (!voce)
         throw Rifiuto{config::ControllaValoreImpostazione(a.sezione, a.chiave, "")};
     if (a.valore) {
-        if (Messaggio m = config::ControllaValoreImpostazione(voce->sezione, voce->chiave, *a.valore); !m.vuoto())
+        if (archives::Messaggio m = config::ControllaValoreImpostazione(voce->sezione, voce->chiave, *a.valore); !m.vuoto())
             throw Rifiuto{m};
         if (!config::ScriviImpostazione(ini, voce->sezione, voce->chiave, *a.valore))
             throw Rifiuta(fmt::format("Impossibile scrivere il file {}", ini.FileName()), ErroreInterno);
@@ -44,7 +44,7 @@ void Impostazione(const Contesto& ctx, const ArgomentiImpostazione& a) {
     // FineRicerca defaults to the archive's length: read it only when it is needed.
     int32_t numero = 0;
     if (voce->tipo == config::TipoPredefinito::NumeroEstrazioni)
-        numero = Archivio::Apri(ctx.PercorsoProgramma()).NumeroEstrazioni();
+        numero = archives::Archivio::Apri(ctx.PercorsoProgramma()).NumeroEstrazioni();
     const std::string predefinito = config::Predefinito(voce->sezione, voce->chiave, numero);
     const std::string valore = config::LeggiImpostazione(ini, voce->sezione, voce->chiave, predefinito);
     if (ctx.json) {

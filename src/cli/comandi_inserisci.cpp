@@ -14,7 +14,7 @@ namespace gorgo::cli {
 
 namespace {
 
-using namespace gorgo::manutenzione;
+using namespace gorgo::maintenance;
 
 struct ArgomentiInserisci {
     std::string testo, data;
@@ -22,7 +22,7 @@ struct ArgomentiInserisci {
 };
 
 // The index of the stored draw of that date, or 0.
-int32_t IndiceDellaData(const Archivio& a, const Data& d, bool super) {
+int32_t IndiceDellaData(const archives::Archivio& a, const archives::Data& d, bool super) {
     if (!super) {
         const auto r = a.CercaIndice(d, false);
         return r && r->IndiceTrovato >= 1 && r->DataTrovata == d.testo() ? r->IndiceTrovato : 0;
@@ -47,8 +47,8 @@ void StampaEstrazione(const Inserimento& ins) {
                                  ValoreCasella(ins.Casella(8)));
         return;
     }
-    for (int w = 1; w <= NumeroRuote; ++w) {
-        std::cout << NomiRuota[static_cast<size_t>(w)];
+    for (int w = 1; w <= archives::NumeroRuote; ++w) {
+        std::cout << archives::NomiRuota[static_cast<size_t>(w)];
         for (int p = 1; p <= 5; ++p) std::cout << fmt::format(" {:02}", ValoreCasella(ins.Casella((w - 1) * 5 + p)));
         std::cout << '\n';
     }
@@ -57,18 +57,18 @@ void StampaEstrazione(const Inserimento& ins) {
 void Inserisci(const Contesto& ctx, const ArgomentiInserisci& arg) {
     // The checks of presence and integrity first, then the files opened for writing.
     ctx.ApriArchivi();
-    Archivio a = Archivio::Apri(ctx.PercorsoProgramma(), ModoApertura::Scrittura);
+    archives::Archivio a = archives::Archivio::Apri(ctx.PercorsoProgramma(), archives::ModoApertura::Scrittura);
     const auto gioco = arg.super ? GiocoInserimento::SuperEnalotto : GiocoInserimento::Lotto;
     Inserimento ins(a, gioco);
     const int32_t totale = ins.TotaleEstrazioni();
     if (totale < 1) throw Rifiuta("L'archivio non contiene estrazioni: importarlo prima di inserire.");
-    const Data ultima = *Data::daTesto(arg.super ? a.DataEstrazione(totale, ArchivioSuper) : a.DataEstrazione(totale));
+    const archives::Data ultima = *archives::Data::daTesto(arg.super ? a.DataEstrazione(totale, archives::ArchivioSuper) : a.DataEstrazione(totale));
 
     std::vector<std::string> domande;
-    auto chiedi = [&](const Messaggio& domanda) {
+    auto chiedi = [&](const archives::Messaggio& domanda) {
         if (!arg.conferma)
             throw Rifiuto{{domanda.testo + "\n(nulla è stato scritto: usare --conferma per rispondere sì)",
-                           domanda.titolo, Icona::Domanda}};
+                           domanda.titolo, archives::Icona::Domanda}};
         domande.push_back(domanda.testo);
     };
 
@@ -76,14 +76,14 @@ void Inserisci(const Contesto& ctx, const ArgomentiInserisci& arg) {
     const std::string giorni = config::LeggiImpostazione(ini, config::sezioni::Options, "Giorni estrazione",
                                                          config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
     if (arg.data.empty()) {
-        if (Messaggio m = ins.Nuova(giorni); !m.vuoto()) throw Rifiuto{m};
+        if (archives::Messaggio m = ins.Nuova(giorni); !m.vuoto()) throw Rifiuto{m};
     } else {
-        if (arg.data.size() != 10 || !DataAccettata(arg.data)) throw Rifiuta(std::string(MessaggioFormatoData));
-        const Data d = *Data::daTesto(arg.data);
-        if (DataErrata(d.giorno, d.mese, d.anno)) throw Rifiuta(std::string(MessaggioDataErrata));
+        if (arg.data.size() != 10 || !archives::DataAccettata(arg.data)) throw Rifiuta(std::string(archives::MessaggioFormatoData));
+        const archives::Data d = *archives::Data::daTesto(arg.data);
+        if (archives::DataErrata(d.giorno, d.mese, d.anno)) throw Rifiuta(std::string(archives::MessaggioDataErrata));
         if (ultima < d) {
             ins.Nuova(giorni);
-            if (Messaggio m = ins.ImpostaDataNuova(d); !m.vuoto()) throw Rifiuto{m};
+            if (archives::Messaggio m = ins.ImpostaDataNuova(d); !m.vuoto()) throw Rifiuto{m};
         } else {
             const int32_t indice = IndiceDellaData(a, d, arg.super);
             if (indice < 1)
@@ -95,7 +95,7 @@ void Inserisci(const Contesto& ctx, const ArgomentiInserisci& arg) {
             // A correction overwrites a stored draw: the command line asks before it does.
             chiedi({fmt::format("L'estrazione del {} è già in archivio (progressivo {}). Correggi estrazione ?",
                                 d.testo(), indice),
-                    std::string(TitoloConferma), Icona::Domanda});
+                    std::string(TitoloConferma), archives::Icona::Domanda});
         }
     }
 
@@ -116,7 +116,7 @@ void Inserisci(const Contesto& ctx, const ArgomentiInserisci& arg) {
         if (e.domanda == DomandaInserimento::NumeriUguali) risposte.numeriUguali = true;
     }
     if (e.stato == StatoMemorizzazione::Rifiutata) {
-        Messaggio m = e.messaggio;
+        archives::Messaggio m = e.messaggio;
         if (m.vuoto()) m.testo = "Estrazione non memorizzata.";
         throw Rifiuto{m};
     }

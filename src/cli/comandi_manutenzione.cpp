@@ -13,9 +13,9 @@ namespace gorgo::cli {
 namespace {
 
 namespace fs = std::filesystem;
-using manutenzione::Gioco;
+using maintenance::Gioco;
 
-Rifiuto RifiutoCon(const Messaggio& m, const std::string& dettaglio) {
+Rifiuto RifiutoCon(const archives::Messaggio& m, const std::string& dettaglio) {
     Rifiuto r{m};
     if (!dettaglio.empty()) r.messaggio.testo += "\n(" + dettaglio + ")";
     return r;
@@ -23,7 +23,7 @@ Rifiuto RifiutoCon(const Messaggio& m, const std::string& dettaglio) {
 
 // The archive open for writing, brought back in step if a run was interrupted, and whole.
 struct ArchivioScrittura {
-    Archivio archivio;
+    archives::Archivio archivio;
     std::string riparazione;
 };
 
@@ -31,9 +31,9 @@ ArchivioScrittura ApriPerScrivere(const Contesto& ctx) {
     const fs::path cartella = ctx.PercorsoProgramma();
     if (!fs::is_directory(cartella / "Archivi"))
         throw Rifiuta(fmt::format("La cartella {} non contiene gli archivi (Archivi/).", cartella.string()));
-    ArchivioScrittura a{Archivio::Apri(cartella, ModoApertura::Scrittura), {}};
-    a.riparazione = manutenzione::RiparaArchivio(a.archivio).descrizione;
-    if (Messaggio m = VerificaIntegrita(a.archivio); !m.vuoto()) throw Rifiuto{m};
+    ArchivioScrittura a{archives::Archivio::Apri(cartella, archives::ModoApertura::Scrittura), {}};
+    a.riparazione = maintenance::RiparaArchivio(a.archivio).descrizione;
+    if (archives::Messaggio m = archives::VerificaIntegrita(a.archivio); !m.vuoto()) throw Rifiuto{m};
     return a;
 }
 
@@ -41,18 +41,18 @@ void StampaRiparazione(const std::string& riparazione) {
     if (!riparazione.empty()) std::cerr << riparazione << "\n";
 }
 
-std::string Ultima(const Archivio& a, Gioco gioco) {
+std::string Ultima(const archives::Archivio& a, Gioco gioco) {
     if (gioco == Gioco::Lotto) {
         if (a.NumeroEstrazioni() < 1) return {};
-        const RecordEstrazione r = a.LeggiEstrazione(a.NumeroEstrazioni());
+        const archives::RecordEstrazione r = a.LeggiEstrazione(a.NumeroEstrazioni());
         return fmt::format("n.{} del {}", r.NumeroAnno, r.dataTesto());
     }
     if (a.NumeroEstrazioniSuper() < 1) return {};
-    const RecordSuperEnalotto r = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
+    const archives::RecordSuperEnalotto r = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
     return fmt::format("n.{} del {}", r.NumeroAnno, r.dataTesto());
 }
 
-int32_t Conteggio(const Archivio& a, Gioco gioco) {
+int32_t Conteggio(const archives::Archivio& a, Gioco gioco) {
     return gioco == Gioco::Lotto ? a.NumeroEstrazioni() : a.NumeroEstrazioniSuper();
 }
 
@@ -60,7 +60,7 @@ void Aggiorna(const Contesto& ctx, const std::string& file, bool super) {
     const Gioco gioco = super ? Gioco::SuperEnalotto : Gioco::Lotto;
     ArchivioScrittura a = ApriPerScrivere(ctx);
     StampaRiparazione(a.riparazione);
-    const auto e = manutenzione::ApplicaFileAggiornamento(a.archivio, file, gioco);
+    const auto e = maintenance::ApplicaFileAggiornamento(a.archivio, file, gioco);
     if (!e.riuscito) throw RifiutoCon(e.messaggio, e.controllo.dettaglio);
     if (ctx.json) {
         StampaJson({{"messaggio", e.messaggio.testo},
@@ -81,13 +81,13 @@ void Esporta(const Contesto& ctx, const std::string& file, const std::string& da
     ArchivioScrittura a = ApriPerScrivere(ctx);
     StampaRiparazione(a.riparazione);
     if (a.archivio.NumeroEstrazioni() < 1) throw Rifiuta("L'archivio delle estrazioni del Lotto è vuoto.");
-    int32_t primo = manutenzione::PrimaEsportata;
+    int32_t primo = maintenance::PrimaEsportata;
     if (!da.empty()) {
-        const RisultatoData r = ControllaData(da, a.archivio, false);
+        const archives::RisultatoData r = archives::ControllaData(da, a.archivio, false);
         if (r.ErroreData) throw Rifiuto{r.messaggio};
         primo = r.IndiceTrovato;
     }
-    const auto e = manutenzione::EsportaAggiornamento(a.archivio, file, primo);
+    const auto e = maintenance::EsportaAggiornamento(a.archivio, file, primo);
     if (!e.riuscito) throw Rifiuto{e.messaggio};
     if (ctx.json) {
         StampaJson({{"messaggio", e.messaggio.testo},
@@ -108,14 +108,14 @@ void Esporta(const Contesto& ctx, const std::string& file, const std::string& da
 void Importa(const Contesto& ctx, const std::string& file, bool super) {
     const Gioco gioco = super ? Gioco::SuperEnalotto : Gioco::Lotto;
     const fs::path cartella = ctx.PercorsoProgramma();
-    const auto dati = manutenzione::LeggiFileAggiornamento(file);
-    if (!dati) throw Rifiuto{manutenzione::ErrFile(file)};
+    const auto dati = maintenance::LeggiFileAggiornamento(file);
+    if (!dati) throw Rifiuto{maintenance::ErrFile(file)};
 
     // The check runs on what is there (absent files read as empty), so a refusal creates
     // nothing; only an accepted file makes the folders and the files.
     {
-        const Archivio lettura = Archivio::Apri(cartella, ModoApertura::Lettura);
-        const auto c = manutenzione::ControllaDati(lettura, *dati, gioco);
+        const archives::Archivio lettura = archives::Archivio::Apri(cartella, archives::ModoApertura::Lettura);
+        const auto c = maintenance::ControllaDati(lettura, *dati, gioco);
         if (!c.riuscito) throw RifiutoCon(c.messaggio, c.dettaglio);
     }
     std::error_code ec;
@@ -125,7 +125,7 @@ void Importa(const Contesto& ctx, const std::string& file, bool super) {
                                   ec.message()));
     ArchivioScrittura a = ApriPerScrivere(ctx);
     StampaRiparazione(a.riparazione);
-    const auto e = manutenzione::ImportaDati(a.archivio, *dati, gioco);
+    const auto e = maintenance::ImportaDati(a.archivio, *dati, gioco);
     if (!e.riuscito) throw RifiutoCon(e.messaggio, e.dettaglio);
     if (ctx.json) {
         StampaJson({{"messaggio", e.messaggio.testo},
@@ -155,10 +155,10 @@ void Importa(const Contesto& ctx, const std::string& file, bool super) {
 void EsportaTesto(const Contesto& ctx, const std::string& file) {
     ArchivioScrittura a = ApriPerScrivere(ctx);
     StampaRiparazione(a.riparazione);
-    const Archivio& ar = a.archivio;
+    const archives::Archivio& ar = a.archivio;
     if (ar.NumeroEstrazioni() < 1) throw Rifiuta("L'archivio delle estrazioni del Lotto è vuoto.");
-    if (manutenzione::FileDellArchivio(ar, file)) throw Rifiuto{manutenzione::MessaggioFileDellArchivio(file)};
-    manutenzione::EsportaTesto(ar, file);
+    if (maintenance::FileDellArchivio(ar, file)) throw Rifiuto{maintenance::MessaggioFileDellArchivio(file)};
+    maintenance::EsportaTesto(ar, file);
     const std::string testo = fmt::format("Archivio del Lotto esportato in {}: {} estrazioni dal {} al {}.", file,
                                           ar.NumeroEstrazioni(), ar.DataEstrazione(1),
                                           ar.DataEstrazione(ar.NumeroEstrazioni()));

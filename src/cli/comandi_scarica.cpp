@@ -10,18 +10,18 @@
 #include "maintenance/aggiornamento.h"
 #include "maintenance/importazione.h"
 #include "maintenance/internet.h"
-#include "rete/scaricatore.h"
+#include "network/scaricatore.h"
 
 namespace gorgo::cli {
 
 namespace {
 
-namespace m = manutenzione;
+namespace m = maintenance;
 
 struct ArgomentiScarica {
     bool super = false;
     bool storico = false;
-    int secondi = rete::Scaricatore::TempoMassimoPredefinito;
+    int secondi = network::Scaricatore::TempoMassimoPredefinito;
 };
 
 // Qt Network needs an application object for its event loop; the command line makes one
@@ -34,9 +34,9 @@ void AssicuraApplicazione() {
     static QCoreApplication app(argc, argv);
 }
 
-rete::RisultatoScaricamento Scarica(const std::string& indirizzo, int secondi, qint64 limite) {
+network::RisultatoScaricamento Scarica(const std::string& indirizzo, int secondi, qint64 limite) {
     AssicuraApplicazione();
-    rete::Scaricatore s;
+    network::Scaricatore s;
     s.ImpostaTempoMassimo(secondi * 1000);
     s.ImpostaLimite(limite);
     return s.Scarica(QString::fromStdString(indirizzo));
@@ -49,7 +49,7 @@ std::string LeggiOpzione(const Contesto& ctx, std::string_view chiave) {
 }
 
 // A refusal: with --json the object on stdout too, so that scripts read what failed.
-[[noreturn]] void RifiutaScarica(const Contesto& ctx, nlohmann::json j, const Messaggio& m, const std::string& dettaglio) {
+[[noreturn]] void RifiutaScarica(const Contesto& ctx, nlohmann::json j, const archives::Messaggio& m, const std::string& dettaglio) {
     std::string testo = m.testo;
     if (!dettaglio.empty() && testo.find(dettaglio) == std::string::npos) testo += "\n" + dettaglio;
     if (ctx.json) {
@@ -58,7 +58,7 @@ std::string LeggiOpzione(const Contesto& ctx, std::string_view chiave) {
         j["dettaglio"] = dettaglio;
         StampaJson(j);
     }
-    throw Rifiuto{Messaggio{testo, m.titolo, m.icona}};
+    throw Rifiuto{archives::Messaggio{testo, m.titolo, m.icona}};
 }
 
 void Stampa(const Contesto& ctx, const nlohmann::json& j, const std::string& testo) {
@@ -70,17 +70,17 @@ void Stampa(const Contesto& ctx, const nlohmann::json& j, const std::string& tes
 
 void AggiornaDaInternet(const Contesto& ctx, const ArgomentiScarica& a) {
     const m::Gioco gioco = a.super ? m::Gioco::SuperEnalotto : m::Gioco::Lotto;
-    Archivio archivio = ctx.ApriArchivi();
+    archives::Archivio archivio = ctx.ApriArchivi();
     const std::string indirizzo = m::IndirizzoAggiornamento(LeggiOpzione(ctx, "Url"), gioco);
     const std::filesystem::path copia = m::CopiaLocale(archivio.PercorsoProgramma(), gioco);
     nlohmann::json j{{"indirizzo", indirizzo}, {"gioco", a.super ? "superenalotto" : "lotto"}};
 
-    const rete::RisultatoScaricamento r = Scarica(indirizzo, a.secondi, rete::Scaricatore::LimitePredefinito);
+    const network::RisultatoScaricamento r = Scarica(indirizzo, a.secondi, network::Scaricatore::LimitePredefinito);
     j["stato_http"] = r.statoHttp;
     j["byte"] = r.corpo.size();
     const m::ValutazioneScaricamento v = m::ValutaScaricamento(r.PerIlNucleo(), gioco, copia);
     if (v.esito != m::EsitoScaricamento::Pronto)
-        RifiutaScarica(ctx, j, v.messaggio.vuoto() ? Messaggio{v.stato, "Errore", Icona::Stop} : v.messaggio, v.dettaglio);
+        RifiutaScarica(ctx, j, v.messaggio.vuoto() ? archives::Messaggio{v.stato, "Errore", archives::Icona::Stop} : v.messaggio, v.dettaglio);
 
     // The copy is kept only for a download that passed, so a refusal leaves the folder alone.
     const std::string_view dati(r.corpo.constData(), static_cast<size_t>(r.corpo.size()));
@@ -118,13 +118,13 @@ void ScaricaStorico(const Contesto& ctx, const ArgomentiScarica& a) {
     nlohmann::json j{{"indirizzo", indirizzo}, {"gioco", "lotto"}};
     if (indirizzo.empty())
         RifiutaScarica(ctx, j,
-                Messaggio{std::string(m::TestoStoricoNonImpostato), std::string(m::TitoloStorico), Icona::Esclamazione},
+                archives::Messaggio{std::string(m::TestoStoricoNonImpostato), std::string(m::TitoloStorico), archives::Icona::Esclamazione},
                 "gorgo-cli impostazione Options UrlStorico http://...");
     // The public archive may build the Lotto archive from nothing: an empty one is no refusal.
-    Archivio archivio = Archivio::Apri(ctx.PercorsoProgramma(), ModoApertura::Lettura);
-    if (Messaggio mi = VerificaIntegrita(archivio); !mi.vuoto()) throw Rifiuto{mi};
+    archives::Archivio archivio = archives::Archivio::Apri(ctx.PercorsoProgramma(), archives::ModoApertura::Lettura);
+    if (archives::Messaggio mi = archives::VerificaIntegrita(archivio); !mi.vuoto()) throw Rifiuto{mi};
 
-    const rete::RisultatoScaricamento r = Scarica(indirizzo, a.secondi, rete::Scaricatore::LimitePredefinito);
+    const network::RisultatoScaricamento r = Scarica(indirizzo, a.secondi, network::Scaricatore::LimitePredefinito);
     j["stato_http"] = r.statoHttp;
     j["byte"] = r.corpo.size();
     const m::ControlloStorico c = m::ControllaScaricamentoStorico(r.PerIlNucleo());

@@ -39,8 +39,8 @@ void ControllaChiave(const std::string& chiave, const builder::ParametriRicerca&
                      const builder::ContestoCostruttore& cc) {
     using builder::TipoRicerca;
     if (chiave.size() < 9 || (p.tipoRicerca == TipoRicerca::Codici && chiave.size() != 16))
-        throw Rifiuto{{std::string(builder::AlgoritmoMancante), "Errore", Icona::Esclamazione}};
-    const StoriaLotto& s = *cc.storia;
+        throw Rifiuto{{std::string(builder::AlgoritmoMancante), "Errore", archives::Icona::Esclamazione}};
+    const archives::StoriaLotto& s = *cc.storia;
     if (s.vuota()) return;
     const builder::NumeriCalcolati n =
         builder::NumeriAlgoritmo(chiave, p.tipoRicerca, s[s.NumeroEstrazioni()], cc.Contesto().terzine);
@@ -48,13 +48,13 @@ void ControllaChiave(const std::string& chiave, const builder::ParametriRicerca&
 }
 
 struct Preparati {
-    Archivio archivio;
+    archives::Archivio archivio;
     builder::ParametriRicerca p;
     builder::ContestoCostruttore cc;
 };
 
 Preparati Prepara(const Contesto& ctx, const ArgomentiVerifica& a) {
-    Archivio archivio = ctx.ApriArchivi();
+    archives::Archivio archivio = ctx.ApriArchivi();
     const config::FileIni ini(ctx.FileImpostazioni().string());
     builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
     p.colpiDaGiocare = a.colpiDaGiocare;

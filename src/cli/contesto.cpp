@@ -9,13 +9,13 @@ namespace gorgo::cli {
 std::filesystem::path Contesto::PercorsoProgramma() const {
     std::optional<std::filesystem::path> c;
     if (!cartella.empty()) c = cartella;
-    return TrovaPercorsoProgramma(AmbienteCorrente(c));
+    return archives::TrovaPercorsoProgramma(archives::AmbienteCorrente(c));
 }
 
-Archivio Contesto::ApriArchivi() const {
-    Archivio a = Archivio::Apri(PercorsoProgramma(), ModoApertura::Lettura);
-    if (Messaggio m = ControllaPresenzaArchivi(a); !m.vuoto()) throw Rifiuto{m};
-    if (Messaggio m = VerificaIntegrita(a); !m.vuoto()) throw Rifiuto{m};
+archives::Archivio Contesto::ApriArchivi() const {
+    archives::Archivio a = archives::Archivio::Apri(PercorsoProgramma(), archives::ModoApertura::Lettura);
+    if (archives::Messaggio m = archives::ControllaPresenzaArchivi(a); !m.vuoto()) throw Rifiuto{m};
+    if (archives::Messaggio m = archives::VerificaIntegrita(a); !m.vuoto()) throw Rifiuto{m};
     return a;
 }
 

@@ -17,11 +17,11 @@ enum CodiceUscita : int { Successo = 0, ErroreInterno = 1, InputRifiutato = 2 };
 
 // A refusal: the message goes to stderr and the program ends with InputRifiutato.
 struct Rifiuto {
-    Messaggio messaggio;
+    archives::Messaggio messaggio;
     int codice = InputRifiutato;
 };
 inline Rifiuto Rifiuta(std::string testo, int codice = InputRifiutato) {
-    return Rifiuto{Messaggio{std::move(testo), "Errore", Icona::Esclamazione}, codice};
+    return Rifiuto{archives::Messaggio{std::move(testo), "Errore", archives::Icona::Esclamazione}, codice};
 }
 
 struct Contesto {
@@ -31,7 +31,7 @@ struct Contesto {
     std::filesystem::path PercorsoProgramma() const;
     // Opens the archives for reading; refuses with the system's message when one is missing,
     // and with a clear one when the files are damaged or out of step.
-    Archivio ApriArchivi() const;
+    archives::Archivio ApriArchivi() const;
     std::filesystem::path FileImpostazioni() const { return PercorsoProgramma() / "Gorgo.ini"; }
 };
 

@@ -78,7 +78,7 @@ int main(int argc, char** argv) {
     } catch (const gorgo::cli::Rifiuto& r) {
         std::cerr << r.messaggio.testo << "\n";
         return r.codice;
-    } catch (const gorgo::ErroreArchivio& e) {
+    } catch (const gorgo::archives::ErroreArchivio& e) {
         std::cerr << e.what() << "\n";
         return CodiceUscita::ErroreInterno;
     } catch (const std::exception& e) {

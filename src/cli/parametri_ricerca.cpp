@@ -26,8 +26,8 @@ std::array<bool, 12> LeggiRuote(const std::string& testo, const char* opzione) {
         const size_t fine = std::min(t.find(',', inizio), t.size());
         const std::string sigla = t.substr(inizio, fine - inizio);
         bool trovata = false;
-        for (int w = 1; w <= NumeroRuote; ++w)
-            if (sigla == SigleRuota[static_cast<size_t>(w)] || (w == 8 && sigla == "RM")) r[static_cast<size_t>(w)] = trovata = true;
+        for (int w = 1; w <= archives::NumeroRuote; ++w)
+            if (sigla == archives::SigleRuota[static_cast<size_t>(w)] || (w == 8 && sigla == "RM")) r[static_cast<size_t>(w)] = trovata = true;
         if (!trovata)
             throw Rifiuta(fmt::format("{}: ruota \"{}\" sconosciuta. Indicare tutte, tutte+nz oppure le sigle "
                                       "BA,CA,FI,GE,MI,NA,PA,RO,TO,VE,NZ separate da virgole.",
@@ -134,14 +134,14 @@ builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const 
     return p;
 }
 
-builder::ContestoCostruttore PreparaContesto(const Archivio& archivio, const config::FileIni& ini,
+builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio, const config::FileIni& ini,
                                              const ArgomentiRicerca& a, const builder::ParametriRicerca& p) {
     builder::ContestoCostruttore cc = builder::PreparaCostruttore(
         archivio.Storia(), ini, archivio.PercorsoProgramma(), a.terzine.empty() ? std::nullopt : std::optional(a.terzine));
     if (p.tipoRicerca == builder::TipoRicerca::Codici && !cc.terzine.valido)
         throw Rifiuto{cc.terzine.messaggio.vuoto()
-                          ? Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " + cc.fileTerzine,
-                                      "Errore", Icona::Esclamazione}
+                          ? archives::Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " + cc.fileTerzine,
+                                      "Errore", archives::Icona::Esclamazione}
                           : cc.terzine.messaggio};
     return cc;
 }

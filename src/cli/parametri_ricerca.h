@@ -27,7 +27,7 @@ void AggiungiOpzioniRicerca(CLI::App* comando, ArgomentiRicerca& a);
 builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const config::FileIni& ini);
 
 // The builder's context for a search of that kind; refuses the codes without their file.
-builder::ContestoCostruttore PreparaContesto(const Archivio& archivio, const config::FileIni& ini,
+builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio, const config::FileIni& ini,
                                              const ArgomentiRicerca& a, const builder::ParametriRicerca& p);
 
 }  // namespace gorgo::cli

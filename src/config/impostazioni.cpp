@@ -226,72 +226,72 @@ bool SoloLettere(std::string_view v, std::string_view ammesse, std::size_t lungh
 bool GiornoMese(std::string_view v) {
     if (v.size() < 3 || v[0] < '0' || v[0] > '3' || v[1] < '0' || v[1] > '9') return false;
     const int giorno = (v[0] - '0') * 10 + (v[1] - '0');
-    const int mese = NumeroMese(v.substr(2));
-    return mese != 0 && giorno >= 1 && giorno <= GiorniNelMese(mese, 2001);
+    const int mese = archives::NumeroMese(v.substr(2));
+    return mese != 0 && giorno >= 1 && giorno <= archives::GiorniNelMese(mese, 2001);
 }
 
 }  // namespace
 
-Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view chiave, std::string_view valore) {
+archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view chiave, std::string_view valore) {
     auto errore = [&](std::string_view atteso) {
-        return Messaggio{fmt::format("Valore non valido per {} nella sezione {}: \"{}\". {}", chiave, sezione,
+        return archives::Messaggio{fmt::format("Valore non valido per {} nella sezione {}: \"{}\". {}", chiave, sezione,
                                      valore, atteso),
-                         "Errore", Icona::Esclamazione};
+                         "Errore", archives::Icona::Esclamazione};
     };
     const VoceImpostazione* v = CercaImpostazione(sezione, chiave);
     if (!v)
         return {fmt::format("La chiave \"{}\" della sezione \"{}\" non è un'impostazione del programma.", chiave,
                             sezione),
-                "Errore", Icona::Esclamazione};
+                "Errore", archives::Icona::Esclamazione};
     if (const std::size_t n = NumeroCaratteri(valore); n > LunghezzaMassimaValore)
         return {fmt::format("Il valore di {} è troppo lungo ({} caratteri): il massimo è {}.", chiave, n,
                             LunghezzaMassimaValore),
-                "Errore", Icona::Esclamazione};
+                "Errore", archives::Icona::Esclamazione};
     for (unsigned char c : valore)
         if (c < 32) return errore("Il valore non può contenere caratteri di controllo.");
 
     const std::string_view k = v->chiave;
     const auto intero = Intero(valore);
     if (v->sezione == sezioni::Forms)
-        return intero && *intero > -10000000 && *intero < 10000000 ? Messaggio{}
+        return intero && *intero > -10000000 && *intero < 10000000 ? archives::Messaggio{}
                                                                    : errore("Serve un numero intero (twip).");
     if (k.starts_with("Colore"))
-        return intero && *intero >= 0 && *intero <= 0xFFFFFF ? Messaggio{}
+        return intero && *intero >= 0 && *intero <= 0xFFFFFF ? archives::Messaggio{}
                                                              : errore("Serve un colore da 0 a 16777215.");
     if (k == "InizioRicerca" || k == "FineRicerca" || k == "AnalisiSommeDistanze")
         return intero && *intero >= 1 && *intero <= std::numeric_limits<int32_t>::max()
-                   ? Messaggio{}
+                   ? archives::Messaggio{}
                    : errore("Serve un numero intero positivo.");
     if (k == "RuoteConNz" || k == "RuoteConNzGioco" || k == "Ruota" || k == "Ruote")
-        return SoloLettere(valore, "YN", 11) ? Messaggio{} : errore("Servono 11 lettere Y o N, una per ruota.");
+        return SoloLettere(valore, "YN", 11) ? archives::Messaggio{} : errore("Servono 11 lettere Y o N, una per ruota.");
     if (k == "Giorni estrazione" || k == "Giorni")
-        return SoloLettere(valore, "YN", 7) ? Messaggio{}
+        return SoloLettere(valore, "YN", 7) ? archives::Messaggio{}
                                             : errore("Servono 7 lettere Y o N, una per giorno dalla domenica.");
     if (k == "Mesi")
-        return SoloLettere(valore, "YN", 12) ? Messaggio{} : errore("Servono 12 lettere Y o N, una per mese.");
+        return SoloLettere(valore, "YN", 12) ? archives::Messaggio{} : errore("Servono 12 lettere Y o N, una per mese.");
     if (k == "Giorno" || k == "Mese" || k == "Periodo" || k == "Numero")
-        return valore == "Y" || valore == "N" || (k == "Numero" && valore.empty()) ? Messaggio{}
+        return valore == "Y" || valore == "N" || (k == "Numero" && valore.empty()) ? archives::Messaggio{}
                                                                                     : errore("Serve Y oppure N.");
     if (k == "Numeri" || k == "NumeriTordelli")
-        return valore.empty() || SoloLettere(valore, "01", 90) ? Messaggio{}
+        return valore.empty() || SoloLettere(valore, "01", 90) ? archives::Messaggio{}
                                                                : errore("Servono 90 cifre 0 o 1, una per numero.");
     if (k == "Dal" || k == "Al")
-        return GiornoMese(valore) ? Messaggio{} : errore("Serve il giorno in due cifre seguito dal mese, come 01gennaio.");
+        return GiornoMese(valore) ? archives::Messaggio{} : errore("Serve il giorno in due cifre seguito dal mese, come 01gennaio.");
     if (k == "Show Tips at Startup")
-        return valore == "0" || valore == "1" ? Messaggio{} : errore("Serve 1 oppure 0.");
+        return valore == "0" || valore == "1" ? archives::Messaggio{} : errore("Serve 1 oppure 0.");
     if (k == "Minimizza" || k == "Riepilogo")
-        return TestoBooleano(valore) ? Messaggio{} : errore("Serve True oppure False.");
+        return TestoBooleano(valore) ? archives::Messaggio{} : errore("Serve True oppure False.");
     if (k == "UrlStorico") {
         // Empty puts the key back as it came: no address known.
         const bool http = valore.starts_with("http://") || valore.starts_with("https://");
         return valore.empty() || (http && valore.find(' ') == std::string_view::npos)
-                   ? Messaggio{}
+                   ? archives::Messaggio{}
                    : errore("Serve un indirizzo che inizi con http:// oppure https://.");
     }
     if (k == "Url") {
         // As the address dialog: "http://" in front when missing, then at least 12 characters.
         const std::string url = valore.starts_with("http") ? std::string(valore) : "http://" + std::string(valore);
-        return url.size() >= 12 ? Messaggio{} : Messaggio{"Url non valida", "", Icona::Nessuna};
+        return url.size() >= 12 ? archives::Messaggio{} : archives::Messaggio{"Url non valida", "", archives::Icona::Nessuna};
     }
     return {};
 }

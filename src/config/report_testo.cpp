@@ -158,9 +158,9 @@ std::string Motivo(std::error_code ec) {
     return fmt::format("errore di sistema n. {}", ec.value());
 }
 
-Messaggio ErroreScrittura(const fs::path& percorso, std::error_code ec) {
+archives::Messaggio ErroreScrittura(const fs::path& percorso, std::error_code ec) {
     return {fmt::format("Impossibile scrivere il file {}: {}.", percorso.string(), Motivo(ec)), "Errore",
-            Icona::Stop};
+            archives::Icona::Stop};
 }
 
 std::error_code UltimoErrore() { return {errno ? errno : EIO, std::generic_category()}; }
@@ -236,11 +236,11 @@ private:
     std::error_code errore_;
 };
 
-Messaggio GiaEsistente(const fs::path& percorso) {
-    return {fmt::format("Il file {} è già esistente.", percorso.string()), "Errore", Icona::Esclamazione};
+archives::Messaggio GiaEsistente(const fs::path& percorso) {
+    return {fmt::format("Il file {} è già esistente.", percorso.string()), "Errore", archives::Icona::Esclamazione};
 }
 
-Messaggio ScriviNuovo(const fs::path& percorso, std::string_view dati, bool sovrascrivi) {
+archives::Messaggio ScriviNuovo(const fs::path& percorso, std::string_view dati, bool sovrascrivi) {
     FileTemporaneo temp(percorso);
     if (temp.errore()) return ErroreScrittura(percorso, temp.errore());
     if (auto ec = temp.scrivi(dati)) return ErroreScrittura(percorso, ec);
@@ -252,7 +252,7 @@ Messaggio ScriviNuovo(const fs::path& percorso, std::string_view dati, bool sovr
         if (!ec && fs::is_regular_file(stato)) fs::permissions(temp.percorso(), stato.permissions(), ec);
         ec.clear();
         fs::rename(temp.percorso(), percorso, ec);
-        return ec ? ErroreScrittura(percorso, ec) : Messaggio{};
+        return ec ? ErroreScrittura(percorso, ec) : archives::Messaggio{};
     }
     // A hard link does not replace a file that appeared meanwhile; where the file system
     // has no links, a check and a rename do.
@@ -267,7 +267,7 @@ Messaggio ScriviNuovo(const fs::path& percorso, std::string_view dati, bool sovr
     return {};
 }
 
-Messaggio Accoda(const fs::path& percorso, std::string_view dati) {
+archives::Messaggio Accoda(const fs::path& percorso, std::string_view dati) {
     std::error_code ec;
     const auto lunghezza = fs::file_size(percorso, ec);
     if (ec) return ErroreScrittura(percorso, ec);
@@ -284,7 +284,7 @@ Messaggio Accoda(const fs::path& percorso, std::string_view dati) {
     return {};
 }
 
-Messaggio Scrivi(const fs::path& percorso, std::string_view dati, ModoScrittura modo) {
+archives::Messaggio Scrivi(const fs::path& percorso, std::string_view dati, ModoScrittura modo) {
     if (dati.empty()) return {};
     std::error_code ec;
     const bool esiste = fs::exists(percorso, ec);
@@ -305,24 +305,24 @@ Messaggio Scrivi(const fs::path& percorso, std::string_view dati, ModoScrittura 
 
 }  // namespace
 
-Messaggio ScriviReportSuFile(const fs::path& percorso, std::span<const RigaTesto> righe, ModoScrittura modo) {
+archives::Messaggio ScriviReportSuFile(const fs::path& percorso, std::span<const RigaTesto> righe, ModoScrittura modo) {
     return Scrivi(percorso,
                   Contenuto(righe, [](const RigaTesto& r) -> const std::string& { return r.testo; }), modo);
 }
 
-Messaggio ScriviReportSuFile(const fs::path& percorso, std::span<const std::string> righe,
+archives::Messaggio ScriviReportSuFile(const fs::path& percorso, std::span<const std::string> righe,
                              ModoScrittura modo) {
     return Scrivi(percorso, Contenuto(righe, [](const std::string& r) -> const std::string& { return r; }),
                   modo);
 }
 
-Messaggio DomandaInCalce(std::string_view nome) {
+archives::Messaggio DomandaInCalce(std::string_view nome) {
     return {fmt::format("Il file {} è già esistente. Le informazioni vanno aggiunte in calce ?", nome),
-            "Conferma", Icona::Domanda};
+            "Conferma", archives::Icona::Domanda};
 }
 
-Messaggio DomandaSovrascrivi(std::string_view nome) {
-    return {fmt::format("Il file {} è già esistente. Sovrascrivi ?", nome), "Conferma", Icona::Domanda};
+archives::Messaggio DomandaSovrascrivi(std::string_view nome) {
+    return {fmt::format("Il file {} è già esistente. Sovrascrivi ?", nome), "Conferma", archives::Icona::Domanda};
 }
 
 }  // namespace gorgo::config

@@ -117,18 +117,18 @@ enum class ModoScrittura {
 // Windows-1252, CRLF after each line, no page headers. An empty report writes nothing and
 // creates no file. Returns an empty message on success, else the error to show; a file
 // that fails is left as it was (an append is cut back to its old length).
-Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, std::span<const RigaTesto> righe,
+archives::Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, std::span<const RigaTesto> righe,
                              ModoScrittura modo);
-Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, std::span<const std::string> righe,
+archives::Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, std::span<const std::string> righe,
                              ModoScrittura modo);
-inline Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, const ReportTesto& report,
+inline archives::Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, const ReportTesto& report,
                                     ModoScrittura modo) {
     return ScriviReportSuFile(percorso, std::span<const RigaTesto>(report.righe()), modo);
 }
 
 // The questions when the chosen file exists, under "Conferma". The first one has Yes
 // (Accoda), No (Sovrascrivi) and Cancel; the second Yes and No; No is the default.
-Messaggio DomandaInCalce(std::string_view nome);
-Messaggio DomandaSovrascrivi(std::string_view nome);
+archives::Messaggio DomandaInCalce(std::string_view nome);
+archives::Messaggio DomandaSovrascrivi(std::string_view nome);
 
 }  // namespace gorgo::config

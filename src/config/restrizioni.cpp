@@ -67,7 +67,7 @@ struct GiornoMese {
 };
 
 std::optional<GiornoMese> LeggiEstremo(std::string_view testo) {
-    const int mese = NumeroMese(DalCarattere(testo, 3));
+    const int mese = archives::NumeroMese(DalCarattere(testo, 3));
     if (mese == 0) return std::nullopt;
     const auto giorno = GiornoDi(Sinistra(testo, 2));
     if (!giorno) return std::nullopt;
@@ -79,13 +79,13 @@ void SegnaPeriodo(Restrizioni& r, std::string_view dal, std::string_view al) {
     const auto fine = LeggiEstremo(al);
     if (!inizio || !fine) return;
     // Days roll over as a date serial does: "31febbraio" is the 3rd of March.
-    const int32_t primo = Data::componi(2001, inizio->mese, inizio->giorno).giorni();
-    int32_t ultimo = Data::componi(2001, fine->mese, fine->giorno).giorni();
+    const int32_t primo = archives::Data::componi(2001, inizio->mese, inizio->giorno).giorni();
+    int32_t ultimo = archives::Data::componi(2001, fine->mese, fine->giorno).giorni();
     if (ultimo < primo) ultimo += 365;
-    const int32_t capodanno = Data{1, 1, 2001}.giorni();
+    const int32_t capodanno = archives::Data{1, 1, 2001}.giorni();
     for (int32_t g = primo; g <= ultimo; ++g) {
-        const Data d = Data::daGiorni(g);
-        const int32_t indice = Data::componi(2001, d.mese, d.giorno).giorni() - capodanno;
+        const archives::Data d = archives::Data::daGiorni(g);
+        const int32_t indice = archives::Data::componi(2001, d.mese, d.giorno).giorni() - capodanno;
         r.PeriodoAmmesso[static_cast<std::size_t>(indice)] = true;
     }
 }
@@ -96,9 +96,9 @@ std::string Lettere(std::span<const bool> caselle) {
     return s;
 }
 
-Messaggio ErroreScrittura(const FileIni& ini) {
+archives::Messaggio ErroreScrittura(const FileIni& ini) {
     return {fmt::format("Impossibile salvare le impostazioni nel file {}", ini.FileName()), "Errore",
-            Icona::Stop};
+            archives::Icona::Stop};
 }
 
 }  // namespace
@@ -126,7 +126,7 @@ Restrizioni LeggiRestrizioni(const FileIni& ini) {
 }
 
 bool EstrazioneAmmessa(const Restrizioni& r, std::string_view data, char giorno) {
-    const auto d = Data::daCifre(data);
+    const auto d = archives::Data::daCifre(data);
     if (!d || !d->valida()) return false;
     if (!r.Giorno && !r.Mese && !r.Periodo) return true;
     if (r.Giorno) {
@@ -154,14 +154,14 @@ std::string TestoRestrizioni(const FileIni& ini, bool senzaNumeri, bool trattino
         std::string s = "     Solo estrazioni avvenute nei giorni di: ";
         for (std::size_t g = 1; g <= 7; ++g)
             if (Lettera(giorni, g, 'Y'))
-                s += fmt::format(" {}", Sinistra(NomeGiorno(static_cast<int>(g)), 3));
+                s += fmt::format(" {}", Sinistra(archives::NomeGiorno(static_cast<int>(g)), 3));
         parti.push_back(std::move(s));
     }
     const std::string mesi = Leggi(ini, "Mesi");
     if (Leggi(ini, "Mese") == "Y" && mesi != DodiciY) {
         std::string s = "     Solo estrazioni avvenute nei mesi di  : ";
         for (std::size_t m = 1; m <= 12; ++m)
-            if (Lettera(mesi, m, 'Y')) s += fmt::format(" {}", Sinistra(NomeMese(static_cast<int>(m)), 3));
+            if (Lettera(mesi, m, 'Y')) s += fmt::format(" {}", Sinistra(archives::NomeMese(static_cast<int>(m)), 3));
         parti.push_back(std::move(s));
     }
     if (Leggi(ini, "Periodo") == "Y") {
@@ -220,14 +220,14 @@ EsitoRestrizioni SalvaRestrizioni(FileIni& ini, const ScelteRestrizioni& scelte)
         const int g = scelte.cboGiorno[i];
         const int m = scelte.cboMese[i];
         if (g < 1 || g > 31 || m < 1 || m > 12) {
-            esito.errore = {"Il periodo indicato non è valido", "Errore", Icona::Esclamazione};
+            esito.errore = {"Il periodo indicato non è valido", "Errore", archives::Icona::Esclamazione};
             return esito;
         }
         const bool trenta = m == 4 || m == 6 || m == 9 || m == 11;
         esito.cboGiorno[i] = trenta ? std::min(g, 30) : m == 2 ? std::min(g, 28) : g;
     }
-    const std::string dal = fmt::format("{:02}{}", esito.cboGiorno[0], NomeMese(scelte.cboMese[0]));
-    const std::string al = fmt::format("{:02}{}", esito.cboGiorno[1], NomeMese(scelte.cboMese[1]));
+    const std::string dal = fmt::format("{:02}{}", esito.cboGiorno[0], archives::NomeMese(scelte.cboMese[0]));
+    const std::string al = fmt::format("{:02}{}", esito.cboGiorno[1], archives::NomeMese(scelte.cboMese[1]));
     const std::string giorni = Lettere(std::span(scelte.chkDay).subspan(1));
     const std::string mesi = Lettere(std::span(scelte.chkMese).subspan(1));
     const auto yn = [](bool b) { return b ? std::string_view("Y") : std::string_view("N"); };
@@ -256,9 +256,9 @@ ScelteEsclusioni CaricaGiorniEstrazione(const FileIni& ini) {
     return s;
 }
 
-Messaggio SalvaGiorniEstrazione(FileIni& ini, const ScelteEsclusioni& scelte) {
+archives::Messaggio SalvaGiorniEstrazione(FileIni& ini, const ScelteEsclusioni& scelte) {
     if (std::none_of(scelte.chkDay.begin() + 1, scelte.chkDay.end(), [](bool b) { return b; }))
-        return {"E' necessario selezionare almeno un giorno estrazione!", "", Icona::Nessuna};
+        return {"E' necessario selezionare almeno un giorno estrazione!", "", archives::Icona::Nessuna};
     const std::string giorni = Lettere(std::span(scelte.chkDay).subspan(1));
     const CoppiaChiaveValore valori[] = {{"Giorni estrazione", giorni},
                                          {"Show Tips at Startup", scelte.chkLoadTipsAtStartup ? "1" : "0"}};

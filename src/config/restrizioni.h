@@ -64,7 +64,7 @@ struct ScelteRestrizioni {
 ScelteRestrizioni CaricaScelteRestrizioni(const FileIni& ini);
 
 struct EsitoRestrizioni {
-    Messaggio errore;                // when not empty nothing was written
+    archives::Messaggio errore;                // when not empty nothing was written
     std::array<int, 2> cboGiorno{};  // the days after the correction to the month's length
 };
 
@@ -79,6 +79,6 @@ struct ScelteEsclusioni {
 
 ScelteEsclusioni CaricaGiorniEstrazione(const FileIni& ini);
 // With no day ticked returns the message and writes nothing.
-Messaggio SalvaGiorniEstrazione(FileIni& ini, const ScelteEsclusioni& scelte);
+archives::Messaggio SalvaGiorniEstrazione(FileIni& ini, const ScelteEsclusioni& scelte);
 
 }  // namespace gorgo::config

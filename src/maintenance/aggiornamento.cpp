@@ -10,7 +10,7 @@
 #include <unistd.h>
 #include <vector>
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 namespace fs = std::filesystem;
 
@@ -80,7 +80,7 @@ public:
 
 private:
     [[noreturn]] void Errore(const char* azione) const {
-        throw ErroreArchivio(fmt::format("Impossibile {} il file {} : {}", azione, percorso_.string(),
+        throw archives::ErroreArchivio(fmt::format("Impossibile {} il file {} : {}", azione, percorso_.string(),
                                          std::strerror(errno)));
     }
 
@@ -99,33 +99,33 @@ std::string_view Byte(std::span<const Record> v) {
 }
 
 // The date of a record of either kind, from its eight digits: nothing unless a real date.
-std::optional<Data> DataRecord(std::string_view record, Gioco gioco) {
-    const auto d = Data::daCifre(record.substr(gioco == Gioco::Lotto ? 3 : 1, 8));
+std::optional<archives::Data> DataRecord(std::string_view record, Gioco gioco) {
+    const auto d = archives::Data::daCifre(record.substr(gioco == Gioco::Lotto ? 3 : 1, 8));
     if (!d || !d->valida()) return std::nullopt;
     return d;
 }
 
 // What the archive's last draw gives the check: its date and NumeroAnno.
 struct UltimaArchivio {
-    Data data;
+    archives::Data data;
     int numeroAnno = 0;
     std::string testo;
 };
 
-std::optional<UltimaArchivio> UltimaDellArchivio(const Archivio& a, Gioco gioco) {
+std::optional<UltimaArchivio> UltimaDellArchivio(const archives::Archivio& a, Gioco gioco) {
     if (gioco == Gioco::Lotto) {
         if (a.NumeroEstrazioni() < 1) return std::nullopt;
-        const RecordEstrazione r = a.LeggiEstrazione(a.NumeroEstrazioni());
+        const archives::RecordEstrazione r = a.LeggiEstrazione(a.NumeroEstrazioni());
         return UltimaArchivio{r.data(), r.NumeroAnno, r.dataTesto()};
     }
     if (a.NumeroEstrazioniSuper() < 1) return std::nullopt;
-    const RecordSuperEnalotto r = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
+    const archives::RecordSuperEnalotto r = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
     return UltimaArchivio{r.data(), r.NumeroAnno, r.dataTesto()};
 }
 
 // A draw that would be appended: weekday, numbers, the spare byte, NumeroAnno after `prima`.
 // Returns what is wrong, or nothing.
-std::string DifettoRecord(std::string_view rec, Gioco gioco, const Data& data, const Data& dataPrima,
+std::string DifettoRecord(std::string_view rec, Gioco gioco, const archives::Data& data, const archives::Data& dataPrima,
                           int numeroAnnoPrima) {
     const char giorno = static_cast<char>('0' + data.giornoSettimana());
     const auto u = [&](size_t i) { return static_cast<uint8_t>(rec[i]); };
@@ -146,30 +146,30 @@ std::string DifettoRecord(std::string_view rec, Gioco gioco, const Data& data, c
 
 }  // namespace
 
-Messaggio ErrFile(std::string_view percorso) {
-    return {std::string(percorso) + " corrotto o mancante !", "Errore", Icona::Stop};
+archives::Messaggio ErrFile(std::string_view percorso) {
+    return {std::string(percorso) + " corrotto o mancante !", "Errore", archives::Icona::Stop};
 }
 
-Messaggio MessaggioDiscontinuita() {
-    return {std::string(TestoDiscontinuita), std::string(TitoloAggiornamento), Icona::Stop};
+archives::Messaggio MessaggioDiscontinuita() {
+    return {std::string(TestoDiscontinuita), std::string(TitoloAggiornamento), archives::Icona::Stop};
 }
 
-Messaggio MessaggioNienteDiNuovo() {
-    return {std::string(TestoNienteDiNuovo), std::string(TitoloAggiornamento), Icona::Informazione};
+archives::Messaggio MessaggioNienteDiNuovo() {
+    return {std::string(TestoNienteDiNuovo), std::string(TitoloAggiornamento), archives::Icona::Informazione};
 }
 
-Messaggio MessaggioAggiornamentoEffettuato(Gioco gioco, std::string_view ultimaData) {
+archives::Messaggio MessaggioAggiornamentoEffettuato(Gioco gioco, std::string_view ultimaData) {
     return {fmt::format("Aggiornamento archivi {}al {} effettuato", gioco == Gioco::Lotto ? "" : "Superenalotto ",
                         ultimaData),
-            std::string(TitoloAggiornamento), Icona::Informazione};
+            std::string(TitoloAggiornamento), archives::Icona::Informazione};
 }
 
-Messaggio MessaggioEsportazioneEffettuata(std::string_view nomeFile, std::string_view ultimaData) {
+archives::Messaggio MessaggioEsportazioneEffettuata(std::string_view nomeFile, std::string_view ultimaData) {
     return {fmt::format("Esportazione archivio {} al {} effettuata", nomeFile, ultimaData),
-            std::string(TitoloEsportazione), Icona::Informazione};
+            std::string(TitoloEsportazione), archives::Icona::Informazione};
 }
 
-ControlloAggiornamento ControllaAggiornamento(const Archivio& archivio, std::string_view dati, Gioco gioco,
+ControlloAggiornamento ControllaAggiornamento(const archives::Archivio& archivio, std::string_view dati, Gioco gioco,
                                               std::string_view percorso) {
     ControlloAggiornamento c;
     const size_t R = static_cast<size_t>(LunghezzaRecord(gioco));
@@ -185,7 +185,7 @@ ControlloAggiornamento ControllaAggiornamento(const Archivio& archivio, std::str
         return corrotto(fmt::format("la lunghezza ({} byte) non è un multiplo di {}", dati.size(), R));
     c.record = static_cast<int32_t>(dati.size() / R);
     auto record = [&](int32_t i) { return dati.substr(static_cast<size_t>(i) * R, R); };
-    auto testoData = [](const Data& d) { return d.testo(); };
+    auto testoData = [](const archives::Data& d) { return d.testo(); };
 
     // The last record first, then the first, as the system reads them.
     const auto ultima = DataRecord(record(c.record - 1), gioco);
@@ -196,7 +196,7 @@ ControlloAggiornamento ControllaAggiornamento(const Archivio& archivio, std::str
     c.ultimaData = testoData(*ultima);
 
     // The file is a run of records in ascending order of date.
-    std::vector<Data> date(static_cast<size_t>(c.record));
+    std::vector<archives::Data> date(static_cast<size_t>(c.record));
     for (int32_t i = 0; i < c.record; ++i) {
         const auto d = DataRecord(record(i), gioco);
         if (!d) return corrotto(fmt::format("la data del record n. {} non è valida", i + 1));
@@ -212,7 +212,7 @@ ControlloAggiornamento ControllaAggiornamento(const Archivio& archivio, std::str
         c.messaggio = {gioco == Gioco::Lotto
                            ? "L'archivio delle estrazioni del Lotto è vuoto: aggiornamento impossibile"
                            : "L'archivio delle estrazioni del SuperEnalotto è vuoto: aggiornamento impossibile",
-                       std::string(TitoloAggiornamento), Icona::Stop};
+                       std::string(TitoloAggiornamento), archives::Icona::Stop};
         return c;
     }
     c.ultimaArchivio = ultimaArchivio->testo;
@@ -228,11 +228,11 @@ ControlloAggiornamento ControllaAggiornamento(const Archivio& archivio, std::str
     const auto primaNuova = std::upper_bound(date.begin(), date.end(), ultimaArchivio->data);
     c.primaNuova = static_cast<int32_t>(primaNuova - date.begin());
     c.nuove = c.record - c.primaNuova;
-    Data dataPrima = ultimaArchivio->data;
+    archives::Data dataPrima = ultimaArchivio->data;
     int numeroAnnoPrima = ultimaArchivio->numeroAnno;
     for (int32_t i = c.primaNuova; i < c.record; ++i) {
         const std::string_view r = record(i);
-        const Data& d = date[static_cast<size_t>(i)];
+        const archives::Data& d = date[static_cast<size_t>(i)];
         if (std::string difetto = DifettoRecord(r, gioco, d, dataPrima, numeroAnnoPrima); !difetto.empty())
             return corrotto(fmt::format("il record n. {} del {} {}", i + 1, testoData(d), difetto));
         dataPrima = d;
@@ -242,7 +242,7 @@ ControlloAggiornamento ControllaAggiornamento(const Archivio& archivio, std::str
     return c;
 }
 
-EsitoAggiornamento ApplicaAggiornamento(Archivio& archivio, std::string_view dati, Gioco gioco,
+EsitoAggiornamento ApplicaAggiornamento(archives::Archivio& archivio, std::string_view dati, Gioco gioco,
                                         std::string_view percorso) {
     EsitoAggiornamento e;
     e.controllo = ControllaAggiornamento(archivio, dati, gioco, percorso);
@@ -256,11 +256,11 @@ EsitoAggiornamento ApplicaAggiornamento(Archivio& archivio, std::string_view dat
         const size_t R = static_cast<size_t>(LunghezzaRecord(gioco));
         const std::string_view nuove = dati.substr(static_cast<size_t>(c.primaNuova) * R);
         if (gioco == Gioco::Lotto) {
-            std::vector<RecordEstrazione> v(static_cast<size_t>(c.nuove));
+            std::vector<archives::RecordEstrazione> v(static_cast<size_t>(c.nuove));
             std::memcpy(v.data(), nuove.data(), nuove.size());
             e.anniAggiunti = AccodaEstrazioni(archivio, v);
         } else {
-            std::vector<RecordSuperEnalotto> v(static_cast<size_t>(c.nuove));
+            std::vector<archives::RecordSuperEnalotto> v(static_cast<size_t>(c.nuove));
             std::memcpy(v.data(), nuove.data(), nuove.size());
             AccodaEstrazioniSuper(archivio, v);
         }
@@ -289,7 +289,7 @@ std::optional<std::string> LeggiFileAggiornamento(const fs::path& percorso) {
     return s;
 }
 
-ControlloAggiornamento ControllaFileAggiornamento(const Archivio& archivio, const fs::path& percorso, Gioco gioco) {
+ControlloAggiornamento ControllaFileAggiornamento(const archives::Archivio& archivio, const fs::path& percorso, Gioco gioco) {
     const auto dati = LeggiFileAggiornamento(percorso);
     if (!dati) {
         ControlloAggiornamento c;
@@ -300,7 +300,7 @@ ControlloAggiornamento ControllaFileAggiornamento(const Archivio& archivio, cons
     return ControllaAggiornamento(archivio, *dati, gioco, percorso.string());
 }
 
-EsitoAggiornamento ApplicaFileAggiornamento(Archivio& archivio, const fs::path& percorso, Gioco gioco) {
+EsitoAggiornamento ApplicaFileAggiornamento(archives::Archivio& archivio, const fs::path& percorso, Gioco gioco) {
     const auto dati = LeggiFileAggiornamento(percorso);
     if (!dati) {
         EsitoAggiornamento e;
@@ -311,7 +311,7 @@ EsitoAggiornamento ApplicaFileAggiornamento(Archivio& archivio, const fs::path& 
     return ApplicaAggiornamento(archivio, *dati, gioco, percorso.string());
 }
 
-int32_t AccodaEstrazioni(Archivio& archivio, std::span<const RecordEstrazione> nuove) {
+int32_t AccodaEstrazioni(archives::Archivio& archivio, std::span<const archives::RecordEstrazione> nuove) {
     if (nuove.empty()) return 0;
     const fs::path cartella = archivio.CartellaArchivi();
     FileDiretto estrazioni(cartella / "Estrazioni.ind", O_RDWR);
@@ -320,59 +320,59 @@ int32_t AccodaEstrazioni(Archivio& archivio, std::span<const RecordEstrazione> n
     // A partial trailing record is overwritten, as the system's append does; keep it to put
     // it back should the write fail.
     const uint64_t lunghezzaE = estrazioni.lunghezza(), lunghezzaA = anni.lunghezza();
-    const uint64_t baseE = lunghezzaE / LunghezzaRecordEstrazione * LunghezzaRecordEstrazione;
-    const uint64_t baseA = lunghezzaA / LunghezzaRecordAnno * LunghezzaRecordAnno;
+    const uint64_t baseE = lunghezzaE / archives::LunghezzaRecordEstrazione * archives::LunghezzaRecordEstrazione;
+    const uint64_t baseA = lunghezzaA / archives::LunghezzaRecordAnno * archives::LunghezzaRecordAnno;
     const std::string codaE = estrazioni.leggi(baseE, static_cast<size_t>(lunghezzaE - baseE));
     const std::string codaA = anni.leggi(baseA, static_cast<size_t>(lunghezzaA - baseA));
 
-    const int32_t primo = static_cast<int32_t>(baseE / LunghezzaRecordEstrazione) + 1;
-    std::vector<RecordAnno> nuoviAnni;
+    const int32_t primo = static_cast<int32_t>(baseE / archives::LunghezzaRecordEstrazione) + 1;
+    std::vector<archives::RecordAnno> nuoviAnni;
     for (size_t i = 0; i < nuove.size(); ++i)
         if (nuove[i].NumeroAnno == 1)
-            nuoviAnni.push_back(RecordAnno::Crea(nuove[i].data().anno, primo + static_cast<int32_t>(i)));
+            nuoviAnni.push_back(archives::RecordAnno::Crea(nuove[i].data().anno, primo + static_cast<int32_t>(i)));
 
     const uint64_t fineE = baseE + nuove.size_bytes();
-    const uint64_t fineA = baseA + nuoviAnni.size() * sizeof(RecordAnno);
+    const uint64_t fineA = baseA + nuoviAnni.size() * sizeof(archives::RecordAnno);
     try {
         // Draws first: a crash before the years leaves an index behind, which the repair
         // at the next opening rebuilds from the draws.
         estrazioni.scrivi(baseE, Byte(nuove));
         estrazioni.sincronizza();
         if (estrazioni.lunghezza() != fineE)
-            throw ErroreArchivio("La lunghezza di Estrazioni.ind dopo la scrittura non è quella attesa");
+            throw archives::ErroreArchivio("La lunghezza di Estrazioni.ind dopo la scrittura non è quella attesa");
         if (!nuoviAnni.empty()) {
-            anni.scrivi(baseA, Byte(std::span<const RecordAnno>(nuoviAnni)));
+            anni.scrivi(baseA, Byte(std::span<const archives::RecordAnno>(nuoviAnni)));
             anni.sincronizza();
             if (anni.lunghezza() != fineA)
-                throw ErroreArchivio("La lunghezza di anni.ind dopo la scrittura non è quella attesa");
+                throw archives::ErroreArchivio("La lunghezza di anni.ind dopo la scrittura non è quella attesa");
         }
     } catch (...) {
         anni.ripristina(lunghezzaA, codaA);
         estrazioni.ripristina(lunghezzaE, codaE);
-        archivio = Archivio::Apri(archivio.PercorsoProgramma(), ModoApertura::Scrittura);
+        archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
         throw;
     }
-    archivio = Archivio::Apri(archivio.PercorsoProgramma(), ModoApertura::Scrittura);
+    archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
     return static_cast<int32_t>(nuoviAnni.size());
 }
 
-void AccodaEstrazioniSuper(Archivio& archivio, std::span<const RecordSuperEnalotto> nuove) {
+void AccodaEstrazioniSuper(archives::Archivio& archivio, std::span<const archives::RecordSuperEnalotto> nuove) {
     if (nuove.empty()) return;
     FileDiretto super(archivio.CartellaArchivi() / "SuperEnalotto.ind", O_RDWR);
     const uint64_t lunghezza = super.lunghezza();
-    const uint64_t base = lunghezza / LunghezzaRecordSuper * LunghezzaRecordSuper;
+    const uint64_t base = lunghezza / archives::LunghezzaRecordSuper * archives::LunghezzaRecordSuper;
     const std::string coda = super.leggi(base, static_cast<size_t>(lunghezza - base));
     try {
         super.scrivi(base, Byte(nuove));
         super.sincronizza();
         if (super.lunghezza() != base + nuove.size_bytes())
-            throw ErroreArchivio("La lunghezza di SuperEnalotto.ind dopo la scrittura non è quella attesa");
+            throw archives::ErroreArchivio("La lunghezza di SuperEnalotto.ind dopo la scrittura non è quella attesa");
     } catch (...) {
         super.ripristina(lunghezza, coda);
-        archivio = Archivio::Apri(archivio.PercorsoProgramma(), ModoApertura::Scrittura);
+        archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
         throw;
     }
-    archivio = Archivio::Apri(archivio.PercorsoProgramma(), ModoApertura::Scrittura);
+    archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
 }
 
 void ScriviFileSostituendo(const fs::path& file, std::string_view contenuto) {
@@ -388,7 +388,7 @@ void ScriviFileSostituendo(const fs::path& file, std::string_view contenuto) {
         std::error_code ec;
         fs::rename(temporaneo, file, ec);
         if (ec)
-            throw ErroreArchivio(
+            throw archives::ErroreArchivio(
                 fmt::format("Impossibile scrivere il file {} : {}", file.string(), ec.message()));
     } catch (...) {
         std::error_code ec;
@@ -397,7 +397,7 @@ void ScriviFileSostituendo(const fs::path& file, std::string_view contenuto) {
     }
 }
 
-bool FileDellArchivio(const Archivio& archivio, const fs::path& file) {
+bool FileDellArchivio(const archives::Archivio& archivio, const fs::path& file) {
     for (const char* nome : {"Estrazioni.ind", "anni.ind", "SuperEnalotto.ind"}) {
         std::error_code ec;
         if (fs::equivalent(archivio.CartellaArchivi() / nome, file, ec)) return true;
@@ -405,12 +405,12 @@ bool FileDellArchivio(const Archivio& archivio, const fs::path& file) {
     return false;
 }
 
-Messaggio MessaggioFileDellArchivio(std::string_view file) {
+archives::Messaggio MessaggioFileDellArchivio(std::string_view file) {
     return {fmt::format("Il file {} è un archivio del programma: scegliere un altro nome.", file), "Errore",
-            Icona::Stop};
+            archives::Icona::Stop};
 }
 
-EsitoEsportazione EsportaAggiornamento(const Archivio& archivio, const fs::path& file, int32_t primoIndice) {
+EsitoEsportazione EsportaAggiornamento(const archives::Archivio& archivio, const fs::path& file, int32_t primoIndice) {
     EsitoEsportazione e;
     if (FileDellArchivio(archivio, file)) {
         e.messaggio = MessaggioFileDellArchivio(file.string());
@@ -418,9 +418,9 @@ EsitoEsportazione EsportaAggiornamento(const Archivio& archivio, const fs::path&
     }
     primoIndice = std::max<int32_t>(1, primoIndice);
     const int32_t ultimo = archivio.NumeroEstrazioni();
-    std::vector<RecordEstrazione> v;
+    std::vector<archives::RecordEstrazione> v;
     if (primoIndice <= ultimo) v = archivio.LeggiEstrazioni(primoIndice, ultimo);
-    ScriviFileSostituendo(file, Byte(std::span<const RecordEstrazione>(v)));
+    ScriviFileSostituendo(file, Byte(std::span<const archives::RecordEstrazione>(v)));
     e.riuscito = true;
     e.esportate = static_cast<int32_t>(v.size());
     if (!v.empty()) {
@@ -451,15 +451,15 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         f.tronca(l - l % dimensione);
         return l % dimensione;
     };
-    r.byteTroncatiEstrazioni = troncaCoda(pE, LunghezzaRecordEstrazione);
-    r.byteTroncatiAnni = troncaCoda(pA, LunghezzaRecordAnno);
-    r.byteTroncatiSuper = troncaCoda(pS, LunghezzaRecordSuper);
+    r.byteTroncatiEstrazioni = troncaCoda(pE, archives::LunghezzaRecordEstrazione);
+    r.byteTroncatiAnni = troncaCoda(pA, archives::LunghezzaRecordAnno);
+    r.byteTroncatiSuper = troncaCoda(pS, archives::LunghezzaRecordSuper);
 
     if (fs::exists(pE, ec) && fs::exists(pA, ec)) {
-        const int32_t n = static_cast<int32_t>(lunghezza(pE) / LunghezzaRecordEstrazione);
-        std::vector<RecordAnno> anni(lunghezza(pA) / LunghezzaRecordAnno);
+        const int32_t n = static_cast<int32_t>(lunghezza(pE) / archives::LunghezzaRecordEstrazione);
+        std::vector<archives::RecordAnno> anni(lunghezza(pA) / archives::LunghezzaRecordAnno);
         if (!anni.empty()) {
-            const std::string b = FileDiretto(pA, O_RDONLY).leggi(0, anni.size() * sizeof(RecordAnno));
+            const std::string b = FileDiretto(pA, O_RDONLY).leggi(0, anni.size() * sizeof(archives::RecordAnno));
             std::memcpy(anni.data(), b.data(), b.size());
         }
         // Years that point past the draws: the draws of an interrupted write were taken back.
@@ -475,20 +475,20 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
             da = anni[validi - 1].primaEstrazione();
             annoCorrente = anni[validi - 1].anno();
         }
-        std::vector<RecordAnno> aggiunti;
+        std::vector<archives::RecordAnno> aggiunti;
         if (n >= da) {
             FileDiretto f(pE, O_RDONLY);
-            const std::string b = f.leggi(static_cast<uint64_t>(da - 1) * LunghezzaRecordEstrazione,
-                                          static_cast<size_t>(n - da + 1) * LunghezzaRecordEstrazione);
+            const std::string b = f.leggi(static_cast<uint64_t>(da - 1) * archives::LunghezzaRecordEstrazione,
+                                          static_cast<size_t>(n - da + 1) * archives::LunghezzaRecordEstrazione);
             for (int32_t i = da; i <= n && coerente; ++i) {
-                RecordEstrazione rec;
+                archives::RecordEstrazione rec;
                 std::memcpy(&rec, b.data() + static_cast<size_t>(i - da) * sizeof rec, sizeof rec);
-                const Data d = rec.data();
+                const archives::Data d = rec.data();
                 if (!d.valida()) break;
                 if (i == da && validi > 0) {
                     coerente = d.anno == annoCorrente;
                 } else if (d.anno > annoCorrente) {
-                    aggiunti.push_back(RecordAnno::Crea(d.anno, i));
+                    aggiunti.push_back(archives::RecordAnno::Crea(d.anno, i));
                     annoCorrente = d.anno;
                 } else if (d.anno < annoCorrente) {
                     break;  // out of order: not a crash, not ours to touch
@@ -499,11 +499,11 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         if (validi < anni.size() || !aggiunti.empty()) {
             FileDiretto f(pA, O_RDWR);
             if (validi < anni.size()) {
-                r.byteTroncatiAnni += (anni.size() - validi) * sizeof(RecordAnno);
-                f.tronca(validi * sizeof(RecordAnno));
+                r.byteTroncatiAnni += (anni.size() - validi) * sizeof(archives::RecordAnno);
+                f.tronca(validi * sizeof(archives::RecordAnno));
             }
             if (!aggiunti.empty()) {
-                f.scrivi(validi * sizeof(RecordAnno), Byte(std::span<const RecordAnno>(aggiunti)));
+                f.scrivi(validi * sizeof(archives::RecordAnno), Byte(std::span<const archives::RecordAnno>(aggiunti)));
                 f.sincronizza();
                 r.anniAggiunti = static_cast<int32_t>(aggiunti.size());
             }
@@ -527,10 +527,10 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
     return r;
 }
 
-EsitoRiparazione RiparaArchivio(Archivio& archivio) {
+EsitoRiparazione RiparaArchivio(archives::Archivio& archivio) {
     EsitoRiparazione r = RiparaCartellaArchivi(archivio.CartellaArchivi());
-    if (r.riparato()) archivio = Archivio::Apri(archivio.PercorsoProgramma(), ModoApertura::Scrittura);
+    if (r.riparato()) archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
     return r;
 }
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

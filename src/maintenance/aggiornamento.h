@@ -15,12 +15,12 @@
 #include "archives/archivio.h"
 #include "archives/messaggio.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 enum class Gioco { Lotto, SuperEnalotto };
 
 constexpr int LunghezzaRecord(Gioco g) {
-    return g == Gioco::Lotto ? LunghezzaRecordEstrazione : LunghezzaRecordSuper;
+    return g == Gioco::Lotto ? archives::LunghezzaRecordEstrazione : archives::LunghezzaRecordSuper;
 }
 
 // The first draw that an export holds when no start is given.
@@ -34,13 +34,13 @@ inline constexpr std::string_view TitoloEsportazione = "Esportazione archivi";
 inline constexpr std::string_view TestoDiscontinuita = "Discontinuità di memorizzazione - Aggiornamento impossibile";
 inline constexpr std::string_view TestoNienteDiNuovo = "Per il momento non ci sono aggiornamenti utili";
 // ErrFile: the path followed by " corrotto o mancante !", title "Errore", stop icon.
-Messaggio ErrFile(std::string_view percorso);
-Messaggio MessaggioDiscontinuita();
-Messaggio MessaggioNienteDiNuovo();
+archives::Messaggio ErrFile(std::string_view percorso);
+archives::Messaggio MessaggioDiscontinuita();
+archives::Messaggio MessaggioNienteDiNuovo();
 // "Aggiornamento archivi [Superenalotto ]al <data> effettuato".
-Messaggio MessaggioAggiornamentoEffettuato(Gioco gioco, std::string_view ultimaData);
+archives::Messaggio MessaggioAggiornamentoEffettuato(Gioco gioco, std::string_view ultimaData);
 // "Esportazione archivio <file> al <data> effettuata".
-Messaggio MessaggioEsportazioneEffettuata(std::string_view nomeFile, std::string_view ultimaData);
+archives::Messaggio MessaggioEsportazioneEffettuata(std::string_view nomeFile, std::string_view ultimaData);
 
 enum class StatoAggiornamento {
     Corrotto,       // ErrFile: length, a date, or a record that would break the archive
@@ -54,7 +54,7 @@ struct ControlloAggiornamento {
     StatoAggiornamento stato = StatoAggiornamento::Corrotto;
     // The system's message for every state but Pronto and NienteDiNuovo (which the screens of
     // files show silently, and the Internet update with TestoNienteDiNuovo).
-    Messaggio messaggio;
+    archives::Messaggio messaggio;
     // Which record is wrong and why, for the command line; the screens show only `messaggio`.
     std::string dettaglio;
     int32_t record = 0;         // records in the file
@@ -74,13 +74,13 @@ struct ControlloAggiornamento {
 // or a NumeroAnno out of step (1 exactly at the first draw of a year, else the previous
 // plus 1): such a file would put the archive out of step with its invariants.
 // `percorso` only names the file in the messages.
-ControlloAggiornamento ControllaAggiornamento(const Archivio& archivio, std::string_view dati, Gioco gioco,
+ControlloAggiornamento ControllaAggiornamento(const archives::Archivio& archivio, std::string_view dati, Gioco gioco,
                                               std::string_view percorso);
 
 struct EsitoAggiornamento {
     bool riuscito = false;
     ControlloAggiornamento controllo;  // the check made just before writing
-    Messaggio messaggio;               // the end message, or the refusal
+    archives::Messaggio messaggio;               // the end message, or the refusal
     int32_t aggiunte = 0;              // draws appended
     int32_t anniAggiunti = 0;          // records appended to anni.ind
     std::string ultimaData;            // the archive's last date afterwards
@@ -93,7 +93,7 @@ struct EsitoAggiornamento {
 // nothing is written. A file with nothing new is no refusal: riuscito with 0 aggiunte and
 // the message TestoNienteDiNuovo. Throws ErroreArchivio on an input/output failure, after
 // taking back what it had written.
-EsitoAggiornamento ApplicaAggiornamento(Archivio& archivio, std::string_view dati, Gioco gioco,
+EsitoAggiornamento ApplicaAggiornamento(archives::Archivio& archivio, std::string_view dati, Gioco gioco,
                                         std::string_view percorso);
 
 // The bytes of a file chosen by the user; nothing when it cannot be read or is larger than
@@ -101,28 +101,28 @@ EsitoAggiornamento ApplicaAggiornamento(Archivio& archivio, std::string_view dat
 std::optional<std::string> LeggiFileAggiornamento(const std::filesystem::path& percorso);
 
 // Convenience for a file on disk: read, then check or apply.
-ControlloAggiornamento ControllaFileAggiornamento(const Archivio& archivio, const std::filesystem::path& percorso,
+ControlloAggiornamento ControllaFileAggiornamento(const archives::Archivio& archivio, const std::filesystem::path& percorso,
                                                   Gioco gioco);
-EsitoAggiornamento ApplicaFileAggiornamento(Archivio& archivio, const std::filesystem::path& percorso, Gioco gioco);
+EsitoAggiornamento ApplicaFileAggiornamento(archives::Archivio& archivio, const std::filesystem::path& percorso, Gioco gioco);
 
 struct EsitoEsportazione {
     bool riuscito = false;
-    Messaggio messaggio;     // the end message, or why nothing was written
+    archives::Messaggio messaggio;     // the end message, or why nothing was written
     int32_t esportate = 0;
     std::string primaData;   // empty when nothing was written
     std::string ultimaData;
 };
 
 // True when `file` is one of the archive's own files: no export may replace them.
-bool FileDellArchivio(const Archivio& archivio, const std::filesystem::path& file);
+bool FileDellArchivio(const archives::Archivio& archivio, const std::filesystem::path& file);
 // "Il file <file> è un archivio del programma: scegliere un altro nome.", title "Errore".
-Messaggio MessaggioFileDellArchivio(std::string_view file);
+archives::Messaggio MessaggioFileDellArchivio(std::string_view file);
 
 // Writes Lotto draws primoIndice..NumeroEstrazioni as raw records to `file`, replacing it
 // (through a temporary file and a rename). An archive shorter than primoIndice gives an
 // empty file and still the end message, with an empty date. primoIndice below 1 counts as 1.
 // Refused (riuscito false, nothing written) when `file` is a file of the archive.
-EsitoEsportazione EsportaAggiornamento(const Archivio& archivio, const std::filesystem::path& file,
+EsitoEsportazione EsportaAggiornamento(const archives::Archivio& archivio, const std::filesystem::path& file,
                                        int32_t primoIndice = PrimaEsportata);
 
 // The writers' common step. Appends whole draws at the end of Estrazioni.ind in one write,
@@ -130,8 +130,8 @@ EsitoEsportazione EsportaAggiornamento(const Archivio& archivio, const std::file
 // flushed and the lengths re-read; on a failure both files are put back as they were and
 // ErroreArchivio is thrown. `archivio` is reopened in write mode afterwards. The caller has
 // checked the draws. Returns the year records appended.
-int32_t AccodaEstrazioni(Archivio& archivio, std::span<const RecordEstrazione> nuove);
-void AccodaEstrazioniSuper(Archivio& archivio, std::span<const RecordSuperEnalotto> nuove);
+int32_t AccodaEstrazioni(archives::Archivio& archivio, std::span<const archives::RecordEstrazione> nuove);
+void AccodaEstrazioniSuper(archives::Archivio& archivio, std::span<const archives::RecordSuperEnalotto> nuove);
 
 // Replaces `file` with `contenuto` through a temporary file in the same folder and a rename,
 // so that a failed write leaves the old file. Throws ErroreArchivio.
@@ -157,6 +157,6 @@ struct EsitoRiparazione {
 // opened; creates nothing. Throws ErroreArchivio on an input/output failure.
 EsitoRiparazione RiparaCartellaArchivi(const std::filesystem::path& cartellaArchivi);
 // The same on an open archive, which is reopened in write mode when anything changed.
-EsitoRiparazione RiparaArchivio(Archivio& archivio);
+EsitoRiparazione RiparaArchivio(archives::Archivio& archivio);
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

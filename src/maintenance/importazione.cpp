@@ -8,7 +8,7 @@
 #include <memory>
 #include <zip.h>
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 namespace fs = std::filesystem;
 
@@ -21,7 +21,7 @@ constexpr std::array<std::string_view, 12> kCodici = {"",   "BA", "CA", "FI", "G
 // in the public layout is about 3 MB).
 constexpr uint64_t kMassimoTesto = 64u << 20;
 
-Messaggio Errore(std::string testo) { return {std::move(testo), "Errore", Icona::Stop}; }
+archives::Messaggio Errore(std::string testo) { return {std::move(testo), "Errore", archives::Icona::Stop}; }
 
 std::string_view Spoglia(std::string_view s) {
     while (!s.empty() && (s.front() == ' ' || s.front() == '\t' || s.front() == '\r')) s.remove_prefix(1);
@@ -64,7 +64,7 @@ std::optional<int> Intero(std::string_view s) {
 
 // YYYY/MM/DD, YYYY-MM-DD, DD/MM/YYYY (also with '-' or '.'), one or two digits for day and
 // month; a real calendar date.
-std::optional<Data> LeggiData(std::string_view s) {
+std::optional<archives::Data> LeggiData(std::string_view s) {
     const size_t a = s.find_first_of("/-.");
     if (a == std::string_view::npos) return std::nullopt;
     const char sep = s[a];
@@ -74,11 +74,11 @@ std::optional<Data> LeggiData(std::string_view s) {
     for (std::string_view p : {p1, p2, p3})
         if (p.empty() || !std::all_of(p.begin(), p.end(), [](char c) { return c >= '0' && c <= '9'; }))
             return std::nullopt;
-    Data d;
+    archives::Data d;
     if (p1.size() == 4 && p2.size() <= 2 && p3.size() <= 2)
-        d = Data{*Intero(p3), *Intero(p2), *Intero(p1)};
+        d = archives::Data{*Intero(p3), *Intero(p2), *Intero(p1)};
     else if (p3.size() == 4 && p1.size() <= 2 && p2.size() <= 2)
-        d = Data{*Intero(p1), *Intero(p2), *Intero(p3)};
+        d = archives::Data{*Intero(p1), *Intero(p2), *Intero(p3)};
     else
         return std::nullopt;
     if (!d.valida()) return std::nullopt;
@@ -128,7 +128,7 @@ std::vector<Riga> Righe(std::string_view testo) {
 template <typename Record>
 struct Letta {
     Record record;
-    Data data;
+    archives::Data data;
     int riga;
 };
 
@@ -139,8 +139,8 @@ std::string ControllaOrdine(std::vector<Letta<Record>>& v, const std::vector<int
     if (v.size() < 2) return {};
     const bool discendente = v.back().data < v.front().data;
     for (size_t i = 1; i < v.size(); ++i) {
-        const Data& prima = v[i - 1].data;
-        const Data& questa = v[i].data;
+        const archives::Data& prima = v[i - 1].data;
+        const archives::Data& questa = v[i].data;
         if (prima == questa)
             return fmt::format("Riga {}: l'estrazione del {} compare già alla riga {}.", v[i].riga, questa.testo(),
                                righeDate[i - 1]);
@@ -155,7 +155,7 @@ std::string ControllaOrdine(std::vector<Letta<Record>>& v, const std::vector<int
 
 // NumeroAnno by the invariant, continuing from a previous draw (none: the archive is empty).
 template <typename Record>
-std::string Numera(std::vector<Letta<Record>>& v, std::optional<Data> dataPrima, int numeroAnnoPrima) {
+std::string Numera(std::vector<Letta<Record>>& v, std::optional<archives::Data> dataPrima, int numeroAnnoPrima) {
     for (auto& l : v) {
         const int n = dataPrima && dataPrima->anno == l.data.anno ? numeroAnnoPrima + 1 : 1;
         if (n > 255)
@@ -171,8 +171,8 @@ std::string Numera(std::vector<Letta<Record>>& v, std::optional<Data> dataPrima,
 struct Lettura {
     std::string errore;
     int rigaErrore = 0;
-    std::vector<Letta<RecordEstrazione>> lotto;
-    std::vector<Letta<RecordSuperEnalotto>> super;
+    std::vector<Letta<archives::RecordEstrazione>> lotto;
+    std::vector<Letta<archives::RecordSuperEnalotto>> super;
 };
 
 int RigaDi(const std::string& errore) {
@@ -210,14 +210,14 @@ Lettura LeggiLotto(std::string_view testo) {
             for (size_t q = 0; q < p; ++q)
                 if (numeri[q] == *n) {
                     l.errore = fmt::format("Riga {}: il numero {} è ripetuto sulla ruota di {}.", r.numero, *n,
-                                           Spoglia(NomiRuota[static_cast<size_t>(ruota)]));
+                                           Spoglia(archives::NomiRuota[static_cast<size_t>(ruota)]));
                     return l;
                 }
             numeri[p] = static_cast<uint8_t>(*n);
         }
         if (v.empty() || !(v.back().data == *d)) {
             // A new draw; the order against the previous one is checked once all are read.
-            Letta<RecordEstrazione> nuova{RecordEstrazione{}, *d, r.numero};
+            Letta<archives::RecordEstrazione> nuova{archives::RecordEstrazione{}, *d, r.numero};
             nuova.record.impostaData(*d);
             v.push_back(nuova);
             righe.push_back(r.numero);
@@ -225,7 +225,7 @@ Lettura LeggiLotto(std::string_view testo) {
         }
         if (rigaRuota[static_cast<size_t>(ruota)] != 0) {
             l.errore = fmt::format("Riga {}: la ruota di {} del {} compare già alla riga {}.", r.numero,
-                                   Spoglia(NomiRuota[static_cast<size_t>(ruota)]), d->testo(),
+                                   Spoglia(archives::NomiRuota[static_cast<size_t>(ruota)]), d->testo(),
                                    rigaRuota[static_cast<size_t>(ruota)]);
             return l;
         }
@@ -264,7 +264,7 @@ Lettura LeggiSuper(std::string_view testo) {
                                    r.numero, r.testo.substr(0, 60));
             return l;
         }
-        Letta<RecordSuperEnalotto> nuova{RecordSuperEnalotto{}, *d, r.numero};
+        Letta<archives::RecordSuperEnalotto> nuova{archives::RecordSuperEnalotto{}, *d, r.numero};
         nuova.record.impostaData(*d);
         for (size_t p = 0; p < 6; ++p) {
             const auto n = LeggiNumero(campi[1 + p], r.numero, l.errore);
@@ -292,12 +292,12 @@ Lettura LeggiSuper(std::string_view testo) {
 
 // The archive's last draw of the game, when there is one.
 struct Ultima {
-    Data data;
+    archives::Data data;
     int numeroAnno;
     std::string testo;
 };
 
-std::optional<Ultima> UltimaEstrazione(const Archivio& a, Gioco gioco) {
+std::optional<Ultima> UltimaEstrazione(const archives::Archivio& a, Gioco gioco) {
     if (gioco == Gioco::Lotto) {
         if (a.NumeroEstrazioni() < 1) return std::nullopt;
         const auto r = a.LeggiEstrazione(a.NumeroEstrazioni());
@@ -311,8 +311,8 @@ std::optional<Ultima> UltimaEstrazione(const Archivio& a, Gioco gioco) {
 // The whole preparation: read, check against the archive, keep the draws to append.
 struct Preparazione {
     EsitoImportazione esito;
-    std::vector<RecordEstrazione> lotto;
-    std::vector<RecordSuperEnalotto> super;
+    std::vector<archives::RecordEstrazione> lotto;
+    std::vector<archives::RecordSuperEnalotto> super;
 };
 
 template <typename Record>
@@ -349,7 +349,7 @@ void Prepara(Preparazione& p, std::vector<Letta<Record>>& lette, std::vector<Rec
     if (uscita.empty()) e.messaggio = MessaggioNienteDiNuovo();
 }
 
-Preparazione Prepara(const Archivio& archivio, std::string_view testo, Gioco gioco) {
+Preparazione Prepara(const archives::Archivio& archivio, std::string_view testo, Gioco gioco) {
     Preparazione p;
     Lettura l = gioco == Gioco::Lotto ? LeggiLotto(testo) : LeggiSuper(testo);
     if (!l.errore.empty()) {
@@ -383,13 +383,13 @@ int RuotaDaCodice(std::string_view codice) {
     for (char& ch : c) ch = static_cast<char>(std::toupper(static_cast<unsigned char>(ch)));
     if (c == "RO") return 8;
     if (c == "NZ") return 11;
-    for (int w = 1; w <= NumeroRuote; ++w)
+    for (int w = 1; w <= archives::NumeroRuote; ++w)
         if (c == kCodici[static_cast<size_t>(w)]) return w;
     return 0;
 }
 
 std::string_view CodicePubblico(int ruota) {
-    return ruota >= 1 && ruota <= NumeroRuote ? kCodici[static_cast<size_t>(ruota)] : std::string_view{};
+    return ruota >= 1 && ruota <= archives::NumeroRuote ? kCodici[static_cast<size_t>(ruota)] : std::string_view{};
 }
 
 TestoLetto LeggiTesto(std::string_view testo, Gioco gioco) {
@@ -409,11 +409,11 @@ TestoLetto LeggiTesto(std::string_view testo, Gioco gioco) {
     return t;
 }
 
-EsitoImportazione ControllaTesto(const Archivio& archivio, std::string_view testo, Gioco gioco) {
+EsitoImportazione ControllaTesto(const archives::Archivio& archivio, std::string_view testo, Gioco gioco) {
     return Prepara(archivio, testo, gioco).esito;
 }
 
-EsitoImportazione ImportaTesto(Archivio& archivio, std::string_view testo, Gioco gioco) {
+EsitoImportazione ImportaTesto(archives::Archivio& archivio, std::string_view testo, Gioco gioco) {
     Preparazione p = Prepara(archivio, testo, gioco);
     EsitoImportazione& e = p.esito;
     if (!e.riuscito || e.aggiunte == 0) return e;
@@ -422,13 +422,13 @@ EsitoImportazione ImportaTesto(Archivio& archivio, std::string_view testo, Gioco
     else
         AccodaEstrazioniSuper(archivio, p.super);
     e.ultimaArchivio = gioco == Gioco::Lotto ? archivio.DataEstrazione(archivio.NumeroEstrazioni())
-                                             : archivio.DataEstrazione(archivio.NumeroEstrazioniSuper(), ArchivioSuper);
+                                             : archivio.DataEstrazione(archivio.NumeroEstrazioniSuper(), archives::ArchivioSuper);
     const std::string_view nomeGioco = gioco == Gioco::Lotto ? "del Lotto" : "del SuperEnalotto";
     e.messaggio = {e.creato ? fmt::format("Archivio delle estrazioni {} creato: {} estrazioni dal {} al {}.", nomeGioco,
                                           e.aggiunte, e.primaData, e.ultimaData)
                             : fmt::format("Importazione archivio {} al {} effettuata: {} estrazioni aggiunte.",
                                           nomeGioco, e.ultimaArchivio, e.aggiunte),
-                   std::string(TitoloImportazione), Icona::Informazione};
+                   std::string(TitoloImportazione), archives::Icona::Informazione};
     return e;
 }
 
@@ -495,7 +495,7 @@ std::optional<std::string> EstraiTestoZip(std::string_view dati, std::string* er
     return testo;
 }
 
-EsitoImportazione ControllaDati(const Archivio& archivio, std::string_view dati, Gioco gioco) {
+EsitoImportazione ControllaDati(const archives::Archivio& archivio, std::string_view dati, Gioco gioco) {
     if (!SembraZip(dati)) return ControllaTesto(archivio, dati, gioco);
     std::string errore;
     const auto testo = EstraiTestoZip(dati, &errore);
@@ -507,11 +507,11 @@ EsitoImportazione ControllaDati(const Archivio& archivio, std::string_view dati,
     return ControllaTesto(archivio, *testo, gioco);
 }
 
-EsitoImportazione ImportaDati(Archivio& archivio, std::string_view dati, Gioco gioco) {
+EsitoImportazione ImportaDati(archives::Archivio& archivio, std::string_view dati, Gioco gioco) {
     return SembraZip(dati) ? ImportaZip(archivio, dati, gioco) : ImportaTesto(archivio, dati, gioco);
 }
 
-EsitoImportazione ImportaZip(Archivio& archivio, std::string_view zip, Gioco gioco) {
+EsitoImportazione ImportaZip(archives::Archivio& archivio, std::string_view zip, Gioco gioco) {
     std::string errore;
     const auto testo = EstraiTestoZip(zip, &errore);
     if (!testo) {
@@ -522,7 +522,7 @@ EsitoImportazione ImportaZip(Archivio& archivio, std::string_view zip, Gioco gio
     return ImportaTesto(archivio, *testo, gioco);
 }
 
-EsitoImportazione ImportaFile(Archivio& archivio, const fs::path& file, Gioco gioco) {
+EsitoImportazione ImportaFile(archives::Archivio& archivio, const fs::path& file, Gioco gioco) {
     const auto dati = LeggiFileAggiornamento(file);
     if (!dati) {
         EsitoImportazione e;
@@ -532,16 +532,16 @@ EsitoImportazione ImportaFile(Archivio& archivio, const fs::path& file, Gioco gi
     return ImportaDati(archivio, *dati, gioco);
 }
 
-std::string EsportaTesto(const Archivio& archivio) {
+std::string EsportaTesto(const archives::Archivio& archivio) {
     std::string s;
     const int32_t n = archivio.NumeroEstrazioni();
     s.reserve(static_cast<size_t>(n) * 11 * 26);
     constexpr int32_t kBlocco = 4096;
     for (int32_t da = 1; da <= n; da += kBlocco) {
-        for (const RecordEstrazione& r : archivio.LeggiEstrazioni(da, std::min(n, da + kBlocco - 1))) {
-            const Data d = r.data();
+        for (const archives::RecordEstrazione& r : archivio.LeggiEstrazioni(da, std::min(n, da + kBlocco - 1))) {
+            const archives::Data d = r.data();
             const std::string data = fmt::format("{:04}/{:02}/{:02}", d.anno, d.mese, d.giorno);
-            for (int w = 1; w <= NumeroRuote; ++w) {
+            for (int w = 1; w <= archives::NumeroRuote; ++w) {
                 const uint8_t* c = r.Ruota[w - 1];
                 if (!(c[0] | c[1] | c[2] | c[3] | c[4])) continue;
                 fmt::format_to(std::back_inserter(s), "{}\t{}\t{}\t{}\t{}\t{}\t{}\n", data, CodicePubblico(w), c[0],
@@ -552,9 +552,9 @@ std::string EsportaTesto(const Archivio& archivio) {
     return s;
 }
 
-void EsportaTesto(const Archivio& archivio, const fs::path& file) {
-    if (FileDellArchivio(archivio, file)) throw ErroreArchivio(MessaggioFileDellArchivio(file.string()).testo);
+void EsportaTesto(const archives::Archivio& archivio, const fs::path& file) {
+    if (FileDellArchivio(archivio, file)) throw archives::ErroreArchivio(MessaggioFileDellArchivio(file.string()).testo);
     ScriviFileSostituendo(file, EsportaTesto(archivio));
 }
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

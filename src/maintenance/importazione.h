@@ -25,13 +25,13 @@
 #include "archives/messaggio.h"
 #include "maintenance/aggiornamento.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 inline constexpr std::string_view TitoloImportazione = "Importazione archivio";
 
 struct EsitoImportazione {
     bool riuscito = false;
-    Messaggio messaggio;    // the end message, or the refusal (a faulty line names its number)
+    archives::Messaggio messaggio;    // the end message, or the refusal (a faulty line names its number)
     std::string dettaglio;  // more on a refusal of continuity, for the command line
     int riga = 0;           // 1-based line of the fault, 0 when none
     int32_t estrazioni = 0; // draws read from the file
@@ -45,8 +45,8 @@ struct EsitoImportazione {
 // The draws of a text, checked and numbered, ready to append; no archive is touched.
 struct TestoLetto {
     EsitoImportazione esito;  // riuscito false: the refusal
-    std::vector<RecordEstrazione> lotto;         // in ascending date order
-    std::vector<RecordSuperEnalotto> super;      // in ascending date order
+    std::vector<archives::RecordEstrazione> lotto;         // in ascending date order
+    std::vector<archives::RecordSuperEnalotto> super;      // in ascending date order
 };
 
 // Reads a whole text in either game's layout. NumeroAnno starts from 1 at each year, so it is
@@ -55,11 +55,11 @@ TestoLetto LeggiTesto(std::string_view testo, Gioco gioco);
 
 // Checks a text against the archive without writing: the esito of ImportaTesto (aggiunte is
 // what would be appended).
-EsitoImportazione ControllaTesto(const Archivio& archivio, std::string_view testo, Gioco gioco);
+EsitoImportazione ControllaTesto(const archives::Archivio& archivio, std::string_view testo, Gioco gioco);
 // Imports a text. Writes draws and years in one write per file, flushed, then reopens
 // `archivio` in write mode. Throws ErroreArchivio on an input/output failure, after taking
 // back what it had written.
-EsitoImportazione ImportaTesto(Archivio& archivio, std::string_view testo, Gioco gioco);
+EsitoImportazione ImportaTesto(archives::Archivio& archivio, std::string_view testo, Gioco gioco);
 
 // The text file inside a zip held in memory: the single .txt, or the first .txt, or the
 // first file when none ends in .txt. Nothing, with `errore` set (Italian), when it is no zip
@@ -69,26 +69,26 @@ std::optional<std::string> EstraiTestoZip(std::string_view zip, std::string* err
 bool SembraZip(std::string_view dati);
 
 // A zip only: its text imported; refused with the zip's own message when it is no zip.
-EsitoImportazione ImportaZip(Archivio& archivio, std::string_view zip, Gioco gioco);
+EsitoImportazione ImportaZip(archives::Archivio& archivio, std::string_view zip, Gioco gioco);
 
 // Text or zip, told by their first bytes: what a downloaded public archive or a file picked
 // by the user goes through.
-EsitoImportazione ControllaDati(const Archivio& archivio, std::string_view dati, Gioco gioco);
-EsitoImportazione ImportaDati(Archivio& archivio, std::string_view dati, Gioco gioco);
+EsitoImportazione ControllaDati(const archives::Archivio& archivio, std::string_view dati, Gioco gioco);
+EsitoImportazione ImportaDati(archives::Archivio& archivio, std::string_view dati, Gioco gioco);
 // The same on a file on disk (a file that cannot be read is refused, naming it).
-EsitoImportazione ImportaFile(Archivio& archivio, const std::filesystem::path& file, Gioco gioco);
+EsitoImportazione ImportaFile(archives::Archivio& archivio, const std::filesystem::path& file, Gioco gioco);
 
 // The whole Lotto archive in the public layout: ascending dates, wheels in the order BA CA FI
 // GE MI NA PA RM TO VE RN, a wheel with no number left out, numbers without leading zeros,
 // tabs, "\n" after every line. A stored 0 among numbers of a wheel is written as 0.
-std::string EsportaTesto(const Archivio& archivio);
+std::string EsportaTesto(const archives::Archivio& archivio);
 // Writes it to a file (through a temporary file and a rename). Throws ErroreArchivio, also
 // when `file` is one of the archive's own files.
-void EsportaTesto(const Archivio& archivio, const std::filesystem::path& file);
+void EsportaTesto(const archives::Archivio& archivio, const std::filesystem::path& file);
 
 // Wheel (1..11) of a public code, 0 when none.
 int RuotaDaCodice(std::string_view codice);
 // The public code of a wheel 1..11 (RM for Roma, RN for Nazionale).
 std::string_view CodicePubblico(int ruota);
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

@@ -5,7 +5,7 @@
 
 #include "archives/regole.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 namespace {
 
@@ -30,9 +30,9 @@ int NumeroCaratteri(std::string_view s) {
     return n;
 }
 
-Messaggio Domanda(std::string_view testo) { return {std::string(testo), std::string(TitoloConferma), Icona::Domanda}; }
+archives::Messaggio Domanda(std::string_view testo) { return {std::string(testo), std::string(TitoloConferma), archives::Icona::Domanda}; }
 
-Messaggio Avviso(std::string testo) { return {std::move(testo), "", Icona::Esclamazione}; }
+archives::Messaggio Avviso(std::string testo) { return {std::move(testo), "", archives::Icona::Esclamazione}; }
 
 }  // namespace
 
@@ -51,14 +51,14 @@ int ValoreCasella(std::string_view testo) {
     return n;
 }
 
-Messaggio ControllaCasella(std::string_view testo) {
+archives::Messaggio ControllaCasella(std::string_view testo) {
     if (ValoreCasella(testo) > 90) return Avviso(std::string(TestoNumeroFuoriLimiti));
     return {};
 }
 
 std::string SuggerimentoCasella(int indice) {
     return fmt::format("{}' estratto ruota di {}", PosizioneCasella(indice),
-                       NomiRuota[static_cast<size_t>(RuotaCasella(indice))]);
+                       archives::NomiRuota[static_cast<size_t>(RuotaCasella(indice))]);
 }
 
 // --------------------------------------------------------------- the paste decoder
@@ -91,7 +91,7 @@ EsitoDecodifica DecodificaTesto(std::string_view testo, std::span<std::string> c
         if (v < 1 || v > 90) {
             caselle[i].clear();
             e.casellaErrata = static_cast<int>(i) + 1;
-            e.errore = {std::string(TestoValoriIncongruenti), "Errore", Icona::Stop};
+            e.errore = {std::string(TestoValoriIncongruenti), "Errore", archives::Icona::Stop};
             return e;
         }
         ++e.caselleRiempite;
@@ -112,16 +112,16 @@ std::array<bool, 8> GiorniDiEstrazione(std::string_view lettere) {
     return giorni;
 }
 
-Data DataProposta(const Data& ultimaEstrazione, std::string_view giorniEstrazione) {
+archives::Data DataProposta(const archives::Data& ultimaEstrazione, std::string_view giorniEstrazione) {
     const auto giorni = GiorniDiEstrazione(giorniEstrazione);
     int32_t g = ultimaEstrazione.giorni() + 1;
-    while (!giorni[static_cast<size_t>(Data::daGiorni(g).giornoSettimana())]) ++g;
-    return Data::daGiorni(g);
+    while (!giorni[static_cast<size_t>(archives::Data::daGiorni(g).giornoSettimana())]) ++g;
+    return archives::Data::daGiorni(g);
 }
 
 // --------------------------------------------------------------- the engine
 
-Inserimento::Inserimento(Archivio& archivio, GiocoInserimento gioco)
+Inserimento::Inserimento(archives::Archivio& archivio, GiocoInserimento gioco)
     : archivio_(archivio),
       gioco_(gioco),
       caselle_(gioco == GiocoInserimento::Lotto ? CaselleLotto : CaselleSuper),
@@ -141,7 +141,7 @@ int32_t Inserimento::Totale() const {
 
 int32_t Inserimento::TotaleEstrazioni() const { return Totale(); }
 
-Data Inserimento::DataRecord(int32_t indice) const {
+archives::Data Inserimento::DataRecord(int32_t indice) const {
     return gioco_ == GiocoInserimento::Lotto ? archivio_.LeggiEstrazione(indice).data()
                                              : archivio_.LeggiRecordSuper(indice).data();
 }
@@ -174,10 +174,10 @@ ControlliAttivi Inserimento::Controlli() const {
     return c;
 }
 
-std::optional<Data> Inserimento::DataCaselle() const {
+std::optional<archives::Data> Inserimento::DataCaselle() const {
     const auto g = Intero(giorno_), m = Intero(mese_), a = Intero(anno_);
     if (!g || !m || !a || *a < 1) return std::nullopt;
-    const Data d{*g, *m, *a};
+    const archives::Data d{*g, *m, *a};
     if (!d.valida()) return std::nullopt;
     return d;
 }
@@ -185,14 +185,14 @@ std::optional<Data> Inserimento::DataCaselle() const {
 std::string Inserimento::NomeGiornoEstrazione() const {
     if (mese_.empty() || anno_.empty()) return {};
     const auto d = DataCaselle();
-    return d ? std::string(NomeGiorno(d->giornoSettimana())) : std::string();
+    return d ? std::string(archives::NomeGiorno(d->giornoSettimana())) : std::string();
 }
 
 std::string Inserimento::TestoAnnoEstrazione() const {
     return annoEtichetta_ > 0 ? fmt::format("{} / ", annoEtichetta_) : std::string();
 }
 
-void Inserimento::MettiData(const Data& d) {
+void Inserimento::MettiData(const archives::Data& d) {
     giorno_ = fmt::format("{:02}", d.giorno);
     mese_ = fmt::format("{:02}", d.mese);
     anno_ = fmt::format("{:04}", d.anno);
@@ -207,7 +207,7 @@ void Inserimento::Mostra(int32_t indice) {
     if (indice < 1 || indice > Totale()) return;
     indiceCorrente_ = indice;
     if (gioco_ == GiocoInserimento::Lotto) {
-        const RecordEstrazione r = archivio_.LeggiEstrazione(indice);
+        const archives::RecordEstrazione r = archivio_.LeggiEstrazione(indice);
         for (int i = 1; i <= CaselleLotto; ++i)
             caselle_[static_cast<size_t>(i - 1)] = std::to_string(r.Numero(RuotaCasella(i), PosizioneCasella(i)));
         numeroAnno_ = r.NumeroAnno;
@@ -216,7 +216,7 @@ void Inserimento::Mostra(int32_t indice) {
         anno_ = std::string(r.dataCifre().substr(4, 4));
         giornoNuovo_ = r.giornoSettimana();
     } else {
-        const RecordSuperEnalotto r = archivio_.LeggiRecordSuper(indice);
+        const archives::RecordSuperEnalotto r = archivio_.LeggiRecordSuper(indice);
         for (int i = 0; i < 6; ++i) caselle_[static_cast<size_t>(i)] = std::to_string(r.Sestina[i]);
         caselle_[6] = std::to_string(r.Jolly);
         caselle_[7] = std::to_string(r.SuperStar);
@@ -229,7 +229,7 @@ void Inserimento::Mostra(int32_t indice) {
     annoEtichetta_ = Intero(anno_).value_or(0);
 }
 
-Messaggio Inserimento::Nuova(std::string_view giorniEstrazione) {
+archives::Messaggio Inserimento::Nuova(std::string_view giorniEstrazione) {
     const int32_t n = Totale();
     if (n < 1) return Avviso("L'archivio non contiene estrazioni: manca l'ultima estrazione da cui proporre la data.");
     // Every box is emptied, so none shows a number of the draw browsed before; Nazionale
@@ -247,19 +247,19 @@ Messaggio Inserimento::Nuova(std::string_view giorniEstrazione) {
     ultimoAnno_ = gioco_ == GiocoInserimento::Lotto && archivio_.NumeroAnni() > 0
                       ? archivio_.LeggiAnno(archivio_.NumeroAnni()).anno()
                       : DataRecord(n).anno;
-    const Data ultima = DataRecord(n);
-    const Data proposta = DataProposta(ultima, giorniEstrazione);
+    const archives::Data ultima = DataRecord(n);
+    const archives::Data proposta = DataProposta(ultima, giorniEstrazione);
     MettiData(proposta);
     numeroAnno_ = proposta.anno == ultima.anno ? NumeroAnnoRecord(n) + 1 : 1;
     annoEtichetta_ = proposta.anno;
     return {};
 }
 
-Messaggio Inserimento::ImpostaDataNuova(const Data& data) {
+archives::Messaggio Inserimento::ImpostaDataNuova(const archives::Data& data) {
     if (modo_ != ModoInserimento::Nuova) return {};
     const int32_t n = Totale();
-    const Data ultima = DataRecord(n);
-    if (!data.valida()) return Avviso(std::string(MessaggioDataErrata));
+    const archives::Data ultima = DataRecord(n);
+    if (!data.valida()) return Avviso(std::string(archives::MessaggioDataErrata));
     if (data <= ultima)
         return Avviso(fmt::format("La data di una nuova estrazione deve seguire quella dell'ultima estrazione "
                                   "in archivio ({}) !",
@@ -295,7 +295,7 @@ void Inserimento::Precedente() {
         case ModoInserimento::Nuova: {
             const auto d = DataCaselle();
             if (!d) return;
-            const Data giorno = Data::daGiorni(d->giorni() - 1);
+            const archives::Data giorno = archives::Data::daGiorni(d->giorni() - 1);
             if (giorno <= DataRecord(Totale())) return;
             MettiData(giorno);
             AggiornaNumeroAnnoNuova();
@@ -304,7 +304,7 @@ void Inserimento::Precedente() {
         case ModoInserimento::Correzione: {
             const auto d = DataCaselle();
             if (!d) return;
-            const Data giorno = Data::daGiorni(d->giorni() - 1);
+            const archives::Data giorno = archives::Data::daGiorni(d->giorni() - 1);
             const Vicini v = DateVicine(indiceCorrente_);
             if (v.precedente && giorno <= *v.precedente) return;
             MettiData(giorno);
@@ -321,14 +321,14 @@ void Inserimento::Successiva() {
         case ModoInserimento::Nuova: {
             const auto d = DataCaselle();
             if (!d) return;
-            MettiData(Data::daGiorni(d->giorni() + 1));
+            MettiData(archives::Data::daGiorni(d->giorni() + 1));
             AggiornaNumeroAnnoNuova();
             return;
         }
         case ModoInserimento::Correzione: {
             const auto d = DataCaselle();
             if (!d) return;
-            const Data giorno = Data::daGiorni(d->giorni() + 1);
+            const archives::Data giorno = archives::Data::daGiorni(d->giorni() + 1);
             const Vicini v = DateVicine(indiceCorrente_);
             if (v.successiva && giorno >= *v.successiva) return;
             MettiData(giorno);
@@ -349,7 +349,7 @@ int Inserimento::CaselleInGioco() const {
     return indiceCorrente_ < SogliaNazionale ? CaselleLotto - 5 : CaselleLotto;
 }
 
-EsitoMemorizzazione Inserimento::Rifiuto(Messaggio m, int casella) const {
+EsitoMemorizzazione Inserimento::Rifiuto(archives::Messaggio m, int casella) const {
     EsitoMemorizzazione e;
     e.stato = StatoMemorizzazione::Rifiutata;
     e.messaggio = std::move(m);
@@ -409,12 +409,12 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
     // since the date was proposed); a correction stays between its neighbours and in its year,
     // so that the year numbers and the year index stay true.
     const auto data = DataCaselle();
-    if (!data) return Rifiuto(Avviso(std::string(MessaggioDataErrata)));
+    if (!data) return Rifiuto(Avviso(std::string(archives::MessaggioDataErrata)));
     const int32_t totale = Totale();
     int numeroAnno = numeroAnno_;
     if (nuova) {
         if (totale >= 1) {
-            const Data ultima = DataRecord(totale);
+            const archives::Data ultima = DataRecord(totale);
             if (*data <= ultima)
                 return Rifiuto(Avviso(fmt::format("La data di una nuova estrazione deve seguire quella dell'ultima "
                                                   "estrazione in archivio ({}) !",
@@ -433,7 +433,7 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
                 "La data deve restare tra quella dell'estrazione precedente ({}) e quella della successiva ({}) !",
                 v.precedente ? v.precedente->testo() : std::string("-"),
                 v.successiva ? v.successiva->testo() : std::string("-"))));
-        const Data memorizzata = DataRecord(indiceCorrente_);
+        const archives::Data memorizzata = DataRecord(indiceCorrente_);
         if (data->anno != memorizzata.anno)
             return Rifiuto(Avviso(fmt::format("La data corretta deve restare nell'anno {}: il numero dell'estrazione "
                                               "nell'anno e l'indice degli anni ne dipendono.",
@@ -442,7 +442,7 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
     // Both weekday digits follow the date, as every reader of the archive expects.
     const int giorno = data->giornoSettimana();
     if (giorno < 1 || giorno > 7)
-        return Rifiuto({std::string(TestoErroreGiornoSettimana), "", Icona::Esclamazione});
+        return Rifiuto({std::string(TestoErroreGiornoSettimana), "", archives::Icona::Esclamazione});
     auto byte = [&](int i) { return static_cast<uint8_t>(ValoreCasella(Casella(i))); };
 
     EsitoMemorizzazione e;
@@ -450,8 +450,8 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
     e.nuova = nuova;
     e.indice = nuova ? totale + 1 : indiceCorrente_;
     if (lotto) {
-        RecordEstrazione r = nuova ? RecordEstrazione{} : archivio_.LeggiEstrazione(indiceCorrente_);
-        for (int w = 1; w <= NumeroRuote; ++w)
+        archives::RecordEstrazione r = nuova ? archives::RecordEstrazione{} : archivio_.LeggiEstrazione(indiceCorrente_);
+        for (int w = 1; w <= archives::NumeroRuote; ++w)
             for (int p = 1; p <= 5; ++p) {
                 const int i = (w - 1) * 5 + p;
                 r.Ruota[w - 1][p - 1] = i <= inGioco ? byte(i) : 0;
@@ -465,7 +465,7 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
             archivio_.CorreggiEstrazione(indiceCorrente_, r);
         }
     } else {
-        RecordSuperEnalotto r = nuova ? RecordSuperEnalotto{} : archivio_.LeggiRecordSuper(indiceCorrente_);
+        archives::RecordSuperEnalotto r = nuova ? archives::RecordSuperEnalotto{} : archivio_.LeggiRecordSuper(indiceCorrente_);
         for (int i = 0; i < 6; ++i) r.Sestina[i] = byte(i + 1);
         r.Jolly = byte(7);
         r.SuperStar = byte(8);
@@ -489,8 +489,8 @@ bool Inserimento::ChiedeSalvataggio() const {
     return std::any_of(caselle_.begin(), caselle_.end(), [](const std::string& c) { return !c.empty(); });
 }
 
-Messaggio Inserimento::DomandaSalvataggio() {
-    return {std::string(TestoSalvareDati), std::string(TitoloInputEstrazioni), Icona::Domanda};
+archives::Messaggio Inserimento::DomandaSalvataggio() {
+    return {std::string(TestoSalvareDati), std::string(TitoloInputEstrazioni), archives::Icona::Domanda};
 }
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

@@ -17,7 +17,7 @@
 #include "archives/messaggio.h"
 #include "archives/record.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 enum class GiocoInserimento { Lotto, SuperEnalotto };
 
@@ -58,7 +58,7 @@ bool SoloCifre(int codiceTasto);
 int ValoreCasella(std::string_view testo);
 // The check when a box is left: a value above 90 gives the message (exclamation icon); an
 // empty box passes.
-Messaggio ControllaCasella(std::string_view testo);
+archives::Messaggio ControllaCasella(std::string_view testo);
 // Tool tip of box `indice` (1..55): p + "' estratto ruota di " + the wheel's name.
 std::string SuggerimentoCasella(int indice);
 // Wheel (1..11) and position (1..5) of box 1..55.
@@ -75,7 +75,7 @@ struct EsitoDecodifica {
     int numeriLetti = 0;    // tokens found (at most as many as the boxes)
     int caselleRiempite = 0;
     int casellaErrata = 0;  // 1-based box left blank by a value out of 1..90; 0 for none
-    Messaggio errore;       // TestoValoriIncongruenti under "Errore", stop icon
+    archives::Messaggio errore;       // TestoValoriIncongruenti under "Errore", stop icon
 };
 
 // Fills the boxes in order from the numbers of the text; a box without a number keeps what
@@ -88,7 +88,7 @@ EsitoDecodifica DecodificaTesto(std::string_view testo, std::span<std::string> c
 // `Giorni estrazione` as seven flags, index 1 = Sunday; no "Y" at all gives Saturday alone.
 std::array<bool, 8> GiorniDiEstrazione(std::string_view lettere);
 // The first flagged weekday after the last draw's date.
-Data DataProposta(const Data& ultimaEstrazione, std::string_view giorniEstrazione);
+archives::Data DataProposta(const archives::Data& ultimaEstrazione, std::string_view giorniEstrazione);
 
 // --------------------------------------------------------------- the store
 
@@ -109,7 +109,7 @@ enum class StatoMemorizzazione {
 struct EsitoMemorizzazione {
     StatoMemorizzazione stato = StatoMemorizzazione::Rifiutata;
     DomandaInserimento domanda = DomandaInserimento::Nessuna;
-    Messaggio messaggio;
+    archives::Messaggio messaggio;
     int casella = 0;          // on a refusal caused by a box: that box (1-based), to focus
     int32_t indice = 0;       // the index written
     bool nuova = false;       // appended (true) or corrected
@@ -126,7 +126,7 @@ struct ControlliAttivi {
 // outlive it; it is written only by Memorizza.
 class Inserimento {
 public:
-    Inserimento(Archivio& archivio, GiocoInserimento gioco);
+    Inserimento(archives::Archivio& archivio, GiocoInserimento gioco);
 
     GiocoInserimento gioco() const { return gioco_; }
     ModoInserimento modo() const { return modo_; }
@@ -150,7 +150,7 @@ public:
     void ImpostaMese(std::string t) { mese_ = std::move(t); }
     void ImpostaAnno(std::string t) { anno_ = std::move(t); }
     // The date of the boxes when they make one.
-    std::optional<Data> DataCaselle() const;
+    std::optional<archives::Data> DataCaselle() const;
     // lblGiornoEstraz: the weekday name of the date in the boxes; empty when month or year
     // is empty or the boxes make no date.
     std::string NomeGiornoEstrazione() const;
@@ -165,9 +165,9 @@ public:
     // Browse: shows a draw (1..TotaleEstrazioni); out of range does nothing.
     void Mostra(int32_t indice);
     // cmdNuova. Refuses (nothing changes) when the archive holds no draw.
-    Messaggio Nuova(std::string_view giorniEstrazione);
+    archives::Messaggio Nuova(std::string_view giorniEstrazione);
     // A new draw's date set directly (the command line): it must follow the last draw.
-    Messaggio ImpostaDataNuova(const Data& data);
+    archives::Messaggio ImpostaDataNuova(const archives::Data& data);
     // cmdCorreggi, on the draw shown.
     void Correggi();
     // cmdPrecedente / cmdSuccessiva: by mode, a draw or a day, within the limits.
@@ -182,23 +182,23 @@ public:
 
     // Closing in New or Correction mode with a box filled asks TestoSalvareDati.
     bool ChiedeSalvataggio() const;
-    static Messaggio DomandaSalvataggio();
+    static archives::Messaggio DomandaSalvataggio();
 
 private:
     struct Vicini {
-        std::optional<Data> precedente, successiva;
+        std::optional<archives::Data> precedente, successiva;
     };
     int32_t Totale() const;
-    Data DataRecord(int32_t indice) const;
+    archives::Data DataRecord(int32_t indice) const;
     int NumeroAnnoRecord(int32_t indice) const;
     Vicini DateVicine(int32_t indice) const;
-    void MettiData(const Data& d);
+    void MettiData(const archives::Data& d);
     void AggiornaNumeroAnnoNuova();
     void Apri(bool aperte, int fino);
     int CaselleInGioco() const;
-    EsitoMemorizzazione Rifiuto(Messaggio m, int casella = 0) const;
+    EsitoMemorizzazione Rifiuto(archives::Messaggio m, int casella = 0) const;
 
-    Archivio& archivio_;
+    archives::Archivio& archivio_;
     GiocoInserimento gioco_;
     ModoInserimento modo_ = ModoInserimento::Consulta;
     int32_t indiceCorrente_ = 0;
@@ -212,4 +212,4 @@ private:
     std::string testo_;
 };
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

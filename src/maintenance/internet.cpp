@@ -11,7 +11,7 @@
 
 #include "maintenance/importazione.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 namespace fs = std::filesystem;
 
@@ -44,11 +44,11 @@ std::string TestoStatoErrore(std::string_view testoFinora, int codice, std::stri
     return fmt::format("{}Errore di connessione {} : {}", testoFinora, codice, testoRisposta);
 }
 
-Messaggio DomandaAllineamento(Gioco gioco, std::string_view ultimaData) {
+archives::Messaggio DomandaAllineamento(Gioco gioco, std::string_view ultimaData) {
     const std::string_view gara = gioco == Gioco::Lotto ? "" : "Superenalotto ";
     return {fmt::format("E' disponibile l'aggiornamento estrazioni {}al {}. Confermi allineamento archivio locale ?",
                         gara, ultimaData),
-            std::string(testi::TitoloDomanda), Icona::Domanda};
+            std::string(testi::TitoloDomanda), archives::Icona::Domanda};
 }
 
 EsitoSetaccio Setaccio(std::span<const uint8_t> corpo, Gioco gioco) {
@@ -65,7 +65,7 @@ EsitoSetaccio Setaccio(std::span<const uint8_t> corpo, Gioco gioco) {
     return EsitoSetaccio::Nessuno;
 }
 
-Messaggio MessaggioSetaccio(EsitoSetaccio esito) {
+archives::Messaggio MessaggioSetaccio(EsitoSetaccio esito) {
     std::string_view testo;
     switch (esito) {
         case EsitoSetaccio::PaginaNonTrovata: testo = testi::NonTrovatoSulServer; break;
@@ -73,7 +73,7 @@ Messaggio MessaggioSetaccio(EsitoSetaccio esito) {
         case EsitoSetaccio::IndirizzoErrato: testo = testi::NonTrovatoIndirizzo; break;
         case EsitoSetaccio::Nessuno: return {};
     }
-    return {std::string(testo), std::string(TitoloAggiornamento), Icona::Stop};
+    return {std::string(testo), std::string(TitoloAggiornamento), archives::Icona::Stop};
 }
 
 namespace {
@@ -163,9 +163,9 @@ std::error_code ScriviCopiaLocale(const fs::path& copiaLocale, std::span<const u
     return ec;
 }
 
-Messaggio MessaggioCopiaLocale(const fs::path& copiaLocale, std::error_code errore) {
+archives::Messaggio MessaggioCopiaLocale(const fs::path& copiaLocale, std::error_code errore) {
     return {fmt::format("Impossibile scrivere il file {} (errore n. {})", copiaLocale.string(), errore.value()),
-            "Errore", Icona::Stop};
+            "Errore", archives::Icona::Stop};
 }
 
 namespace {
@@ -185,7 +185,7 @@ ControlloStorico ControllaScaricamentoStorico(const Scaricamento& s) {
     ControlloStorico c;
     const auto rifiuta = [&](std::string_view titolo, std::string dettaglio) {
         c.dettaglio = std::move(dettaglio);
-        c.messaggio = {fmt::format("{}\n{}", titolo, c.dettaglio), std::string(TitoloStorico), Icona::Stop};
+        c.messaggio = {fmt::format("{}\n{}", titolo, c.dettaglio), std::string(TitoloStorico), archives::Icona::Stop};
         return c;
     };
     if (s.annullato) return rifiuta("Scaricamento annullato", s.indirizzo);
@@ -223,4 +223,4 @@ std::string MessaggioErroreSuper(int numero, std::string_view testo, int passagg
         numero, testo, passaggio, copiaLocale.string(), dimensione);
 }
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

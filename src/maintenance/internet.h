@@ -16,7 +16,7 @@
 #include "archives/messaggio.h"
 #include "maintenance/aggiornamento.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 // "AggiornamentoPz.bin" or "AggiornamentoSuperEnalotto.bin".
 std::string_view NomeRemoto(Gioco gioco);
@@ -43,7 +43,7 @@ inline constexpr std::string_view TitoloDomanda = "Aggiornamento estrazioni";
 
 // The question before the update: "E' disponibile l'aggiornamento estrazioni [Superenalotto ]al
 // <data>. Confermi allineamento archivio locale ?", title "Aggiornamento estrazioni".
-Messaggio DomandaAllineamento(Gioco gioco, std::string_view ultimaData);
+archives::Messaggio DomandaAllineamento(Gioco gioco, std::string_view ultimaData);
 
 // The states the HTTP client reports, numbered as the system's client numbers them.
 namespace stati {
@@ -78,7 +78,7 @@ enum class EsitoSetaccio {
 // binary data too: a genuine file whose first records hold "404" or "407" is refused.
 EsitoSetaccio Setaccio(std::span<const uint8_t> corpo, Gioco gioco);
 // The message of a sieve's result, under "Aggiornamento archivi" with the stop icon.
-Messaggio MessaggioSetaccio(EsitoSetaccio esito);
+archives::Messaggio MessaggioSetaccio(EsitoSetaccio esito);
 
 // What the HTTP client received, as plain data.
 struct Scaricamento {
@@ -110,7 +110,7 @@ struct ValutazioneScaricamento {
     // The new text of lblStatus; empty leaves it alone.
     std::string stato;
     // What to show in a message box; empty: nothing.
-    Messaggio messaggio;
+    archives::Messaggio messaggio;
     // What failed, for the command line and the label's tool tip; empty when nothing did.
     std::string dettaglio;
 };
@@ -125,7 +125,7 @@ ValutazioneScaricamento ValutaScaricamento(const Scaricamento& s, Gioco gioco,
 // rename, so a half-written copy never stands). A false error code on success.
 std::error_code ScriviCopiaLocale(const std::filesystem::path& copiaLocale, std::span<const uint8_t> corpo);
 // "Impossibile scrivere il file <path> (errore n. <n>)": the local copy could not be written.
-Messaggio MessaggioCopiaLocale(const std::filesystem::path& copiaLocale, std::error_code errore);
+archives::Messaggio MessaggioCopiaLocale(const std::filesystem::path& copiaLocale, std::error_code errore);
 
 // The public archive downloaded from the setting UrlStorico, before the import: the answer
 // must be whole with status 2xx, and a zip that opens or a text (not a page, not binary).
@@ -133,7 +133,7 @@ struct ControlloStorico {
     bool valido = false;
     bool zip = false;
     // The refusal, its text naming what failed: the address, the HTTP status, not a zip.
-    Messaggio messaggio;
+    archives::Messaggio messaggio;
     std::string dettaglio;  // the second part of the text alone
 };
 ControlloStorico ControllaScaricamentoStorico(const Scaricamento& s);
@@ -146,4 +146,4 @@ inline constexpr std::string_view TestoStoricoNonImpostato =
 std::string MessaggioErroreSuper(int numero, std::string_view testo, int passaggio,
                                  const std::filesystem::path& copiaLocale, std::uintmax_t dimensione);
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

@@ -8,14 +8,14 @@
 #include "archives/regole.h"
 #include "config/formato.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 namespace {
 
 using config::RigaReport;
 using config::RigaTesto;
 
-Messaggio Avviso(std::string_view testo) { return {std::string(testo), "", Icona::Esclamazione}; }
+archives::Messaggio Avviso(std::string_view testo) { return {std::string(testo), "", archives::Icona::Esclamazione}; }
 
 // A placed line without the blanks that fill it to the page's width.
 std::string Testo(const RigaReport& r) {
@@ -26,7 +26,7 @@ std::string Testo(const RigaReport& r) {
 
 std::string DueCifre(int n) { return fmt::format("{:02}", n); }
 
-std::string Cinquina(const RecordEstrazione& r, int ruota) {
+std::string Cinquina(const archives::RecordEstrazione& r, int ruota) {
     std::string s;
     for (int p = 1; p <= 5; ++p) {
         if (p > 1) s += ' ';
@@ -45,7 +45,7 @@ std::string Cella(std::string_view testo, int larghezza) {
 // The draws chosen by the month and near-date choices, from candidates in date order.
 struct Candidato {
     int32_t indice;
-    Data data;
+    archives::Data data;
 };
 
 std::vector<Candidato> Filtra(std::vector<Candidato> tutti, const ParametriStampaEstrazioni& p) {
@@ -68,13 +68,13 @@ std::vector<Candidato> Filtra(std::vector<Candidato> tutti, const ParametriStamp
 }
 
 std::string TestoDataVicina(const ParametriStampaEstrazioni& p) {
-    return fmt::format("{} {}", p.giorno, NomeMese(p.meseVicino));
+    return fmt::format("{} {}", p.giorno, archives::NomeMese(p.meseVicino));
 }
 
 // The choices as the twins print them: "Solo mese di " and " - Solo date vicine al ".
 std::string ScelteGemelli(const ParametriStampaEstrazioni& p) {
     std::string s;
-    if (p.soloMese) s += "Solo mese di " + std::string(NomeMese(p.mese));
+    if (p.soloMese) s += "Solo mese di " + std::string(archives::NomeMese(p.mese));
     if (p.dataVicina) s += " - Solo date vicine al " + TestoDataVicina(p);
     return s;
 }
@@ -87,13 +87,13 @@ struct Intervallo {
 template <typename Controlla>
 std::optional<Intervallo> ControllaIntervallo(const ParametriStampaEstrazioni& p, StampaComposta& s,
                                               Controlla controlla) {
-    const RisultatoData da = controlla(p.dataInizio, false);
+    const archives::RisultatoData da = controlla(p.dataInizio, false);
     if (da.ErroreData) {
         s.errore = da.messaggio;
         return std::nullopt;
     }
     s.dataInizio = da.DataTrovata;
-    const RisultatoData a = controlla(p.dataFine, true);
+    const archives::RisultatoData a = controlla(p.dataFine, true);
     if (a.ErroreData) {
         s.errore = a.messaggio;
         return std::nullopt;
@@ -104,12 +104,12 @@ std::optional<Intervallo> ControllaIntervallo(const ParametriStampaEstrazioni& p
         return std::nullopt;
     }
     if (p.soloMese && (p.mese < 1 || p.mese > 12)) {
-        s.errore = Avviso(MessaggioDataErrata);
+        s.errore = Avviso(archives::MessaggioDataErrata);
         return std::nullopt;
     }
     // Any day that some year has passes: a leap year under the system's own rule.
-    if (p.dataVicina && (p.giorno < 1 || p.meseVicino < 1 || DataErrata(p.giorno, p.meseVicino, 2000))) {
-        s.errore = Avviso(MessaggioDataErrata);
+    if (p.dataVicina && (p.giorno < 1 || p.meseVicino < 1 || archives::DataErrata(p.giorno, p.meseVicino, 2000))) {
+        s.errore = Avviso(archives::MessaggioDataErrata);
         return std::nullopt;
     }
     return Intervallo{std::max(da.IndiceTrovato, 1), a.IndiceTrovato};
@@ -134,7 +134,7 @@ void PagineSemplici(StampaComposta& s, const std::vector<std::string>& righe, in
     } while (pagina * perPagina < n);
 }
 
-void ComponiLista(StampaComposta& s, const std::vector<RecordEstrazione>& draws, int ruota) {
+void ComponiLista(StampaComposta& s, const std::vector<archives::RecordEstrazione>& draws, int ruota) {
     const int n = static_cast<int>(draws.size());
     int pagina = 0;
     do {
@@ -153,7 +153,7 @@ void ComponiLista(StampaComposta& s, const std::vector<RecordEstrazione>& draws,
     } while (pagina * EstrazioniPaginaLista < n);
 }
 
-void ComponiBlocchi(StampaComposta& s, const std::vector<RecordEstrazione>& draws) {
+void ComponiBlocchi(StampaComposta& s, const std::vector<archives::RecordEstrazione>& draws) {
     const int n = static_cast<int>(draws.size());
     constexpr int perPagina = BlocchiPerRiga * RigheBlocchiPagina;
     int pagina = 0;
@@ -169,10 +169,10 @@ void ComponiBlocchi(StampaComposta& s, const std::vector<RecordEstrazione>& draw
             RigaReport titolo(80);
             for (int k = 0; k < quanti; ++k) titolo.metti(12 + 25 * k, draws[static_cast<size_t>(primo + k)].dataTesto());
             s.righe.push_back({Testo(titolo), true});
-            for (int w = 1; w <= NumeroRuote; ++w) {
+            for (int w = 1; w <= archives::NumeroRuote; ++w) {
                 RigaReport r(80);
                 for (int k = 0; k < quanti; ++k)
-                    r.metti(5 + 25 * k, std::string(NomiRuota[static_cast<size_t>(w)]) +
+                    r.metti(5 + 25 * k, std::string(archives::NomiRuota[static_cast<size_t>(w)]) +
                                             Cinquina(draws[static_cast<size_t>(primo + k)], w));
                 s.righe.push_back({Testo(r)});
             }
@@ -180,14 +180,14 @@ void ComponiBlocchi(StampaComposta& s, const std::vector<RecordEstrazione>& draw
     } while (pagina * perPagina < n);
 }
 
-void ComponiTabella(StampaComposta& s, const std::vector<RecordEstrazione>& draws, int ruota) {
+void ComponiTabella(StampaComposta& s, const std::vector<archives::RecordEstrazione>& draws, int ruota) {
     const int n = static_cast<int>(draws.size());
     int pagina = 0;
     do {
         ++pagina;
         Testata(s, pagina);
         if (pagina == 1) {
-            s.righe.push_back({"Estrazioni della ruota di " + std::string(NomiRuota[static_cast<size_t>(ruota)]), true});
+            s.righe.push_back({"Estrazioni della ruota di " + std::string(archives::NomiRuota[static_cast<size_t>(ruota)]), true});
             s.righe.push_back({""});
         }
         s.righe.push_back({std::string(RigaDecine)});
@@ -201,9 +201,9 @@ void ComponiTabella(StampaComposta& s, const std::vector<RecordEstrazione>& draw
 
 // --------------------------------------------------------------- lines
 
-std::string RigaLista(const RecordEstrazione& r, int ruota) { return r.dataTesto() + "  " + Cinquina(r, ruota); }
+std::string RigaLista(const archives::RecordEstrazione& r, int ruota) { return r.dataTesto() + "  " + Cinquina(r, ruota); }
 
-std::string RigaTabella(const RecordEstrazione& r, int ruota) {
+std::string RigaTabella(const archives::RecordEstrazione& r, int ruota) {
     std::string riga;
     for (int gruppo = 0; gruppo < 9; ++gruppo) {
         if (gruppo > 0) riga += ' ';
@@ -221,7 +221,7 @@ std::string RigaTabella(const RecordEstrazione& r, int ruota) {
     return riga;
 }
 
-std::string RigaSuper(const EstrazioneSuper& e) {
+std::string RigaSuper(const archives::EstrazioneSuper& e) {
     // After a zero among the six the reading stopped: those places stay blank.
     std::string sei;
     for (int i = 0; i < 6; ++i) {
@@ -229,8 +229,8 @@ std::string RigaSuper(const EstrazioneSuper& e) {
         if (i > 0) sei += ' ';
         sei += n > 0 ? DueCifre(n) : std::string("  ");
     }
-    const bool jolly = e.esito == SuperConJolly || e.esito == SuperConJollySuperStar;
-    const bool star = e.esito == SuperConSuperStar || e.esito == SuperConJollySuperStar;
+    const bool jolly = e.esito == archives::SuperConJolly || e.esito == archives::SuperConJollySuperStar;
+    const bool star = e.esito == archives::SuperConSuperStar || e.esito == archives::SuperConJollySuperStar;
     std::string riga = "|";
     riga.append(Cella(e.data, 12)).append("|").append(Cella(sei, 24)).append("|");
     riga.append(Cella(jolly ? DueCifre(e.numeri[6]) : std::string(), 7)).append("|");
@@ -247,12 +247,12 @@ std::string Riga10eLotto(std::string_view data, const std::array<int, 20>& numer
 
 // --------------------------------------------------------------- pages
 
-StampaComposta ComponiStampaLotto(const Archivio& archivio, const ParametriStampaEstrazioni& p) {
+StampaComposta ComponiStampaLotto(const archives::Archivio& archivio, const ParametriStampaEstrazioni& p) {
     StampaComposta s;
     const auto intervallo = ControllaIntervallo(
-        p, s, [&](const std::string& t, bool precedente) { return ControllaData(t, archivio, precedente); });
+        p, s, [&](const std::string& t, bool precedente) { return archives::ControllaData(t, archivio, precedente); });
     if (!intervallo) return s;
-    if (p.ruota < 0 || p.ruota > NumeroRuote) {
+    if (p.ruota < 0 || p.ruota > archives::NumeroRuote) {
         s.errore = Avviso(TestoRuotaSingola);
         return s;
     }
@@ -268,8 +268,8 @@ StampaComposta ComponiStampaLotto(const Archivio& archivio, const ParametriStamp
         s.layout = p.ruota == 0 ? LayoutStampa::Blocchi : LayoutStampa::Lista;
     }
     s.titolo1 = "Gorgo - Stampa estrazioni dal " + s.dataInizio + " al " + s.dataFine;
-    s.titolo2 = "Ruota : " + std::string(NomiRuota[static_cast<size_t>(p.ruota)]);
-    if (p.soloMese) s.titolo2 += " - Solo mese di " + std::string(NomeMese(p.mese));
+    s.titolo2 = "Ruota : " + std::string(archives::NomiRuota[static_cast<size_t>(p.ruota)]);
+    if (p.soloMese) s.titolo2 += " - Solo mese di " + std::string(archives::NomeMese(p.mese));
     if (p.dataVicina) s.titolo2 += " - Solo date vicine al " + TestoDataVicina(p);
 
     const auto letti = archivio.LeggiEstrazioni(intervallo->inizio, intervallo->fine);
@@ -277,7 +277,7 @@ StampaComposta ComponiStampaLotto(const Archivio& archivio, const ParametriStamp
     candidati.reserve(letti.size());
     for (size_t i = 0; i < letti.size(); ++i)
         candidati.push_back({intervallo->inizio + static_cast<int32_t>(i), letti[i].data()});
-    std::vector<RecordEstrazione> scelti;
+    std::vector<archives::RecordEstrazione> scelti;
     for (const Candidato& c : Filtra(std::move(candidati), p))
         scelti.push_back(letti[static_cast<size_t>(c.indice - intervallo->inizio)]);
     s.estrazioni = static_cast<int>(scelti.size());
@@ -296,11 +296,11 @@ StampaComposta ComponiStampaLotto(const Archivio& archivio, const ParametriStamp
     return s;
 }
 
-StampaComposta ComponiStampaSuper(const Archivio& archivio, const ParametriStampaEstrazioni& p) {
+StampaComposta ComponiStampaSuper(const archives::Archivio& archivio, const ParametriStampaEstrazioni& p) {
     StampaComposta s;
     s.layout = LayoutStampa::ListaSuper;
     const auto intervallo = ControllaIntervallo(
-        p, s, [&](const std::string& t, bool precedente) { return ControllaDataSuper(t, archivio, precedente); });
+        p, s, [&](const std::string& t, bool precedente) { return archives::ControllaDataSuper(t, archivio, precedente); });
     if (!intervallo) return s;
     s.titolo1 = "Gorgo - Stampa estrazioni Superenalotto dal " + s.dataInizio + " al " + s.dataFine;
     s.titolo2 = ScelteGemelli(p);
@@ -311,7 +311,7 @@ StampaComposta ComponiStampaSuper(const Archivio& archivio, const ParametriStamp
         candidati.push_back({i, tutti[static_cast<size_t>(i - 1)].data()});
     std::vector<std::string> righe;
     for (const Candidato& c : Filtra(std::move(candidati), p))
-        righe.push_back(RigaSuper(LeggiEstrazioneSuper(tutti[static_cast<size_t>(c.indice - 1)])));
+        righe.push_back(RigaSuper(archives::LeggiEstrazioneSuper(tutti[static_cast<size_t>(c.indice - 1)])));
     s.estrazioni = static_cast<int>(righe.size());
 
     // The page heading of its own: title, choices, page number as "@@@", the boxed heading.
@@ -334,11 +334,11 @@ StampaComposta ComponiStampaSuper(const Archivio& archivio, const ParametriStamp
     return s;
 }
 
-StampaComposta ComponiStampa10eLotto(const Archivio& archivio, const ParametriStampaEstrazioni& p) {
+StampaComposta ComponiStampa10eLotto(const archives::Archivio& archivio, const ParametriStampaEstrazioni& p) {
     StampaComposta s;
     s.layout = LayoutStampa::Lista10eLotto;
     const auto intervallo = ControllaIntervallo(
-        p, s, [&](const std::string& t, bool precedente) { return ControllaData(t, archivio, precedente); });
+        p, s, [&](const std::string& t, bool precedente) { return archives::ControllaData(t, archivio, precedente); });
     if (!intervallo) return s;
     s.titolo1 = "Gorgo - Stampa estrazioni 10eLotto dal " + s.dataInizio + " al " + s.dataFine;
     s.titolo2 = ScelteGemelli(p);
@@ -346,9 +346,9 @@ StampaComposta ComponiStampa10eLotto(const Archivio& archivio, const ParametriSt
     // Only the draws from which a 10eLotto draw follows are candidates.
     const auto letti = archivio.LeggiEstrazioni(intervallo->inizio, intervallo->fine);
     std::vector<Candidato> candidati;
-    std::vector<Risultato10eLotto> dieci(letti.size());
+    std::vector<archives::Risultato10eLotto> dieci(letti.size());
     for (size_t i = 0; i < letti.size(); ++i) {
-        dieci[i] = Estrazione10eLotto(letti[i]);
+        dieci[i] = archives::Estrazione10eLotto(letti[i]);
         if (dieci[i].esito >= 0) candidati.push_back({intervallo->inizio + static_cast<int32_t>(i), letti[i].data()});
     }
     std::vector<std::string> righe;
@@ -361,4 +361,4 @@ StampaComposta ComponiStampa10eLotto(const Archivio& archivio, const ParametriSt
     return s;
 }
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

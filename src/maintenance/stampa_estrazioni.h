@@ -16,7 +16,7 @@
 #include "archives/superenalotto.h"
 #include "config/report_testo.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 
 enum class LayoutStampa { Lista, Blocchi, Tabella, ListaSuper, Lista10eLotto };
 
@@ -53,7 +53,7 @@ struct ParametriStampaEstrazioni {
 };
 
 struct StampaComposta {
-    Messaggio errore;  // the first failure: nothing to print
+    archives::Messaggio errore;  // the first failure: nothing to print
     // The dates of the draws found for the two ends: the boxes take them (also when the
     // procedure stops at a later check).
     std::string dataInizio, dataFine;
@@ -68,20 +68,20 @@ struct StampaComposta {
     int estrazioni = 0;  // draws printed
 };
 
-StampaComposta ComponiStampaLotto(const Archivio& archivio, const ParametriStampaEstrazioni& parametri);
-StampaComposta ComponiStampaSuper(const Archivio& archivio, const ParametriStampaEstrazioni& parametri);
-StampaComposta ComponiStampa10eLotto(const Archivio& archivio, const ParametriStampaEstrazioni& parametri);
+StampaComposta ComponiStampaLotto(const archives::Archivio& archivio, const ParametriStampaEstrazioni& parametri);
+StampaComposta ComponiStampaSuper(const archives::Archivio& archivio, const ParametriStampaEstrazioni& parametri);
+StampaComposta ComponiStampa10eLotto(const archives::Archivio& archivio, const ParametriStampaEstrazioni& parametri);
 
 // The lines of one draw.
 // "dd/mm/yyyy  nn nn nn nn nn": the date, two blanks, the wheel's five numbers.
-std::string RigaLista(const RecordEstrazione& r, int ruota);
+std::string RigaLista(const archives::RecordEstrazione& r, int ruota);
 // The 90 places of the ruler in nine groups of ten, the drawn ones marked; two blanks, the
 // numbers ("#0", right-aligned in two), two blanks, the day of the date ("@@").
-std::string RigaTabella(const RecordEstrazione& r, int ruota);
+std::string RigaTabella(const archives::RecordEstrazione& r, int ruota);
 // The row under IntestazioneSuper: date, six numbers, Jolly, SuperStar, each in its cell;
 // what the draw does not hold stays blank.
-std::string RigaSuper(const EstrazioneSuper& e);
+std::string RigaSuper(const archives::EstrazioneSuper& e);
 // "dd/mm/yyyy  " and the twenty numbers.
 std::string Riga10eLotto(std::string_view data, const std::array<int, 20>& numeri);
 
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

@@ -10,7 +10,7 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 namespace {
 
 namespace fs = std::filesystem;
@@ -363,4 +363,4 @@ TEST(ArchivioReale, ScrittureSuUnaCopia) {
 }
 
 }  // namespace
-}  // namespace gorgo
+}  // namespace gorgo::archives

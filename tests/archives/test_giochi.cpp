@@ -10,7 +10,7 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 namespace {
 
 // The derivation written straight from its steps, as the oracle.
@@ -169,4 +169,4 @@ TEST(SuperEnalotto, ArchivioReale) {
 }
 
 }  // namespace
-}  // namespace gorgo
+}  // namespace gorgo::archives

@@ -11,7 +11,7 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo {
+namespace gorgo::archives {
 namespace {
 
 using test::CartellaTemporanea;
@@ -208,4 +208,4 @@ TEST(Numeri, CadenzaDecinaFuori90) {
 }
 
 }  // namespace
-}  // namespace gorgo
+}  // namespace gorgo::archives

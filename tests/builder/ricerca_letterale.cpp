@@ -165,7 +165,7 @@ private:
     std::vector<ValoreSpia> ValoriSpia() const;
 
     // ---- Step 3: the walk of one spy value ----
-    std::optional<Ritrovamento> SpiaSullaRuota(const RecordEstrazione& e, int ruota, ValoreSpia s) const;
+    std::optional<Ritrovamento> SpiaSullaRuota(const archives::RecordEstrazione& e, int ruota, ValoreSpia s) const;
     void Cammina(ValoreSpia s, const std::function<void(int32_t caso)>& segna);
     CasoSpia Caso(int32_t i, int ruota, ValoreSpia s, Ritrovamento dove) const;
     int32_t FineFinestra(int32_t caso) const { return std::min<int32_t>(caso + p_.colpi, fine_); }
@@ -190,7 +190,7 @@ private:
 
     const ParametriRicerca& p_;
     const ContestoRicerca& ctx_;
-    const StoriaLotto& storia_;
+    const archives::StoriaLotto& storia_;
     const bool seleziona_;
 
     RicercaValidata v_;
@@ -285,7 +285,7 @@ std::vector<ValoreSpia> Ricerca::ValoriSpia() const {
 
 // ---------------------------------------------------------------- Step 3, the walk
 
-std::optional<Ritrovamento> Ricerca::SpiaSullaRuota(const RecordEstrazione& e, int ruota, ValoreSpia s) const {
+std::optional<Ritrovamento> Ricerca::SpiaSullaRuota(const archives::RecordEstrazione& e, int ruota, ValoreSpia s) const {
     // "Solo indice mensile": the condition holds on every search wheel, the first one found.
     if (modo_ == ModoSpia::SoloIndiceMensile) return Ritrovamento{};
     switch (tipoSpia_) {
@@ -327,7 +327,7 @@ CasoSpia Ricerca::Caso(int32_t i, int ruota, ValoreSpia s, Ritrovamento dove) co
     c.spia2 = s.b;
     c.posizione = dove.posizione;
     c.data = storia_.DataEstrazione(i);
-    c.nomeRuota = std::string(NomiRuota[static_cast<size_t>(ruota)]);
+    c.nomeRuota = std::string(archives::NomiRuota[static_cast<size_t>(ruota)]);
     c.testoSpia = TestoSpia(s);
     if (modo_ == ModoSpia::SoloIndiceMensile)
         c.testoPosizione = "--";
@@ -353,10 +353,10 @@ void Ricerca::Cammina(ValoreSpia s, const std::function<void(int32_t caso)>& seg
     for (int32_t i = ultimo_; i >= primo_; --i) {
         if (!giornoValido_[static_cast<size_t>(i)] || !MeseValido(i)) continue;
         if (p_.perData == 1 && sortite_ >= p_.sortiteDaCercare) break;
-        const RecordEstrazione& e = storia_[i];
+        const archives::RecordEstrazione& e = storia_[i];
         int ruota = 0;
         Ritrovamento dove;
-        for (int w = 1; w <= NumeroRuote; ++w) {
+        for (int w = 1; w <= archives::NumeroRuote; ++w) {
             if (!v_.ruoteRicerca[static_cast<size_t>(w)]) continue;
             if (const auto r = SpiaSullaRuota(e, w, s)) {
                 ruota = w;
@@ -391,7 +391,7 @@ void Ricerca::Finestra(int32_t caso, FinestraNumeri& f) const {
     f.Q.fill(0);
     f.H.fill(false);
     for (int32_t e = caso + 1; e <= FineFinestra(caso); ++e)
-        for (int w = 1; w <= NumeroRuote; ++w) {
+        for (int w = 1; w <= archives::NumeroRuote; ++w) {
             if (!v_.ruoteGioco[static_cast<size_t>(w)]) continue;
             for (int pos = 1; pos <= 5; ++pos) {
                 if (!p_.posizioniValide[static_cast<size_t>(pos)]) continue;
@@ -408,7 +408,7 @@ void Ricerca::Finestra(int32_t caso, FinestraCoppie& f) const {
     std::fill(f.Q.begin(), f.Q.end(), 0);
     std::fill(f.H.begin(), f.H.end(), false);
     for (int32_t e = caso + 1; e <= FineFinestra(caso); ++e)
-        for (int w = 1; w <= NumeroRuote; ++w) {
+        for (int w = 1; w <= archives::NumeroRuote; ++w) {
             if (!v_.ruoteGioco[static_cast<size_t>(w)]) continue;
             std::array<int, 5> n{};
             for (int pos = 1; pos <= 5; ++pos) n[static_cast<size_t>(pos - 1)] = storia_[e].Numero(w, pos);
@@ -428,7 +428,7 @@ void Ricerca::Finestra(int32_t caso, FinestraTerne& f) const {
     std::fill(f.Q.begin(), f.Q.end(), 0);
     std::fill(f.H.begin(), f.H.end(), false);
     for (int32_t e = caso + 1; e <= FineFinestra(caso); ++e)
-        for (int w = 1; w <= NumeroRuote; ++w) {
+        for (int w = 1; w <= archives::NumeroRuote; ++w) {
             if (!v_.ruoteGioco[static_cast<size_t>(w)]) continue;
             std::array<int, 5> n{};
             for (int pos = 1; pos <= 5; ++pos) n[static_cast<size_t>(pos - 1)] = storia_[e].Numero(w, pos);
@@ -810,7 +810,7 @@ void Ricerca::Codici(ValoreSpia s) {
                                    : Applica(op, n, terzine.terzine[static_cast<size_t>(t)][i]);
                     bool segnato = false;
                     for (int32_t e = caso + 1; e <= FineFinestra(caso) && !segnato; ++e)
-                        for (int w = 1; w <= NumeroRuote && !segnato; ++w) {
+                        for (int w = 1; w <= archives::NumeroRuote && !segnato; ++w) {
                             if (!v_.ruoteGioco[static_cast<size_t>(w)]) continue;
                             int uguali = 0;
                             for (int pos = 1; pos <= 5; ++pos) {

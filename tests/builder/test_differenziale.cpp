@@ -16,14 +16,14 @@ namespace gorgo::builder {
 namespace {
 
 // A draw history with holes: some numbers repeat across wheels, some wheels are missing.
-StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
-    ParametriDemo pd;
+archives::StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
+    archives::ParametriDemo pd;
     pd.seme = g();
-    pd.fine = Data{30, 12, 2005 + anni};
-    auto record = GeneraStoriaDemo(pd);
+    pd.fine = archives::Data{30, 12, 2005 + anni};
+    auto record = archives::GeneraStoriaDemo(pd);
     // Keep the last few years only, renumbered from 1: short archives, quick oracles.
     const size_t tieni = std::min<size_t>(record.size(), static_cast<size_t>(anni) * 150);
-    std::vector<RecordEstrazione> v(record.end() - static_cast<long>(tieni), record.end());
+    std::vector<archives::RecordEstrazione> v(record.end() - static_cast<long>(tieni), record.end());
     // Small number ranges on some wheels make spies, pairs and triples frequent.
     for (auto& r : v)
         for (int w = 0; w < 11; ++w) {
@@ -42,7 +42,7 @@ StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
                 }
             }
         }
-    return StoriaLotto(std::move(v));
+    return archives::StoriaLotto(std::move(v));
 }
 
 TerzineRidotte TerzineCasuali(std::mt19937& g, int quante) {
@@ -65,7 +65,7 @@ std::array<bool, 12> RuoteCasuali(std::mt19937& g) {
     return r;
 }
 
-ParametriRicerca ParametriCasuali(std::mt19937& g, const StoriaLotto& s, TipoRicerca tipo) {
+ParametriRicerca ParametriCasuali(std::mt19937& g, const archives::StoriaLotto& s, TipoRicerca tipo) {
     ParametriRicerca p;
     p.tipoRicerca = tipo;
     p.tipoSpia = static_cast<TipoSpia>(g() % 4);
@@ -158,7 +158,7 @@ TEST_P(Differenziale, ArchiviCasuali) {
     std::mt19937 g(1000 + static_cast<unsigned>(tipo));
     const int prove = tipo == TipoRicerca::Ambi ? 6 : tipo == TipoRicerca::Codici ? 10 : 40;
     for (int archivio = 0; archivio < 2; ++archivio) {
-        const StoriaLotto s = StoriaCasuale(g, 3);
+        const archives::StoriaLotto s = StoriaCasuale(g, 3);
         const IndiciMensili im = CalcolaIndiciMensili(s, g() % 2 ? "NNYNYNY" : "NNNNNNN");
         const TerzineRidotte t = TerzineCasuali(g, 200);
         for (int prova = 0; prova < prove; ++prova) {
@@ -187,7 +187,7 @@ INSTANTIATE_TEST_SUITE_P(Corpi, Differenziale,
 // Colpi x play wheels above 255: the engine keeps its pair counts wider.
 TEST(DifferenzialeAmbi, ConteggiOltreIlByte) {
     std::mt19937 g(4242);
-    const StoriaLotto s = StoriaCasuale(g, 3);
+    const archives::StoriaLotto s = StoriaCasuale(g, 3);
     const IndiciMensili im = CalcolaIndiciMensili(s, "NNYNYNY");
     ContestoRicerca ctx{&s, {}, &im, nullptr};
     ParametriRicerca p;
@@ -207,7 +207,7 @@ TEST(DifferenzialeAmbi, ConteggiOltreIlByte) {
 // The real history over short periods, with the screen's usual choices.
 TEST(DifferenzialeReale, PeriodiBrevi) {
     GORGO_RICHIEDI_ARCHIVI_REALI(reale);
-    const Archivio a = Archivio::Apri(reale);
+    const archives::Archivio a = archives::Archivio::Apri(reale);
     const auto s = a.Storia();
     const IndiciMensili im = CalcolaIndiciMensili(*s, "NNYNYNY");
     std::mt19937 g(27);

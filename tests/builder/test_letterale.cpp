@@ -20,12 +20,12 @@ using Cinquina = std::array<uint8_t, 5>;
 
 // A history of n draws on consecutive Saturdays from 04/01/2020, every wheel empty.
 struct StoriaProva {
-    std::vector<RecordEstrazione> record;
+    std::vector<archives::RecordEstrazione> record;
 
     explicit StoriaProva(int n) : record(static_cast<size_t>(n)) {
-        const int32_t primo = Data{4, 1, 2020}.giorni();
+        const int32_t primo = archives::Data{4, 1, 2020}.giorni();
         for (int i = 0; i < n; ++i) {
-            record[static_cast<size_t>(i)].impostaData(Data::daGiorni(primo + 7 * i));
+            record[static_cast<size_t>(i)].impostaData(archives::Data::daGiorni(primo + 7 * i));
             record[static_cast<size_t>(i)].NumeroAnno = static_cast<uint8_t>(i + 1);
         }
     }
@@ -39,7 +39,7 @@ struct StoriaProva {
 
 // The history and what a search reads besides its parameters.
 struct Ambiente {
-    StoriaLotto storia;
+    archives::StoriaLotto storia;
     IndiciMensili indici;
     ContestoRicerca contesto;
 

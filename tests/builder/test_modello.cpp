@@ -16,10 +16,10 @@ const CodaChiave CodaNumero{5, "11111", '3'};
 const CodaChiave CodaSomma{27, "", ' '};
 const CodaChiave CodaAmbo{12, "11000", '1', 34, '2', true};
 
-void Poni(RecordEstrazione& r, int cella, int valore) {
+void Poni(archives::RecordEstrazione& r, int cella, int valore) {
     r.Ruota[RuotaDiCella(cella) - 1][PosizioneDiCella(cella) - 1] = static_cast<uint8_t>(valore);
 }
-int Valore(const RecordEstrazione& r, int cella) { return r.Numero(RuotaDiCella(cella), PosizioneDiCella(cella)); }
+int Valore(const archives::RecordEstrazione& r, int cella) { return r.Numero(RuotaDiCella(cella), PosizioneDiCella(cella)); }
 
 TEST(ModelloOperazioni, CasiLimiteETutteLeCoppie) {
     EXPECT_EQ(OperaPiu(90, 90), 90);
@@ -95,7 +95,7 @@ TEST(ModelloChiavi, AndataERitornoSuEstrazioniCasuali) {
     const std::array<CodaChiave, 3> code{CodaNumero, CodaSomma, CodaAmbo};
 
     for (int giro = 0; giro < 2000; ++giro) {
-        RecordEstrazione e;
+        archives::RecordEstrazione e;
         for (int c = 1; c <= 55; ++c) Poni(e, c, RuotaDiCella(c) == giro % 15 ? 0 : numero(gen));
         const CodaChiave coda = code[static_cast<size_t>(giro % 3)];
         const Operazione op = Tutte[static_cast<size_t>(op3(gen))], op2 = Tutte[static_cast<size_t>(op3(gen))];
@@ -178,7 +178,7 @@ TEST(ModelloChiavi, GuastiNellOrdine) {
     };
     TerzineRidotte terzine;
     terzine.terzine.resize(1003, {1, 2, 3});
-    const RecordEstrazione e{};
+    const archives::RecordEstrazione e{};
     for (const auto& [chiave, tipo, messaggio] : casi) {
         const auto n = NumeriAlgoritmo(chiave, tipo, e, &terzine);
         EXPECT_EQ(n.errore.testo, messaggio) << '"' << chiave << '"';
@@ -195,7 +195,7 @@ TEST(ModelloChiavi, GuastiNellOrdine) {
 }
 
 TEST(ModelloNumeriUguali, AmbiTerzinaECodice) {
-    RecordEstrazione e{};
+    archives::RecordEstrazione e{};
     for (auto [c, v] : std::vector<std::pair<int, int>>{{1, 45}, {6, 45}, {11, 40}, {16, 50}}) Poni(e, c, v);
     // One number from both rules, the same cell value or two rules meeting: 45 and 54.
     EXPECT_EQ(NumeriAlgoritmo(ChiaveAmbi(1, Operazione::Piu, 0, 6, Operazione::Piu, 0, CodaNumero),

@@ -9,15 +9,15 @@
 namespace gorgo::builder {
 namespace {
 
-const StoriaLotto& Demo() {
-    static const StoriaLotto storia(GeneraStoriaDemo(ParametriDemo{4242, Data{30, 12, 2025}}));
+const archives::StoriaLotto& Demo() {
+    static const archives::StoriaLotto storia(archives::GeneraStoriaDemo(archives::ParametriDemo{4242, archives::Data{30, 12, 2025}}));
     return storia;
 }
 
-StoriaLotto StoriaDi(const std::vector<Data>& date) {
-    std::vector<RecordEstrazione> v(date.size());
+archives::StoriaLotto StoriaDi(const std::vector<archives::Data>& date) {
+    std::vector<archives::RecordEstrazione> v(date.size());
     for (size_t i = 0; i < date.size(); ++i) v[i].impostaData(date[i]);
-    return StoriaLotto(std::move(v));
+    return archives::StoriaLotto(std::move(v));
 }
 
 const std::string Insufficienti = "Data finale minore della data iniziale oppure n. di estrazioni insufficienti!";
@@ -25,7 +25,7 @@ const std::string Insufficienti = "Data finale minore della data iniziale oppure
 // Against a plain recount: the ordinal counts the draws of the same calendar month up to this
 // one, and a draw is the last of its month when the next one is of another month.
 TEST(ParametriIndiceMensile, RicontoSuStoriaDemo) {
-    const StoriaLotto& s = Demo();
+    const archives::StoriaLotto& s = Demo();
     const auto im = CalcolaIndiciMensili(s, "NNYNYNY");
     const int32_t n = s.NumeroEstrazioni();
     ASSERT_EQ(im.indice.size(), static_cast<size_t>(n) + 1);
@@ -50,7 +50,7 @@ TEST(ParametriIndiceMensile, CambioDiMeseEUltimaEstrazione) {
     EXPECT_TRUE(CalcolaIndiciMensili(StoriaDi({{10, 3, 1943}, {10, 3, 1944}}), "NNYNYNY").ultimo[1]);
 
     // The last draw: "U" when the next draw day falls in another month.
-    const std::vector<std::tuple<Data, std::string, bool>> casi{
+    const std::vector<std::tuple<archives::Data, std::string, bool>> casi{
         {{30, 12, 2025}, "NNYNYNY", true},   // Tuesday: next Thursday is 01/01
         {{30, 12, 2025}, "  Y Y Y", true},   // the default form of the setting
         {{27, 12, 2025}, "NNYNYNY", false},  // Saturday: next Tuesday is 30/12
@@ -72,7 +72,7 @@ TEST(ParametriPeriodo, DatePredefinite) {
 
 // All eight steps fail at once; each fix uncovers the next step's message.
 TEST(ParametriValidazione, OrdineDeiPassi) {
-    const StoriaLotto& s = Demo();
+    const archives::StoriaLotto& s = Demo();
     ParametriRicerca p;
     p.tipoSpia = TipoSpia::Differenza;
     p.posizioneDeterminata = true;
@@ -120,14 +120,14 @@ TEST(ParametriValidazione, OrdineDeiPassi) {
 }
 
 TEST(ParametriValidazione, PeriodoDateEUltimeEstrazioni) {
-    const StoriaLotto& s = Demo();
+    const archives::StoriaLotto& s = Demo();
     // Days with no draw, after draws i and j: DataDa moves forward, DataA back.
     int32_t i = 2000, j = 3000;
     while (s.giorni(i + 1) - s.giorni(i) < 2) ++i;
     while (s.giorni(j + 1) - s.giorni(j) < 2) ++j;
     ParametriRicerca p;
-    p.dataDa = Data::daGiorni(s.giorni(i) + 1).testo();
-    p.dataA = Data::daGiorni(s.giorni(j) + 1).testo();
+    p.dataDa = archives::Data::daGiorni(s.giorni(i) + 1).testo();
+    p.dataA = archives::Data::daGiorni(s.giorni(j) + 1).testo();
     auto r = ValidaRicerca(p, s);
     ASSERT_TRUE(r.errore.vuoto()) << r.errore.testo;
     EXPECT_EQ(std::tuple(r.primo, r.ultimo, r.ultimoPeriodo), std::tuple(i + 1, j, j));
@@ -149,7 +149,7 @@ TEST(ParametriValidazione, PeriodoDateEUltimeEstrazioni) {
     // Empty dates are the defaults; by hits the period starts at draw 1.
     p = {};
     r = ValidaRicerca(p, s);
-    EXPECT_EQ(r.primo, ControllaData(DataDaPredefinita(s), s, false).IndiceTrovato);
+    EXPECT_EQ(r.primo, archives::ControllaData(DataDaPredefinita(s), s, false).IndiceTrovato);
     EXPECT_EQ(r.ultimo, s.NumeroEstrazioni());
     p.perData = 1;
     EXPECT_EQ(ValidaRicerca(p, s).primo, 1);
@@ -157,11 +157,11 @@ TEST(ParametriValidazione, PeriodoDateEUltimeEstrazioni) {
     // A refused date brings the date check's own message.
     p = {};
     p.dataA = "01/01/2030";
-    EXPECT_EQ(ValidaRicerca(p, s).errore.testo, MessaggioDataSuperiore(s.DataEstrazione(s.NumeroEstrazioni())));
+    EXPECT_EQ(ValidaRicerca(p, s).errore.testo, archives::MessaggioDataSuperiore(s.DataEstrazione(s.NumeroEstrazioni())));
     p.dataA = "";
     p.dataDa = "01/01/1850";
-    EXPECT_EQ(ValidaRicerca(p, s).errore.testo, MessaggioDataInferiore(s.DataEstrazione(1)));
-    EXPECT_FALSE(ValidaRicerca(ParametriRicerca{}, StoriaLotto{}).errore.vuoto());
+    EXPECT_EQ(ValidaRicerca(p, s).errore.testo, archives::MessaggioDataInferiore(s.DataEstrazione(1)));
+    EXPECT_FALSE(ValidaRicerca(ParametriRicerca{}, archives::StoriaLotto{}).errore.vuoto());
 }
 
 TEST(ParametriValidazione, RuoteDiRicercaEDiGioco) {
@@ -185,7 +185,7 @@ TEST(ParametriValidazione, RuoteDiRicercaEDiGioco) {
 }
 
 TEST(ParametriValidazione, AmboSpia) {
-    const StoriaLotto& s = Demo();
+    const archives::StoriaLotto& s = Demo();
     ParametriRicerca p;
     p.tipoSpia = TipoSpia::Ambo;
     p.amboSpia = {34, 12};

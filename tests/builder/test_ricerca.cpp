@@ -14,7 +14,7 @@ namespace gorgo::builder {
 namespace {
 
 struct Demo {
-    StoriaLotto storia{GeneraStoriaDemo(ParametriDemo{3, Data{30, 12, 2025}})};
+    archives::StoriaLotto storia{archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}})};
     IndiciMensili indici = CalcolaIndiciMensili(storia, "NNYNYNY");
     ContestoRicerca contesto{&storia, {}, &indici, nullptr};
     Demo() {

@@ -22,13 +22,13 @@ namespace {
 
 // A short history with holes and with small number ranges on some wheels, so that spies,
 // hits and running cases are frequent.
-StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
-    ParametriDemo pd;
+archives::StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
+    archives::ParametriDemo pd;
     pd.seme = g();
-    pd.fine = Data{30, 12, 2005 + anni};
-    auto record = GeneraStoriaDemo(pd);
+    pd.fine = archives::Data{30, 12, 2005 + anni};
+    auto record = archives::GeneraStoriaDemo(pd);
     const size_t tieni = std::min<size_t>(record.size(), static_cast<size_t>(anni) * 150);
-    std::vector<RecordEstrazione> v(record.end() - static_cast<long>(tieni), record.end());
+    std::vector<archives::RecordEstrazione> v(record.end() - static_cast<long>(tieni), record.end());
     for (auto& r : v)
         for (int w = 0; w < 11; ++w) {
             if (g() % 40 == 0) {
@@ -49,7 +49,7 @@ StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
     // Now and then one number missing: a zero inside a wheel ends the reading of that wheel.
     for (auto& r : v)
         if (g() % 30 == 0) r.Ruota[g() % 11][g() % 5] = 0;
-    return StoriaLotto(std::move(v));
+    return archives::StoriaLotto(std::move(v));
 }
 
 TerzineRidotte TerzineCasuali(std::mt19937& g, int quante) {
@@ -72,7 +72,7 @@ std::array<bool, 12> RuoteCasuali(std::mt19937& g) {
     return r;
 }
 
-ParametriRicerca ParametriCasuali(std::mt19937& g, const StoriaLotto& s, TipoRicerca tipo) {
+ParametriRicerca ParametriCasuali(std::mt19937& g, const archives::StoriaLotto& s, TipoRicerca tipo) {
     ParametriRicerca p;
     p.tipoRicerca = tipo;
     p.tipoSpia = static_cast<TipoSpia>(g() % 4);
@@ -167,7 +167,7 @@ std::string ChiaveCasuale(std::mt19937& g, const ParametriRicerca& p, const std:
     return {};
 }
 
-ContestoRicerca ContestoCasuale(std::mt19937& g, const StoriaLotto& s, const IndiciMensili& im, const TerzineRidotte& t) {
+ContestoRicerca ContestoCasuale(std::mt19937& g, const archives::StoriaLotto& s, const IndiciMensili& im, const TerzineRidotte& t) {
     ContestoRicerca ctx{&s, {}, &im, &t};
     ctx.restrizioni.GiornoAmmesso.fill(true);
     ctx.restrizioni.MeseAmmesso.fill(true);
@@ -188,7 +188,7 @@ std::string Descrivi(const ParametriRicerca& p, const std::string& chiave, const
                        p.colpi, p.controllaUltime, p.sorte, p.colpiDaGiocare);
 }
 
-int32_t Fine(const ParametriRicerca& p, const StoriaLotto& s) { return ValidaRicerca(p, s).ultimoPeriodo; }
+int32_t Fine(const ParametriRicerca& p, const archives::StoriaLotto& s) { return ValidaRicerca(p, s).ultimoPeriodo; }
 
 // Engine and transcription, in every mode, on one key.
 void Confronta(const ParametriRicerca& p, const ContestoRicerca& ctx, const std::string& descrizione,
@@ -247,7 +247,7 @@ TEST_P(VerificaDifferenziale, ChiaviCasuali) {
     const TipoRicerca tipo = GetParam();
     std::mt19937 g(7000 + static_cast<unsigned>(tipo));
     for (int archivio = 0; archivio < 3; ++archivio) {
-        const StoriaLotto s = StoriaCasuale(g, 3);
+        const archives::StoriaLotto s = StoriaCasuale(g, 3);
         const IndiciMensili im = CalcolaIndiciMensili(s, g() % 2 ? "NNYNYNY" : "NNNNNNN");
         const TerzineRidotte t = TerzineCasuali(g, 120);
         for (int prova = 0; prova < 120; ++prova) {
@@ -268,7 +268,7 @@ TEST_P(VerificaDifferenziale, RigheDellaRicerca) {
     const int prove = tipo == TipoRicerca::Ambi || tipo == TipoRicerca::Codici ? 6 : 20;
     int righeViste = 0, inCorsoVisti = 0;
     for (int prova = 0; prova < prove; ++prova) {
-        const StoriaLotto s = StoriaCasuale(g, 2);
+        const archives::StoriaLotto s = StoriaCasuale(g, 2);
         const IndiciMensili im = CalcolaIndiciMensili(s, "NNYNYNY");
         const TerzineRidotte t = TerzineCasuali(g, 60);
         const ContestoRicerca ctx = ContestoCasuale(g, s, im, t);
@@ -314,8 +314,8 @@ INSTANTIATE_TEST_SUITE_P(VerificaTipi, VerificaDifferenziale,
 // The last 40 demo draws; Bari holds 1..5 everywhere unless a case sets it. The key plays the
 // first number of Bari plus 10 on Bari, the spy is 27 on Bari.
 struct Scenario {
-    std::vector<RecordEstrazione> record;
-    StoriaLotto storia;
+    std::vector<archives::RecordEstrazione> record;
+    archives::StoriaLotto storia;
     IndiciMensili indici;
     TerzineRidotte terzine;
     ContestoRicerca contesto;
@@ -324,7 +324,7 @@ struct Scenario {
     std::string descrizione = DescrizioneAmbata(Cella(1, 1), Operazione::Piu, 0, 10, false);
 
     Scenario() {
-        const auto tutte = GeneraStoriaDemo(ParametriDemo{5, Data{30, 12, 2025}});
+        const auto tutte = archives::GeneraStoriaDemo(archives::ParametriDemo{5, archives::Data{30, 12, 2025}});
         record.assign(tutte.end() - 40, tutte.end());
         for (auto& r : record) Bari(r, {1, 2, 3, 4, 5});
         terzine.terzine.push_back({10, 20, 30});
@@ -337,13 +337,13 @@ struct Scenario {
         p.colpiDaGiocare = 9;
         Fatto();
     }
-    static void Bari(RecordEstrazione& r, std::array<int, 5> n) {
+    static void Bari(archives::RecordEstrazione& r, std::array<int, 5> n) {
         for (int k = 0; k < 5; ++k) r.Ruota[0][k] = static_cast<uint8_t>(n[static_cast<size_t>(k)]);
     }
     // Bari of the draw `indietro` before the last.
     void Poni(int indietro, std::array<int, 5> n) { Bari(record[record.size() - 1 - static_cast<size_t>(indietro)], n); }
     void Fatto() {
-        storia = StoriaLotto(record);
+        storia = archives::StoriaLotto(record);
         indici = CalcolaIndiciMensili(storia, "NNYNYNY");
         contesto = ContestoRicerca{&storia, {}, &indici, &terzine};
         p.dataDa = storia.DataEstrazione(1);
@@ -419,7 +419,7 @@ TEST(VerificaCasiLimite, EsitoAlSecondoColpoDiUnaFinestraAperta) {
     ASSERT_EQ(e.righe.size(), 1u);
     const RigaVerifica& r = e.righe[0];
     EXPECT_EQ(r.colonne[8], s.storia.DataEstrazione(s.N()));
-    EXPECT_EQ(r.colonne[9], std::string(NomiRuota[1]));
+    EXPECT_EQ(r.colonne[9], std::string(archives::NomiRuota[1]));
     EXPECT_EQ(r.colonne[10], " 2");
     EXPECT_EQ(r.colonne[12], fmt::format("{:>5}", s.N()));
     EXPECT_EQ(r.chiave, s.descrizione);
@@ -660,7 +660,7 @@ void ConfrontaStatistiche(const StatisticheGioco& a, const StatisticheGioco& b, 
 }
 
 TEST(StatisticheRuoteGioco, LetteraleSullaStoriaDimostrativa) {
-    const StoriaLotto s(GeneraStoriaDemo(ParametriDemo{11, Data{30, 12, 2025}}));
+    const archives::StoriaLotto s(archives::GeneraStoriaDemo(archives::ParametriDemo{11, archives::Data{30, 12, 2025}}));
     ASSERT_GT(s.NumeroEstrazioni(), PrimaEstrazioneStatistiche);
     std::mt19937 g(5);
     for (int prova = 0; prova < 4; ++prova) {
@@ -675,13 +675,13 @@ TEST(StatisticheRuoteGioco, LetteraleSullaStoriaDimostrativa) {
 // A number that never comes out is as late as the draws before the period; a pair that never
 // comes out, as the draws of the period: the two rules differ and both stand.
 TEST(StatisticheRuoteGioco, MaiUscitiNumeroECoppia) {
-    auto record = GeneraStoriaDemo(ParametriDemo{12, Data{30, 12, 2025}});
+    auto record = archives::GeneraStoriaDemo(archives::ParametriDemo{12, archives::Data{30, 12, 2025}});
     for (size_t i = PrimaEstrazioneStatistiche - 1; i < record.size(); ++i)
         for (auto& x : record[i].Ruota[0])
             if (x == 90) x = 0;  // Bari never gives 90
     // What comes before the start counts for nothing.
     for (size_t i = 0; i < 100; ++i) record[i].Ruota[0][0] = 90;
-    const StoriaLotto s(std::move(record));
+    const archives::StoriaLotto s(std::move(record));
     std::array<bool, 12> bari{};
     bari[1] = true;
     const int32_t n = s.NumeroEstrazioni(), primo = n - 500;
@@ -699,10 +699,10 @@ TEST(StatisticheRuoteGioco, MaiUscitiNumeroECoppia) {
 // Counted by hand on the real history: Bari, number 27 and the pair 27-45, since 1990.
 TEST(StatisticheRuoteGioco, ConteggioDirettoSullArchivioReale) {
     GORGO_RICHIEDI_ARCHIVI_REALI(reale);
-    const Archivio a = Archivio::Apri(reale);
+    const archives::Archivio a = archives::Archivio::Apri(reale);
     const auto s = a.Storia();
     std::array<bool, 12> ruote = RuoteScelte({true, false, false, false, false, false, false, false, false, false, false, true});
-    const int32_t primo = s->CercaIndice(Data{2, 1, 1990}, false)->IndiceTrovato;
+    const int32_t primo = s->CercaIndice(archives::Data{2, 1, 1990}, false)->IndiceTrovato;
     const StatisticheGioco st = StatisticheRuoteGioco(*s, ruote, primo);
     ConfrontaStatistiche(st, letterale::Statistiche(*s, ruote, primo), "reale");
 
@@ -739,7 +739,7 @@ TEST(StatisticheRuoteGioco, ConteggioDirettoSullArchivioReale) {
 // ---------------------------------------------------------------- forecasts
 
 struct Dimostrativa {
-    StoriaLotto storia{GeneraStoriaDemo(ParametriDemo{3, Data{30, 12, 2025}})};
+    archives::StoriaLotto storia{archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}})};
     IndiciMensili indici = CalcolaIndiciMensili(storia, "NNYNYNY");
     TerzineRidotte terzine;
     ContestoRicerca contesto{&storia, {}, &indici, nullptr};
@@ -915,7 +915,7 @@ TEST(VerificaReport, TabellaStampataERigheSuFile) {
 
 TEST(VerificaReport, PrevisioniStampaEFile) {
     ParametriRicerca p;
-    const StoriaLotto storia(GeneraStoriaDemo(ParametriDemo{3, Data{30, 12, 2025}}));
+    const archives::StoriaLotto storia(archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}}));
     EsitoPrevisioni e;
     e.titolo = TitoloPrevisioni(p);
     e.aperta = true;

@@ -52,7 +52,7 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
                            const std::string& chiave, const std::string& spia, bool silenziosa, int colpiMax,
                            bool selezione) {
     Verifica esito;
-    const StoriaLotto& s = *ctx.storia;
+    const archives::StoriaLotto& s = *ctx.storia;
     const TipoRicerca tipo = p.tipoRicerca;
 
     // 1. The key.
@@ -116,7 +116,7 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
     int casi = 0;
     // 5. The walk, newest first.
     for (int32_t i = ultimo; i >= primo; --i) {
-        const RecordEstrazione& e = s[i];
+        const archives::RecordEstrazione& e = s[i];
         const auto& r = ctx.restrizioni;
         bool giornoValido = true;
         if (r.Giorno || r.Mese || r.Periodo) giornoValido = config::EstrazioneAmmessa(r, e.dataCifre(), e.GiornoSettimana);
@@ -190,7 +190,7 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
 
         RigaLista spiaRiga;
         spiaRiga[0] = s.DataEstrazione(i);
-        spiaRiga[1] = std::string(NomiRuota[static_cast<size_t>(ruotaSpia)]);
+        spiaRiga[1] = std::string(archives::NomiRuota[static_cast<size_t>(ruotaSpia)]);
         if (soloIndice) {
             spiaRiga[2] = "--";
             spiaRiga[3] = "--";
@@ -227,7 +227,7 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
         for (; j <= i + colpi; ++j) {
             if (j > numeroEstrazioni) break;
             ++scorsi;
-            const RecordEstrazione& f = s[j];
+            const archives::RecordEstrazione& f = s[j];
             for (int w = 1; w <= 11; ++w) {
                 if (!v.ruoteGioco[static_cast<size_t>(w)]) continue;
                 bool colpito = false;
@@ -256,7 +256,7 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
                 if (!silenziosa) {
                     RigaLista riga = spiaRiga;
                     riga[8] = s.DataEstrazione(j);
-                    riga[9] = std::string(NomiRuota[static_cast<size_t>(w)]);
+                    riga[9] = std::string(archives::NomiRuota[static_cast<size_t>(w)]);
                     riga[10] = fmt::format("{:>2}", j - i);
                     riga[12] = fmt::format("{:>5}", j);
                     riga[13] = descrizione;
@@ -331,7 +331,7 @@ FigureRiepilogo Figure(const std::vector<RigaLista>& lista, int32_t fine, int co
     return f;
 }
 
-StatisticheGioco Statistiche(const StoriaLotto& s, const std::array<bool, 12>& ruoteGioco, int32_t primo) {
+StatisticheGioco Statistiche(const archives::StoriaLotto& s, const std::array<bool, 12>& ruoteGioco, int32_t primo) {
     StatisticheGioco st;
     st.frequenza2.assign(91 * 91, 0);
     st.ritardo2.assign(91 * 91, 0);

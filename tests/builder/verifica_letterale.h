@@ -15,7 +15,7 @@ namespace gorgo::builder::letterale {
 using RigaLista = std::array<std::string, 14>;
 
 struct Verifica {
-    Messaggio errore;
+    archives::Messaggio errore;
     int inCorso = 0;
     std::vector<RigaLista> lista;
     std::vector<bool> rossa;  // columns 7, 8, 10 red and bold
@@ -32,6 +32,6 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& con
 FigureRiepilogo Figure(const std::vector<RigaLista>& lista, int32_t fine, int colpi);
 
 // StatisticheRuoteGioco counted draw by draw with plain tables.
-StatisticheGioco Statistiche(const StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco, int32_t primo);
+StatisticheGioco Statistiche(const archives::StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco, int32_t primo);
 
 }  // namespace gorgo::builder::letterale

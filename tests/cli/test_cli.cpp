@@ -51,7 +51,7 @@ protected:
 };
 
 TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
-    const Archivio a = Archivio::Apri(cartella_);
+    const archives::Archivio a = archives::Archivio::Apri(cartella_);
     json info = json::parse(Su({"--json", "info"}).out);
     EXPECT_TRUE(info["demo"].get<bool>());
     EXPECT_EQ(info["lotto"]["estrazioni"], a.NumeroEstrazioni());
@@ -62,7 +62,7 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
     EXPECT_NE(Su({"info"}).out.find("ARCHIVIO DIMOSTRATIVO"), std::string::npos);
 
     const json e = json::parse(Su({"--json", "estrazione", "7441"}).out);
-    const RecordEstrazione r = a.LeggiEstrazione(7441);
+    const archives::RecordEstrazione r = a.LeggiEstrazione(7441);
     EXPECT_EQ(e["data"], r.dataTesto());
     EXPECT_EQ(e["giorno"], r.giornoSettimana());
     ASSERT_EQ(e["ruote"].size(), 11u);
@@ -77,7 +77,7 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
     EXPECT_EQ(dieci["esito"], -1);
     EXPECT_EQ(json::parse(Su({"--json", "dieci", "10000"}).out)["numeri"].size(), 20u);
     const json s = json::parse(Su({"--json", "super", "1"}).out);
-    EXPECT_EQ(s["data"], a.DataEstrazione(1, ArchivioSuper));
+    EXPECT_EQ(s["data"], a.DataEstrazione(1, archives::ArchivioSuper));
     EXPECT_EQ(s["numeri"].size(), 6u);
 }
 
@@ -151,7 +151,7 @@ TEST_F(Cli, ImpostazioniScritteELette) {
     }
     EXPECT_EQ(Su({"impostazione", "settings", "coloreform"}).out, "255\n");
     EXPECT_EQ(Su({"impostazione", "Settings", "ColoreListe"}).out, "9033978\n");
-    const Archivio a = Archivio::Apri(cartella_);
+    const archives::Archivio a = archives::Archivio::Apri(cartella_);
     EXPECT_EQ(Su({"impostazione", "Settings", "FineRicerca"}).out, std::to_string(a.NumeroEstrazioni()) + "\n");
     ASSERT_EQ(Su({"impostazione", "Restrizioni", "Periodo", "Y"}).codice, 0);
     ASSERT_EQ(Su({"impostazione", "Restrizioni", "Dal", "15dicembre"}).codice, 0);
@@ -432,7 +432,7 @@ TEST_F(CliManutenzione, ImportaSuperEnalotto) {
     // The last three draws, newest first, semicolons, with a heading.
     std::string lista = "Data;N1;N2;N3;N4;N5;N6;Jolly;SuperStar\n";
     for (size_t k = 1; k <= 3; ++k) {
-        const auto* r = reinterpret_cast<const RecordSuperEnalotto*>(super.data() + super.size() - k * 20);
+        const auto* r = reinterpret_cast<const archives::RecordSuperEnalotto*>(super.data() + super.size() - k * 20);
         lista += r->dataTesto();
         for (int n : r->Sestina) lista.append(";").append(std::to_string(n));
         lista.append(";").append(std::to_string(r->Jolly)).append(";").append(std::to_string(r->SuperStar)).append("\n");
@@ -463,7 +463,7 @@ TEST_F(CliManutenzione, UnArchivioInterrottoSiRiparaPrimaDiScrivere) {
 TEST_F(Cli, Inserisci) {
     std::string testo;
     for (int i = 1; i <= 55; ++i) testo += std::to_string(i) + (i % 5 == 0 ? " / " : " ");
-    const Archivio prima = Archivio::Apri(cartella_);
+    const archives::Archivio prima = archives::Archivio::Apri(cartella_);
     const int32_t n = prima.NumeroEstrazioni();
     const int32_t anni = prima.NumeroAnni();
 
@@ -478,7 +478,7 @@ TEST_F(Cli, Inserisci) {
     EXPECT_TRUE(j["domande"].empty());
     EXPECT_EQ(j["numeri"][54], 55);
     {
-        const Archivio a = Archivio::Apri(cartella_);
+        const archives::Archivio a = archives::Archivio::Apri(cartella_);
         EXPECT_EQ(a.NumeroAnni(), anni + 1);
         EXPECT_EQ(a.LeggiEstrazione(n + 1).Numero(11, 5), 55);
     }
@@ -529,7 +529,7 @@ TEST_F(Cli, Inserisci) {
     EXPECT_EQ(j["domande"].size(), 1u);
     EXPECT_EQ(LeggiFile(cartella_ / "Archivi/anni.ind"), indiceAnni);
     {
-        const Archivio a = Archivio::Apri(cartella_);
+        const archives::Archivio a = archives::Archivio::Apri(cartella_);
         EXPECT_EQ(a.NumeroEstrazioni(), n + 2);
         EXPECT_EQ(a.LeggiEstrazione(n + 1).Numero(1, 1), 90);
         EXPECT_EQ(a.LeggiEstrazione(n + 1).Numero(2, 1), 6);  // the later boxes keep the stored numbers

@@ -296,7 +296,7 @@ TEST(ReportTesto, TestiDelleDomande) {
     const auto a = DomandaInCalce("C:\\r.Txt");
     EXPECT_EQ(a.testo, "Il file C:\\r.Txt è già esistente. Le informazioni vanno aggiunte in calce ?");
     EXPECT_EQ(a.titolo, "Conferma");
-    EXPECT_EQ(a.icona, gorgo::Icona::Domanda);
+    EXPECT_EQ(a.icona, gorgo::archives::Icona::Domanda);
     const auto s = DomandaSovrascrivi("r.txt");
     EXPECT_EQ(s.testo, "Il file r.txt è già esistente. Sovrascrivi ?");
     EXPECT_EQ(s.titolo, "Conferma");

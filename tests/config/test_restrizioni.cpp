@@ -18,7 +18,7 @@
 
 namespace fs = std::filesystem;
 using namespace gorgo::config;
-using gorgo::Data;
+using gorgo::archives::Data;
 
 namespace {
 
@@ -40,7 +40,7 @@ struct RestrizioniTest : ::testing::Test {
         Imposta("Al", al);
     }
     bool Ammessa(const Restrizioni& r, int g, int m, int a) {
-        const Data d{g, m, a};
+        const gorgo::archives::Data d{g, m, a};
         return EstrazioneAmmessa(r, d.cifre(), static_cast<char>('0' + d.giornoSettimana()));
     }
 };
@@ -84,7 +84,7 @@ TEST_F(RestrizioniTest, FiltroControRiferimentoSuOgniGiorno) {
         return s;
     };
     const auto nomeMese = [&](int m) {
-        std::string nome(gorgo::NomeMese(m));
+        std::string nome(gorgo::archives::NomeMese(m));
         if (caso(4) == 0)
             for (char& c : nome) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
         return nome;
@@ -105,7 +105,7 @@ TEST_F(RestrizioniTest, FiltroControRiferimentoSuOgniGiorno) {
         const Restrizioni r = LeggiRestrizioni(ini);
 
         int diverse = 0;
-        for (Data d{1, 1, 1999}; d.anno <= 2005; d = Data::daGiorni(d.giorni() + 1)) {
+        for (gorgo::archives::Data d{1, 1, 1999}; d.anno <= 2005; d = gorgo::archives::Data::daGiorni(d.giorni() + 1)) {
             const int gs = d.giornoSettimana();
             const bool atteso = Riferimento(s, d.giorno, d.mese, gs);
             if (EstrazioneAmmessa(r, d.cifre(), static_cast<char>('0' + gs)) != atteso && ++diverse <= 3)
@@ -315,7 +315,7 @@ TEST_F(RestrizioniTest, DialogoDeiGiorniDiEstrazione) {
     EXPECT_TRUE(s.chkLoadTipsAtStartup);
 
     s.chkDay.fill(false);
-    const gorgo::Messaggio m = SalvaGiorniEstrazione(ini, s);
+    const gorgo::archives::Messaggio m = SalvaGiorniEstrazione(ini, s);
     EXPECT_EQ(m.testo, "E' necessario selezionare almeno un giorno estrazione!");
     EXPECT_FALSE(fs::exists(file)) << "nothing is written";
 

@@ -29,7 +29,7 @@ protected:
     }
     std::filesystem::path cartella() const { return tmp_.percorso() / "gorgo"; }
     std::filesystem::path archivi() const { return cartella() / "Archivi"; }
-    Archivio Apri() const { return Archivio::Apri(cartella(), ModoApertura::Scrittura); }
+    archives::Archivio Apri() const { return archives::Archivio::Apri(cartella(), archives::ModoApertura::Scrittura); }
     // Every byte of the three files as they were copied.
     void AttesoIntatto() const {
         EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_);

@@ -13,7 +13,7 @@
 #include "copia_reale.h"
 #include "support/cartelle.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 namespace {
 
 namespace fs = std::filesystem;
@@ -50,7 +50,7 @@ protected:
 
 TEST_F(AggiornamentoReale, IlFileRealePortaLArchivioAl21Agosto2026) {
     ASSERT_EQ(aggiornamento_.size(), 135u * 66);
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     ASSERT_EQ(a.NumeroEstrazioni(), 10779);
 
     const ControlloAggiornamento c = ControllaAggiornamento(a, aggiornamento_, Gioco::Lotto, fileReale_.string());
@@ -66,7 +66,7 @@ TEST_F(AggiornamentoReale, IlFileRealePortaLArchivioAl21Agosto2026) {
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo << " " << e.controllo.dettaglio;
     EXPECT_EQ(e.messaggio.testo, "Aggiornamento archivi al 21/08/2026 effettuato");
     EXPECT_EQ(e.messaggio.titolo, "Aggiornamento archivi");
-    EXPECT_EQ(e.messaggio.icona, Icona::Informazione);
+    EXPECT_EQ(e.messaggio.icona, archives::Icona::Informazione);
     EXPECT_EQ(e.aggiunte, 134);
     EXPECT_EQ(e.anniAggiunti, 1);
     EXPECT_EQ(e.ultimaData, "21/08/2026");
@@ -76,11 +76,11 @@ TEST_F(AggiornamentoReale, IlFileRealePortaLArchivioAl21Agosto2026) {
     EXPECT_EQ(a.NumeroEstrazioni(), 10913);
     EXPECT_EQ(a.DataEstrazione(a.NumeroEstrazioni()), "21/08/2026");
     EXPECT_EQ(a.NumeroAnni(), 156);
-    const RecordAnno ultimoAnno = a.LeggiAnno(a.NumeroAnni());
+    const archives::RecordAnno ultimoAnno = a.LeggiAnno(a.NumeroAnni());
     EXPECT_EQ(std::string(ultimoAnno.Anno, 4), "2026");
     EXPECT_EQ(std::string(ultimoAnno.PrimaEstrazione, 7), "10780  ");
     EXPECT_EQ(ultimoAnno.FineRiga, 13);
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto()) << VerificaIntegrita(a).testo;
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto()) << archives::VerificaIntegrita(a).testo;
 
     // Old records untouched, new ones the raw bytes of the file, anni.ind one record more.
     const std::string dopo = LeggiFile(archivi() / "Estrazioni.ind");
@@ -91,9 +91,9 @@ TEST_F(AggiornamentoReale, IlFileRealePortaLArchivioAl21Agosto2026) {
     EXPECT_EQ(LeggiFile(archivi() / "SuperEnalotto.ind"), super_);
 
     // A fresh opening agrees.
-    const Archivio b = Archivio::Apri(cartella());
+    const archives::Archivio b = archives::Archivio::Apri(cartella());
     EXPECT_EQ(b.NumeroEstrazioni(), 10913);
-    EXPECT_EQ(b.CercaIndice(Data{2, 1, 2026}, false)->IndiceTrovato, 10780);
+    EXPECT_EQ(b.CercaIndice(archives::Data{2, 1, 2026}, false)->IndiceTrovato, 10780);
 
     // Again: nothing new, nothing written.
     const std::string estrazioniDopo = dopo, anniDopo = LeggiFile(archivi() / "anni.ind");
@@ -107,7 +107,7 @@ TEST_F(AggiornamentoReale, IlFileRealePortaLArchivioAl21Agosto2026) {
 }
 
 TEST_F(AggiornamentoReale, UnFileDi65O67ByteECorrotto) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     for (size_t n : {size_t{65}, size_t{67}, size_t{0}, size_t{66 * 3 + 1}}) {
         const fs::path p = tmp_ / ("agg" + std::to_string(n) + ".bin");
         Scrivi(p, aggiornamento_.substr(0, n));
@@ -115,7 +115,7 @@ TEST_F(AggiornamentoReale, UnFileDi65O67ByteECorrotto) {
         EXPECT_EQ(c.stato, StatoAggiornamento::Corrotto) << n;
         EXPECT_EQ(c.messaggio.testo, p.string() + " corrotto o mancante !");
         EXPECT_EQ(c.messaggio.titolo, "Errore");
-        EXPECT_EQ(c.messaggio.icona, Icona::Stop);
+        EXPECT_EQ(c.messaggio.icona, archives::Icona::Stop);
         const EsitoAggiornamento e = ApplicaFileAggiornamento(a, p, Gioco::Lotto);
         EXPECT_FALSE(e.riuscito);
         EXPECT_EQ(e.messaggio.testo, p.string() + " corrotto o mancante !");
@@ -127,7 +127,7 @@ TEST_F(AggiornamentoReale, UnFileDi65O67ByteECorrotto) {
 }
 
 TEST_F(AggiornamentoReale, UnFileCheNonSiSovrapponeERifiutato) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     // From 02/01/2026: the day after... the archive's last draw is 30/12/2025, and the file
     // must hold at least that draw.
     const std::string lacuna = Records(1, 135);
@@ -135,7 +135,7 @@ TEST_F(AggiornamentoReale, UnFileCheNonSiSovrapponeERifiutato) {
     EXPECT_EQ(c.stato, StatoAggiornamento::Discontinuo);
     EXPECT_EQ(c.messaggio.testo, "Discontinuità di memorizzazione - Aggiornamento impossibile");
     EXPECT_EQ(c.messaggio.titolo, "Aggiornamento archivi");
-    EXPECT_EQ(c.messaggio.icona, Icona::Stop);
+    EXPECT_EQ(c.messaggio.icona, archives::Icona::Stop);
     EXPECT_EQ(c.ultimaData, "21/08/2026");
     const EsitoAggiornamento e = ApplicaAggiornamento(a, lacuna, Gioco::Lotto, "lacuna.bin");
     EXPECT_FALSE(e.riuscito);
@@ -145,7 +145,7 @@ TEST_F(AggiornamentoReale, UnFileCheNonSiSovrapponeERifiutato) {
 }
 
 TEST_F(AggiornamentoReale, UnFileCheFinisceAllUltimaEstrazioneNonAggiungeNulla) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     // Only the overlapping draw; then an old stretch of the archive itself.
     for (const std::string& dati : {Record(0), estrazioni_.substr(9000 * 66, 500 * 66), estrazioni_}) {
         const ControlloAggiornamento c = ControllaAggiornamento(a, dati, Gioco::Lotto, "f.bin");
@@ -162,7 +162,7 @@ TEST_F(AggiornamentoReale, UnFileCheFinisceAllUltimaEstrazioneNonAggiungeNulla) 
 }
 
 TEST_F(AggiornamentoReale, UnaSovrapposizioneQualsiasiAggiungeSoloLeNuove) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     // The last 300 draws of the archive followed by the new ones.
     const std::string dati = estrazioni_.substr(estrazioni_.size() - 300 * 66) + Records(1, 135);
     const EsitoAggiornamento e = ApplicaAggiornamento(a, dati, Gioco::Lotto, "f.bin");
@@ -174,7 +174,7 @@ TEST_F(AggiornamentoReale, UnaSovrapposizioneQualsiasiAggiungeSoloLeNuove) {
 
 // Damaged records that the length and the two end dates do not reveal.
 TEST_F(AggiornamentoReale, RecordCheGuasterebberoLArchivioRendonoIlFileCorrotto) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     struct Caso {
         const char* nome;
         size_t offset;
@@ -217,7 +217,7 @@ TEST_F(AggiornamentoReale, RecordCheGuasterebberoLArchivioRendonoIlFileCorrotto)
 TEST_F(AggiornamentoReale, UnArchivioVuotoNonSiAggiorna) {
     Scrivi(archivi() / "Estrazioni.ind", "");
     Scrivi(archivi() / "anni.ind", "");
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const EsitoAggiornamento e = ApplicaAggiornamento(a, aggiornamento_, Gioco::Lotto, "f.bin");
     EXPECT_FALSE(e.riuscito);
     EXPECT_EQ(e.controllo.stato, StatoAggiornamento::ArchivioVuoto);
@@ -228,13 +228,13 @@ TEST_F(AggiornamentoReale, SuperEnalottoARecordDa20Byte) {
     // The last 40 draws as an update file, on an archive that lacks the last 15.
     const std::string file = super_.substr(super_.size() - 40 * 20);
     Scrivi(archivi() / "SuperEnalotto.ind", super_.substr(0, super_.size() - 15 * 20));
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const int32_t prima = a.NumeroEstrazioniSuper();
     const EsitoAggiornamento e = ApplicaAggiornamento(a, file, Gioco::SuperEnalotto, "s.bin");
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo << " " << e.controllo.dettaglio;
     EXPECT_EQ(e.aggiunte, 15);
     EXPECT_EQ(a.NumeroEstrazioniSuper(), prima + 15);
-    EXPECT_EQ(e.messaggio.testo, "Aggiornamento archivi Superenalotto al " + a.DataEstrazione(a.NumeroEstrazioniSuper(), ArchivioSuper) + " effettuato");
+    EXPECT_EQ(e.messaggio.testo, "Aggiornamento archivi Superenalotto al " + a.DataEstrazione(a.NumeroEstrazioniSuper(), archives::ArchivioSuper) + " effettuato");
     EXPECT_EQ(LeggiFile(archivi() / "SuperEnalotto.ind"), super_);
     EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_);
     EXPECT_EQ(LeggiFile(archivi() / "anni.ind"), anni_);
@@ -247,9 +247,9 @@ TEST_F(AggiornamentoReale, SuperEnalottoARecordDa20Byte) {
     EXPECT_EQ(ControllaAggiornamento(a, aggiornamento_.substr(0, 660), Gioco::SuperEnalotto, "s.bin").stato,
               StatoAggiornamento::Corrotto);
     // A draw after the last, whole but for its spare byte.
-    RecordSuperEnalotto ultima = a.LeggiRecordSuper(a.NumeroEstrazioniSuper()), nuova = ultima;
+    archives::RecordSuperEnalotto ultima = a.LeggiRecordSuper(a.NumeroEstrazioniSuper()), nuova = ultima;
     ASSERT_EQ(ultima.dataTesto(), "07/04/2026");
-    nuova.impostaData(Data{9, 4, 2026});
+    nuova.impostaData(archives::Data{9, 4, 2026});
     nuova.NumeroAnno = static_cast<uint8_t>(ultima.NumeroAnno + 1);
     auto file2 = [&] {
         std::string s(reinterpret_cast<const char*>(&ultima), 20);
@@ -273,15 +273,15 @@ TEST_F(AggiornamentoReale, SuperEnalottoARecordDa20Byte) {
 TEST_F(AggiornamentoReale, UnaCadutaTraLeEstrazioniEAnniSiRiparaAllaRiapertura) {
     Accoda(archivi() / "Estrazioni.ind", Records(1, 135));
     {
-        const Archivio a = Archivio::Apri(cartella());
-        EXPECT_FALSE(VerificaIntegrita(a).vuoto());
+        const archives::Archivio a = archives::Archivio::Apri(cartella());
+        EXPECT_FALSE(archives::VerificaIntegrita(a).vuoto());
     }
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const EsitoRiparazione r = RiparaArchivio(a);
     EXPECT_TRUE(r.riparato());
     EXPECT_EQ(r.anniAggiunti, 1);
     EXPECT_FALSE(r.descrizione.empty());
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto()) << VerificaIntegrita(a).testo;
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto()) << archives::VerificaIntegrita(a).testo;
     EXPECT_EQ(LeggiFile(archivi() / "anni.ind"), anni_ + "202610780  \r");
     EXPECT_EQ(a.NumeroAnni(), 156);
     // Nothing more to do the second time; the update then finds nothing new.
@@ -299,9 +299,9 @@ TEST_F(AggiornamentoReale, UnaCadutaAMetaRecordLasciaLeEstrazioniIntereERipara) 
     EXPECT_EQ(r.byteTroncatiSuper, 7u);
     EXPECT_EQ(r.byteTroncatiAnni, 4u);
     EXPECT_EQ(r.anniAggiunti, 1);
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     EXPECT_EQ(a.NumeroEstrazioni(), 10781);
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto()) << VerificaIntegrita(a).testo;
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto()) << archives::VerificaIntegrita(a).testo;
     // The update completes the rest.
     const EsitoAggiornamento e = ApplicaAggiornamento(a, aggiornamento_, Gioco::Lotto, "f");
     EXPECT_EQ(e.aggiunte, 132);
@@ -312,8 +312,8 @@ TEST_F(AggiornamentoReale, UnaCadutaAMetaRecordLasciaLeEstrazioniIntereERipara) 
 
 TEST_F(AggiornamentoReale, AnniOltreLeEstrazioniVengonoTolti) {
     Accoda(archivi() / "anni.ind", "202610780  \r");
-    Archivio a = Apri();
-    EXPECT_FALSE(VerificaIntegrita(a).vuoto());
+    archives::Archivio a = Apri();
+    EXPECT_FALSE(archives::VerificaIntegrita(a).vuoto());
     const EsitoRiparazione r = RiparaArchivio(a);
     EXPECT_EQ(r.byteTroncatiAnni, 12u);
     EXPECT_EQ(r.anniAggiunti, 0);
@@ -321,7 +321,7 @@ TEST_F(AggiornamentoReale, AnniOltreLeEstrazioniVengonoTolti) {
 }
 
 TEST_F(AggiornamentoReale, UnArchivioInteroNonSiTocca) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const EsitoRiparazione r = RiparaArchivio(a);
     EXPECT_FALSE(r.riparato());
     EXPECT_TRUE(r.descrizione.empty());
@@ -336,19 +336,19 @@ TEST_F(AggiornamentoReale, UnArchivioInteroNonSiTocca) {
 
 TEST_F(AggiornamentoReale, UnRecordParzialeInCodaVieneSovrascrittoDallAggiornamento) {
     Accoda(archivi() / "Estrazioni.ind", std::string(20, 'z'));
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     EXPECT_EQ(a.NumeroEstrazioni(), 10779);
     const EsitoAggiornamento e = ApplicaAggiornamento(a, aggiornamento_, Gioco::Lotto, "f");
     ASSERT_TRUE(e.riuscito);
     EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_ + Records(1, 135));
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto());
 }
 
 // The invariants of the draws after `da` that the integrity check does not look at: weekday
 // digits, NumeroAnno counting within the year, numbers within 0..90.
-std::string DifettoEstensione(const Archivio& a, int32_t da) {
+std::string DifettoEstensione(const archives::Archivio& a, int32_t da) {
     for (int32_t i = da + 1; i <= a.NumeroEstrazioni(); ++i) {
-        const RecordEstrazione p = a.LeggiEstrazione(i - 1), r = a.LeggiEstrazione(i);
+        const archives::RecordEstrazione p = a.LeggiEstrazione(i - 1), r = a.LeggiEstrazione(i);
         const char giorno = static_cast<char>('0' + r.data().giornoSettimana());
         if (r.GiornoSettimana != giorno || r.GiornoSettimanaCopia != giorno) return "giorno " + std::to_string(i);
         const int atteso = p.data().anno == r.data().anno ? p.NumeroAnno + 1 : 1;
@@ -363,7 +363,7 @@ std::string DifettoEstensione(const Archivio& a, int32_t da) {
 // 1,000 update files with random damage: each either changes nothing or appends exactly the
 // new draws of the file it was given, and the archive stays whole.
 TEST_F(AggiornamentoReale, MilleFileGuastiNonCorrompononoLArchivio) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     std::mt19937_64 caso(20260821);
     int accettati = 0, rifiutati = 0;
     for (int prova = 0; prova < 1000; ++prova) {
@@ -387,7 +387,7 @@ TEST_F(AggiornamentoReale, MilleFileGuastiNonCorrompononoLArchivio) {
         const EsitoAggiornamento e = ApplicaAggiornamento(a, dati, Gioco::Lotto, "guasto.bin");
         const std::string estrazioni = LeggiFile(archivi() / "Estrazioni.ind");
         const std::string anni = LeggiFile(archivi() / "anni.ind");
-        ASSERT_TRUE(VerificaIntegrita(a).vuoto()) << "prova " << prova << ": " << VerificaIntegrita(a).testo;
+        ASSERT_TRUE(archives::VerificaIntegrita(a).vuoto()) << "prova " << prova << ": " << archives::VerificaIntegrita(a).testo;
         ASSERT_EQ(estrazioni.substr(0, estrazioni_.size()), estrazioni_) << "prova " << prova;
         ASSERT_EQ(anni.substr(0, anni_.size()), anni_) << "prova " << prova;
         if (e.aggiunte == 0) {
@@ -415,7 +415,7 @@ TEST_F(AggiornamentoReale, MilleFileGuastiNonCorrompononoLArchivio) {
 class Esportazione : public AggiornamentoReale {};
 
 TEST_F(Esportazione, DalProgressivo7773AllaFine) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const fs::path file = tmp_ / "esporta.bin";
     Scrivi(file, std::string(2000000, 'x'));  // an export replaces what was there
     const EsitoEsportazione e = EsportaAggiornamento(a, file);
@@ -425,7 +425,7 @@ TEST_F(Esportazione, DalProgressivo7773AllaFine) {
     EXPECT_EQ(e.ultimaData, "30/12/2025");
     EXPECT_EQ(e.messaggio.testo, "Esportazione archivio " + file.string() + " al 30/12/2025 effettuata");
     EXPECT_EQ(e.messaggio.titolo, "Esportazione archivi");
-    EXPECT_EQ(e.messaggio.icona, Icona::Informazione);
+    EXPECT_EQ(e.messaggio.icona, archives::Icona::Informazione);
     EXPECT_EQ(LeggiFile(file), estrazioni_.substr(7772 * 66));
     // No temporary file left beside it.
     int file_in_cartella = 0;
@@ -436,8 +436,8 @@ TEST_F(Esportazione, DalProgressivo7773AllaFine) {
 
 TEST_F(Esportazione, UnArchivioPiuCortoDi7773ScriveUnFileVuoto) {
     CartellaTemporanea demo;
-    test::CreaArchivioDemo(demo.percorso(), ParametriDemo{1871, Data{31, 12, 1920}, Data{3, 1, 2009}});
-    const Archivio a = Archivio::Apri(demo.percorso());
+    test::CreaArchivioDemo(demo.percorso(), archives::ParametriDemo{1871, archives::Data{31, 12, 1920}, archives::Data{3, 1, 2009}});
+    const archives::Archivio a = archives::Archivio::Apri(demo.percorso());
     ASSERT_LT(a.NumeroEstrazioni(), 7773);
     const fs::path file = demo / "vuoto.bin";
     const EsitoEsportazione e = EsportaAggiornamento(a, file);
@@ -450,7 +450,7 @@ TEST_F(Esportazione, UnArchivioPiuCortoDi7773ScriveUnFileVuoto) {
 
 TEST_F(Esportazione, EsportazioneEReimportazioneSonoLoStessoArchivio) {
     // Update the copy, export it from the overlapping draw: the export is the update file.
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     ASSERT_TRUE(ApplicaAggiornamento(a, aggiornamento_, Gioco::Lotto, "f").riuscito);
     const fs::path file = tmp_ / "giro.alb";
     const EsitoEsportazione e = EsportaAggiornamento(a, file, 10779);
@@ -460,7 +460,7 @@ TEST_F(Esportazione, EsportazioneEReimportazioneSonoLoStessoArchivio) {
     // Applied to another copy of the 2025 archive it gives the same files.
     CartellaTemporanea altra;
     test::CopiaArchiviReali(reale_, altra.percorso());
-    Archivio b = Archivio::Apri(altra.percorso(), ModoApertura::Scrittura);
+    archives::Archivio b = archives::Archivio::Apri(altra.percorso(), archives::ModoApertura::Scrittura);
     EXPECT_EQ(ApplicaFileAggiornamento(b, file, Gioco::Lotto).aggiunte, 134);
     EXPECT_EQ(LeggiFile(altra / "Archivi/Estrazioni.ind"), LeggiFile(archivi() / "Estrazioni.ind"));
     EXPECT_EQ(LeggiFile(altra / "Archivi/anni.ind"), LeggiFile(archivi() / "anni.ind"));
@@ -473,13 +473,13 @@ TEST_F(Esportazione, EsportazioneEReimportazioneSonoLoStessoArchivio) {
 }
 
 TEST_F(Esportazione, UnaCartellaCheNonEsisteDaErroreENonLasciaNulla) {
-    const Archivio a = Archivio::Apri(cartella());
-    EXPECT_THROW(EsportaAggiornamento(a, tmp_ / "manca" / "x.bin"), ErroreArchivio);
+    const archives::Archivio a = archives::Archivio::Apri(cartella());
+    EXPECT_THROW(EsportaAggiornamento(a, tmp_ / "manca" / "x.bin"), archives::ErroreArchivio);
     EXPECT_FALSE(fs::exists(tmp_ / "manca"));
 }
 
 TEST_F(Esportazione, NonSostituisceIFileDellArchivio) {
-    const Archivio a = Archivio::Apri(cartella());
+    const archives::Archivio a = archives::Archivio::Apri(cartella());
     for (const char* nome : {"Estrazioni.ind", "anni.ind", "SuperEnalotto.ind"}) {
         // Also by another spelling of the same path.
         const fs::path file = cartella() / "Archivi" / ".." / "Archivi" / nome;
@@ -492,4 +492,4 @@ TEST_F(Esportazione, NonSostituisceIFileDellArchivio) {
 }
 
 }  // namespace
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

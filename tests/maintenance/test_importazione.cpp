@@ -17,7 +17,7 @@
 #include "copia_reale.h"
 #include "support/cartelle.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 namespace {
 
 namespace fs = std::filesystem;
@@ -45,9 +45,9 @@ std::string CreaZip(const fs::path& cartella, const std::vector<std::pair<std::s
 }
 
 // An empty program folder with its Archivi/ and the three files, as the command line makes it.
-Archivio CartellaVuota(const fs::path& cartella) {
+archives::Archivio CartellaVuota(const fs::path& cartella) {
     fs::create_directories(cartella / "Archivi");
-    return Archivio::Apri(cartella, ModoApertura::Scrittura);
+    return archives::Archivio::Apri(cartella, archives::ModoApertura::Scrittura);
 }
 
 std::vector<std::string> Linee(const std::string& testo) {
@@ -76,7 +76,7 @@ protected:
 };
 
 TEST_F(Importazione, Storico2026DaGliStessiByteDelFileDiAggiornamento) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const EsitoImportazione c = ControllaTesto(a, storico_, Gioco::Lotto);
     ASSERT_TRUE(c.riuscito) << c.messaggio.testo;
     EXPECT_EQ(c.estrazioni, 135);
@@ -92,7 +92,7 @@ TEST_F(Importazione, Storico2026DaGliStessiByteDelFileDiAggiornamento) {
     EXPECT_EQ(e.ultimaData, "21/08/2026");
     EXPECT_EQ(e.messaggio.testo, "Importazione archivio del Lotto al 21/08/2026 effettuata: 134 estrazioni aggiunte.");
     EXPECT_EQ(a.NumeroEstrazioni(), 10913);
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto()) << VerificaIntegrita(a).testo;
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto()) << archives::VerificaIntegrita(a).testo;
     // Record for record, the bytes of the update file (weekday digits and NumeroAnno included).
     EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_ + aggiornamento_.substr(66));
     EXPECT_EQ(LeggiFile(archivi() / "anni.ind"), anni_ + "202610780  \r");
@@ -108,17 +108,17 @@ TEST_F(Importazione, Storico2026DaGliStessiByteDelFileDiAggiornamento) {
 TEST_F(Importazione, EsportaTestoRiscriveStorico2026ByteAByte) {
     // The draws of storico-2026 in an archive of their own, written back.
     CartellaTemporanea vuota;
-    Archivio a = CartellaVuota(vuota.percorso());
+    archives::Archivio a = CartellaVuota(vuota.percorso());
     const EsitoImportazione e = ImportaTesto(a, storico_, Gioco::Lotto);
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo;
     EXPECT_TRUE(e.creato);
     EXPECT_EQ(e.aggiunte, 135);
     EXPECT_EQ(e.anniAggiunti, 2);  // 2025 from its one draw, 2026
     EXPECT_EQ(e.messaggio.testo, "Archivio delle estrazioni del Lotto creato: 135 estrazioni dal 30/12/2025 al 21/08/2026.");
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto()) << VerificaIntegrita(a).testo;
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto()) << archives::VerificaIntegrita(a).testo;
     EXPECT_EQ(EsportaTesto(a), storico_);
     // In a whole archive updated by the file, the same lines from 30/12/2025.
-    Archivio b = Apri();
+    archives::Archivio b = Apri();
     ASSERT_TRUE(ApplicaAggiornamento(b, aggiornamento_, Gioco::Lotto, "f").riuscito);
     const std::string tutto = EsportaTesto(b);
     const size_t da = tutto.find("2025/12/30\tBA");
@@ -127,12 +127,12 @@ TEST_F(Importazione, EsportaTestoRiscriveStorico2026ByteAByte) {
 }
 
 TEST_F(Importazione, LArchivio2025EsportatoEReimportatoNellaCartellaVuotaEIdentico) {
-    const Archivio reale = Apri();
+    const archives::Archivio reale = Apri();
     const fs::path testo = tmp_ / "storico.txt";
     EsportaTesto(reale, testo);
     EXPECT_EQ(LeggiFile(testo).substr(0, 14), "1871/01/07\tFI\t");  // wheels before their first index left out
     CartellaTemporanea vuota;
-    Archivio a = CartellaVuota(vuota.percorso());
+    archives::Archivio a = CartellaVuota(vuota.percorso());
     const EsitoImportazione e = ImportaFile(a, testo, Gioco::Lotto);
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo;
     EXPECT_EQ(e.aggiunte, 10779);
@@ -143,7 +143,7 @@ TEST_F(Importazione, LArchivio2025EsportatoEReimportatoNellaCartellaVuotaEIdenti
 
     // The same text as a zip, into another empty folder; and into the full archive: nothing new.
     CartellaTemporanea vuota2;
-    Archivio b = CartellaVuota(vuota2.percorso());
+    archives::Archivio b = CartellaVuota(vuota2.percorso());
     const std::string zip = CreaZip(tmp_.percorso(), {{"storico.txt", LeggiFile(testo)}});
     ASSERT_TRUE(SembraZip(zip));
     const EsitoImportazione z = ImportaDati(b, zip, Gioco::Lotto);
@@ -166,7 +166,7 @@ TEST_F(Importazione, LoZipComeLoScaricanoIGiocatori) {
     for (const Caso& k : casi) {
         CartellaTemporanea c;
         test::CopiaArchiviReali(reale_, c.percorso());
-        Archivio a = Archivio::Apri(c.percorso(), ModoApertura::Scrittura);
+        archives::Archivio a = archives::Archivio::Apri(c.percorso(), archives::ModoApertura::Scrittura);
         const std::string zip = CreaZip(tmp_.percorso(), k.voci);
         std::string errore;
         const auto testo = EstraiTestoZip(zip, &errore);
@@ -180,7 +180,7 @@ TEST_F(Importazione, LoZipComeLoScaricanoIGiocatori) {
 }
 
 TEST_F(Importazione, UnoZipGuastoOVuotoERifiutatoSenzaScrivere) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const std::string zip = CreaZip(tmp_.percorso(), {{"storico.txt", storico_}});
     // Damage inside the compressed data: the CRC or the inflater catches it.
     std::string guasto = zip;
@@ -196,7 +196,7 @@ TEST_F(Importazione, UnoZipGuastoOVuotoERifiutatoSenzaScrivere) {
     EXPECT_FALSE(e.riuscito);
     EXPECT_EQ(e.messaggio.testo, "L'archivio zip non contiene alcun file.");
     EXPECT_FALSE(ImportaZip(a, storico_, Gioco::Lotto).riuscito);  // a text is no zip
-    EXPECT_THROW(EsportaTesto(a, archivi() / "anni.ind"), ErroreArchivio);
+    EXPECT_THROW(EsportaTesto(a, archivi() / "anni.ind"), archives::ErroreArchivio);
     EXPECT_EQ(EstraiTestoZip("PK\3\4 non proprio", &errore), std::nullopt);
     EXPECT_EQ(errore, "Il file non è un archivio zip valido.");
     AttesoIntatto();
@@ -204,7 +204,7 @@ TEST_F(Importazione, UnoZipGuastoOVuotoERifiutatoSenzaScrivere) {
 
 // Every faulty line is named by its number, and nothing is written.
 TEST_F(Importazione, UnaRigaErrataNeDiceIlNumero) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const std::vector<std::string> linee = Linee(storico_);
     struct Caso {
         int riga;              // 1-based line to replace (or to insert before with `inserisci`)
@@ -250,7 +250,7 @@ TEST_F(Importazione, UnaRigaErrataNeDiceIlNumero) {
 }
 
 TEST_F(Importazione, LaContinuitaEQuellaDeiFileDiAggiornamento) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     // From 02/01/2026: a gap after 30/12/2025.
     const std::vector<std::string> linee = Linee(storico_);
     const std::string lacuna = Unisci(std::vector<std::string>(linee.begin() + 11, linee.end()));
@@ -273,21 +273,21 @@ TEST_F(Importazione, FineRigaWindowsBomOrdineDiscendenteERuoteMancanti) {
         return x.substr(0, 10) > y.substr(0, 10);
     });
     {
-        Archivio a = Apri();
+        archives::Archivio a = Apri();
         const EsitoImportazione e = ImportaTesto(a, "\xEF\xBB\xBF" + Unisci(linee, "\r\n"), Gioco::Lotto);
         ASSERT_TRUE(e.riuscito) << e.messaggio.testo;
         EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_ + aggiornamento_.substr(66));
     }
     // A wheel left out is five zero bytes; RO and NZ are read as Roma and Nazionale.
     CartellaTemporanea vuota;
-    Archivio b = CartellaVuota(vuota.percorso());
+    archives::Archivio b = CartellaVuota(vuota.percorso());
     const EsitoImportazione e = ImportaTesto(b,
                                              "2026/01/02 RO 1 2 3 4 5\n"
                                              "2026/01/02 NZ 6 7 8 9 10\n"
                                              "2026/01/03;BA;11;12;13;14;15\n",
                                              Gioco::Lotto);
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo;
-    const RecordEstrazione r = b.LeggiEstrazione(1);
+    const archives::RecordEstrazione r = b.LeggiEstrazione(1);
     EXPECT_EQ(r.dataTesto(), "02/01/2026");
     EXPECT_EQ(r.GiornoSettimana, '6');  // a Friday
     EXPECT_EQ(r.GiornoSettimanaCopia, '6');
@@ -306,26 +306,26 @@ TEST_F(Importazione, FineRigaWindowsBomOrdineDiscendenteERuoteMancanti) {
 
 TEST_F(Importazione, UnArchivioAnniSenzaEstrazioniNonSiCostruisce) {
     CartellaTemporanea vuota;
-    Archivio a = CartellaVuota(vuota.percorso());
+    archives::Archivio a = CartellaVuota(vuota.percorso());
     {
         std::ofstream f(vuota / "Archivi/anni.ind", std::ios::binary);
         f << "20251      \r";
     }
-    a = Archivio::Apri(vuota.percorso(), ModoApertura::Scrittura);
+    a = archives::Archivio::Apri(vuota.percorso(), archives::ModoApertura::Scrittura);
     const EsitoImportazione e = ImportaTesto(a, storico_, Gioco::Lotto);
     EXPECT_FALSE(e.riuscito);
     EXPECT_EQ(fs::file_size(vuota / "Archivi/Estrazioni.ind"), 0u);
     // The repair drops the year that points past the draws; then the import builds.
     EXPECT_TRUE(RiparaArchivio(a).riparato());
     EXPECT_TRUE(ImportaTesto(a, storico_, Gioco::Lotto).riuscito);
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto());
 }
 
 // SuperEnalotto lists written from the real archive in the layouts players exchange.
-std::string ListaSuper(const std::vector<RecordSuperEnalotto>& v, const std::string& formato, bool discendente) {
+std::string ListaSuper(const std::vector<archives::RecordSuperEnalotto>& v, const std::string& formato, bool discendente) {
     std::vector<std::string> righe;
     for (const auto& r : v) {
-        const Data d = r.data();
+        const archives::Data d = r.data();
         std::string data = formato == "gg" ? d.testo() : formato == "-" ? fmt::format("{:04}-{:02}-{:02}", d.anno, d.mese, d.giorno)
                                                                         : fmt::format("{:04}/{:02}/{:02}", d.anno, d.mese, d.giorno);
         const std::string sep = formato == "-" ? ";" : "\t";
@@ -340,14 +340,14 @@ std::string ListaSuper(const std::vector<RecordSuperEnalotto>& v, const std::str
 }
 
 TEST_F(Importazione, SuperEnalottoNeiFormatiComuni) {
-    const Archivio reale = Archivio::Apri(cartella());
+    const archives::Archivio reale = archives::Archivio::Apri(cartella());
     const auto tutte = reale.LeggiTuttiSuper();
     ASSERT_EQ(tutte.size(), 2823u);
 
     // The whole list into an empty folder: the same bytes, NumeroAnno and weekdays included.
     for (const auto& [formato, discendente] : {std::pair{"/", false}, std::pair{"gg", true}, std::pair{"-", true}}) {
         CartellaTemporanea vuota;
-        Archivio a = CartellaVuota(vuota.percorso());
+        archives::Archivio a = CartellaVuota(vuota.percorso());
         std::string lista = ListaSuper(tutte, formato, discendente);
         if (std::string(formato) == "-") lista = "Data;N1;N2;N3;N4;N5;N6;Jolly;SuperStar\n" + lista;
         const EsitoImportazione e = ImportaTesto(a, lista, Gioco::SuperEnalotto);
@@ -363,8 +363,8 @@ TEST_F(Importazione, SuperEnalottoNeiFormatiComuni) {
         std::ofstream f(archivi() / "SuperEnalotto.ind", std::ios::binary | std::ios::trunc);
         f.write(super_.data(), static_cast<std::streamsize>(super_.size() - 12 * 20));
     }
-    Archivio a = Apri();
-    const std::vector<RecordSuperEnalotto> coda(tutte.end() - 30, tutte.end());
+    archives::Archivio a = Apri();
+    const std::vector<archives::RecordSuperEnalotto> coda(tutte.end() - 30, tutte.end());
     const EsitoImportazione e = ImportaTesto(a, ListaSuper(coda, "gg", true), Gioco::SuperEnalotto);
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo;
     EXPECT_EQ(e.aggiunte, 12);
@@ -374,7 +374,7 @@ TEST_F(Importazione, SuperEnalottoNeiFormatiComuni) {
 
 TEST_F(Importazione, SuperEnalottoRigheErrate) {
     CartellaTemporanea vuota;
-    Archivio a = CartellaVuota(vuota.percorso());
+    archives::Archivio a = CartellaVuota(vuota.percorso());
     const std::string buone = "Data\tnumeri\n2026/04/02\t1\t2\t3\t4\t5\t6\t7\t8\n2026/04/04\t11\t12\t13\t14\t15\t16\n";
     const std::pair<std::string, std::string> casi[] = {
         {"2026/04/07\t1\t2\t3\t4\t5\n", "Riga 4: formato non riconosciuto"},
@@ -397,7 +397,7 @@ TEST_F(Importazione, SuperEnalottoRigheErrate) {
         ImportaTesto(a, "1;2026/04/02;1;2;3;4;5;6;7;8\n2;04/04/2026;11;12;13;14;15;16;;9\n3;2026-04-07;21;22;23;24;25;26\n",
                      Gioco::SuperEnalotto);
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo;
-    const RecordSuperEnalotto r2 = a.LeggiRecordSuper(2), r3 = a.LeggiRecordSuper(3);
+    const archives::RecordSuperEnalotto r2 = a.LeggiRecordSuper(2), r3 = a.LeggiRecordSuper(3);
     EXPECT_EQ(r2.Jolly, 0);
     EXPECT_EQ(r2.SuperStar, 9);
     EXPECT_EQ(r3.NumeroAnno, 3);
@@ -421,8 +421,8 @@ TEST(ImportazioneCodici, RuoteECodiciPubblici) {
 
 TEST(ImportazioneCodici, OltreDuecentocinquantacinqueEstrazioniInUnAnno) {
     std::string testo, fino255;
-    Data d{1, 1, 2030};
-    for (int i = 0; i < 256; ++i, d = Data::daGiorni(d.giorni() + 1)) {
+    archives::Data d{1, 1, 2030};
+    for (int i = 0; i < 256; ++i, d = archives::Data::daGiorni(d.giorni() + 1)) {
         if (i == 255) fino255 = testo;
         testo += fmt::format("{:04}/{:02}/{:02}\tBA\t1\t2\t3\t4\t5\n", d.anno, d.mese, d.giorno);
     }
@@ -435,4 +435,4 @@ TEST(ImportazioneCodici, OltreDuecentocinquantacinqueEstrazioniInUnAnno) {
 }
 
 }  // namespace
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

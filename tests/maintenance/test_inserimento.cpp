@@ -12,11 +12,11 @@
 #include "maintenance/inserimento.h"
 #include "support/cartelle.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 namespace {
 
 // The engine; the suite takes its name.
-using Motore = gorgo::manutenzione::Inserimento;
+using Motore = gorgo::maintenance::Inserimento;
 
 namespace fs = std::filesystem;
 using test::CartellaTemporanea;
@@ -43,9 +43,9 @@ std::string Archivi(const fs::path& cartella) {
 
 // A program folder whose Lotto archive is the demo history cut at `quante` draws.
 void ArchivioTroncato(const fs::path& cartella, size_t quante) {
-    auto storia = GeneraStoriaDemo();
+    auto storia = archives::GeneraStoriaDemo();
     storia.resize(quante);
-    ScriviArchivi(cartella, storia, IndiceAnni(storia), GeneraSuperDemo());
+    archives::ScriviArchivi(cartella, storia, archives::IndiceAnni(storia), archives::GeneraSuperDemo());
 }
 
 void Riempi(Motore& ins, int da, int a) {
@@ -55,10 +55,10 @@ void Riempi(Motore& ins, int da, int a) {
 // Every test of the suite may use a copy of the demo archives, made on first use.
 class Inserimento : public ::testing::Test {
 protected:
-    Archivio Apri() {
+    archives::Archivio Apri() {
         if (!pronta_) test::CreaArchivioDemo(c_.percorso());
         pronta_ = true;
-        return Archivio::Apri(c_.percorso(), ModoApertura::Scrittura);
+        return archives::Archivio::Apri(c_.percorso(), archives::ModoApertura::Scrittura);
     }
     CartellaTemporanea c_;
     bool pronta_ = false;
@@ -105,7 +105,7 @@ TEST_F(Inserimento, DecodificaFermaSulValoreFuoriLimiti) {
         EXPECT_EQ(e.caselleRiempite, 3);
         EXPECT_EQ(e.errore.testo, TestoValoriIncongruenti);
         EXPECT_EQ(e.errore.titolo, "Errore");
-        EXPECT_EQ(e.errore.icona, Icona::Stop);
+        EXPECT_EQ(e.errore.icona, archives::Icona::Stop);
         EXPECT_EQ(caselle[0], "11");
         EXPECT_EQ(caselle[2], "33");
         EXPECT_EQ(caselle[3], "");  // cleared
@@ -168,9 +168,9 @@ TEST_F(Inserimento, CaselleNumeriche) {
     EXPECT_TRUE(ControllaCasella("").vuoto());
     EXPECT_TRUE(ControllaCasella("0").vuoto());
     EXPECT_TRUE(ControllaCasella("90").vuoto());
-    const Messaggio m = ControllaCasella("91");
+    const archives::Messaggio m = ControllaCasella("91");
     EXPECT_EQ(m.testo, "inserisci un numero tra 1 e 90 !");
-    EXPECT_EQ(m.icona, Icona::Esclamazione);
+    EXPECT_EQ(m.icona, archives::Icona::Esclamazione);
     EXPECT_EQ(SuggerimentoCasella(1), "1' estratto ruota di Bari      ");
     EXPECT_EQ(SuggerimentoCasella(13), "3' estratto ruota di Firenze   ");
     EXPECT_EQ(SuggerimentoCasella(55), "5' estratto ruota di Nazionale ");
@@ -180,18 +180,18 @@ TEST_F(Inserimento, CaselleNumeriche) {
 
 TEST_F(Inserimento, DataPropostaPerGiorniEstrazione) {
     // Saturday 30/12/2023 with Tuesday, Thursday and Saturday: Tuesday 02/01/2024.
-    EXPECT_EQ(DataProposta({30, 12, 2023}, "NNYNYNY"), (Data{2, 1, 2024}));
-    EXPECT_EQ(DataProposta({2, 1, 2024}, "NNYNYNY"), (Data{4, 1, 2024}));
-    EXPECT_EQ(DataProposta({4, 1, 2024}, "NNYNYNY"), (Data{6, 1, 2024}));
+    EXPECT_EQ(DataProposta({30, 12, 2023}, "NNYNYNY"), (archives::Data{2, 1, 2024}));
+    EXPECT_EQ(DataProposta({2, 1, 2024}, "NNYNYNY"), (archives::Data{4, 1, 2024}));
+    EXPECT_EQ(DataProposta({4, 1, 2024}, "NNYNYNY"), (archives::Data{6, 1, 2024}));
     // Four days a week (Friday added).
-    EXPECT_EQ(DataProposta({4, 1, 2024}, "NNYNYYY"), (Data{5, 1, 2024}));
+    EXPECT_EQ(DataProposta({4, 1, 2024}, "NNYNYYY"), (archives::Data{5, 1, 2024}));
     // No day ticked: the next Saturday, also from a Saturday.
-    EXPECT_EQ(DataProposta({28, 12, 2023}, "NNNNNNN"), (Data{30, 12, 2023}));
-    EXPECT_EQ(DataProposta({30, 12, 2023}, "NNNNNNN"), (Data{6, 1, 2024}));
-    EXPECT_EQ(DataProposta({30, 12, 2023}, ""), (Data{6, 1, 2024}));
+    EXPECT_EQ(DataProposta({28, 12, 2023}, "NNNNNNN"), (archives::Data{30, 12, 2023}));
+    EXPECT_EQ(DataProposta({30, 12, 2023}, "NNNNNNN"), (archives::Data{6, 1, 2024}));
+    EXPECT_EQ(DataProposta({30, 12, 2023}, ""), (archives::Data{6, 1, 2024}));
     // Sunday only; a 29 February on the way.
-    EXPECT_EQ(DataProposta({26, 2, 2024}, "YNNNNNN"), (Data{3, 3, 2024}));
-    EXPECT_EQ(DataProposta({28, 2, 2024}, "NNNNYNN"), (Data{29, 2, 2024}));
+    EXPECT_EQ(DataProposta({26, 2, 2024}, "YNNNNNN"), (archives::Data{3, 3, 2024}));
+    EXPECT_EQ(DataProposta({28, 2, 2024}, "NNNNYNN"), (archives::Data{29, 2, 2024}));
     const auto g = GiorniDiEstrazione("NNY");
     EXPECT_TRUE(g[3]);
     EXPECT_FALSE(g[7]);
@@ -202,7 +202,7 @@ TEST_F(Inserimento, DataPropostaPerGiorniEstrazione) {
 
 
 TEST_F(Inserimento, ConsultaEModi) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     Motore ins(a, GiocoInserimento::Lotto);
     const int32_t n = a.NumeroEstrazioni();
     EXPECT_EQ(ins.modo(), ModoInserimento::Consulta);
@@ -238,7 +238,7 @@ TEST_F(Inserimento, ConsultaEModi) {
     EXPECT_FALSE(ins.ChiedeSalvataggio());
     ins.ImpostaCasella(12, "4");
     EXPECT_TRUE(ins.ChiedeSalvataggio());
-    const Messaggio d = Motore::DomandaSalvataggio();
+    const archives::Messaggio d = Motore::DomandaSalvataggio();
     EXPECT_EQ(d.testo, "Salvare i dati prima di chiudere?");
     EXPECT_EQ(d.titolo, "Input estrazioni");
     ins.ImpostaTestoIncolla("qualcosa");
@@ -248,7 +248,7 @@ TEST_F(Inserimento, ConsultaEModi) {
 }
 
 TEST_F(Inserimento, NuovaDataPropostaEMossePerGiorno) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const int32_t n = a.NumeroEstrazioni();
     const int numeroUltima = a.LeggiEstrazione(n).NumeroAnno;
     Motore ins(a, GiocoInserimento::Lotto);
@@ -280,7 +280,7 @@ TEST_F(Inserimento, NuovaDataPropostaEMossePerGiorno) {
 
 TEST_F(Inserimento, NuovaEstrazioneDiUnAnnoNuovoAggiungeLAnno) {
     const int32_t anniPrima = Apri().NumeroAnni();
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const int32_t n = a.NumeroEstrazioni();
     Motore ins(a, GiocoInserimento::Lotto);
     ASSERT_TRUE(ins.Nuova("NNYNYNY").vuoto());
@@ -293,10 +293,10 @@ TEST_F(Inserimento, NuovaEstrazioneDiUnAnnoNuovoAggiungeLAnno) {
     EXPECT_EQ(e.indice, n + 1);
     EXPECT_EQ(a.NumeroEstrazioni(), n + 1);
     EXPECT_EQ(a.NumeroAnni(), anniPrima + 1);
-    const RecordAnno anno = a.LeggiAnno(a.NumeroAnni());
+    const archives::RecordAnno anno = a.LeggiAnno(a.NumeroAnni());
     EXPECT_EQ(anno.anno(), 2026);
     EXPECT_EQ(anno.primaEstrazione(), n + 1);
-    const RecordEstrazione r = a.LeggiEstrazione(n + 1);
+    const archives::RecordEstrazione r = a.LeggiEstrazione(n + 1);
     EXPECT_EQ(r.dataTesto(), "01/01/2026");
     EXPECT_EQ(r.NumeroAnno, 1);
     EXPECT_EQ(r.GiornoSettimana, '5');
@@ -308,7 +308,7 @@ TEST_F(Inserimento, NuovaEstrazioneDiUnAnnoNuovoAggiungeLAnno) {
     EXPECT_EQ(ins.IndiceCorrente(), n + 1);
     EXPECT_EQ(ins.TotaleEstrazioni(), n + 1);
     EXPECT_EQ(ins.TestoIncolla(), "");
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto());
 
     // The second draw of the year adds no year.
     ASSERT_TRUE(ins.Nuova("NNYNYNY").vuoto());
@@ -320,19 +320,19 @@ TEST_F(Inserimento, NuovaEstrazioneDiUnAnnoNuovoAggiungeLAnno) {
     EXPECT_FALSE(f.annoAggiunto);
     EXPECT_EQ(a.NumeroAnni(), anniPrima + 1);
     EXPECT_EQ(a.LeggiEstrazione(n + 2).NumeroAnno, 2);
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto());
     // A fresh opening sees the same.
     EXPECT_EQ(Apri().NumeroEstrazioni(), n + 2);
 }
 
 TEST_F(Inserimento, CorrezioneLasciaAnniInd) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const std::string anni = LeggiFile(c_ / "Archivi/anni.ind");
     const int32_t n = a.NumeroEstrazioni();
     // The first draw of 2025: its correction adds no year.
     const int32_t indice = a.CercaIndice({1, 1, 2025}, false)->IndiceTrovato;
     ASSERT_EQ(a.LeggiEstrazione(indice).NumeroAnno, 1);
-    const RecordEstrazione prima = a.LeggiEstrazione(indice);
+    const archives::RecordEstrazione prima = a.LeggiEstrazione(indice);
     Motore ins(a, GiocoInserimento::Lotto);
     ins.Mostra(indice);
     ins.Correggi();
@@ -350,30 +350,30 @@ TEST_F(Inserimento, CorrezioneLasciaAnniInd) {
     EXPECT_FALSE(e.annoAggiunto);
     EXPECT_EQ(a.NumeroEstrazioni(), n);
     EXPECT_EQ(LeggiFile(c_ / "Archivi/anni.ind"), anni);
-    const RecordEstrazione dopo = a.LeggiEstrazione(indice);
+    const archives::RecordEstrazione dopo = a.LeggiEstrazione(indice);
     EXPECT_EQ(dopo.Numero(1, 1), prima.Numero(1, 1) == 90 ? 89 : 90);
     EXPECT_EQ(dopo.NumeroAnno, 1);
     EXPECT_EQ(dopo.dataTesto(), prima.dataTesto());
     EXPECT_EQ(0, std::memcmp(dopo.Ruota[2], prima.Ruota[2], 45));
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto());
 }
 
 TEST_F(Inserimento, CorrezioneDataTraIVicini) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const int32_t n = a.NumeroEstrazioni();
     const int32_t indice = n - 2;
-    const Data precedente = a.LeggiEstrazione(indice - 1).data(), successiva = a.LeggiEstrazione(indice + 1).data();
+    const archives::Data precedente = a.LeggiEstrazione(indice - 1).data(), successiva = a.LeggiEstrazione(indice + 1).data();
     Motore ins(a, GiocoInserimento::Lotto);
     ins.Mostra(indice);
     ins.Correggi();
     for (int i = 0; i < 10; ++i) ins.Successiva();
-    EXPECT_EQ(*ins.DataCaselle(), Data::daGiorni(successiva.giorni() - 1));
+    EXPECT_EQ(*ins.DataCaselle(), archives::Data::daGiorni(successiva.giorni() - 1));
     for (int i = 0; i < 10; ++i) ins.Precedente();
-    EXPECT_EQ(*ins.DataCaselle(), Data::daGiorni(precedente.giorni() + 1));
+    EXPECT_EQ(*ins.DataCaselle(), archives::Data::daGiorni(precedente.giorni() + 1));
     const EsitoMemorizzazione e = ins.Memorizza();
     ASSERT_EQ(e.stato, StatoMemorizzazione::Memorizzata) << e.messaggio.testo;
-    const RecordEstrazione r = a.LeggiEstrazione(indice);
-    EXPECT_EQ(r.data(), Data::daGiorni(precedente.giorni() + 1));
+    const archives::RecordEstrazione r = a.LeggiEstrazione(indice);
+    EXPECT_EQ(r.data(), archives::Data::daGiorni(precedente.giorni() + 1));
     // Both weekday digits follow the new date.
     EXPECT_EQ(r.giornoSettimana(), r.data().giornoSettimana());
     EXPECT_EQ(r.GiornoSettimanaCopia, r.GiornoSettimana);
@@ -403,7 +403,7 @@ TEST_F(Inserimento, CorrezioneDataTraIVicini) {
     ins.Mostra(primaAnno);
     ins.Correggi();
     for (int i = 0; i < 5; ++i) ins.Precedente();
-    EXPECT_EQ(*ins.DataCaselle(), (Data{31, 12, 2023}));
+    EXPECT_EQ(*ins.DataCaselle(), (archives::Data{31, 12, 2023}));
     f = ins.Memorizza();
     EXPECT_EQ(f.stato, StatoMemorizzazione::Rifiutata);
     EXPECT_NE(f.messaggio.testo.find("deve restare nell'anno 2024"), std::string::npos) << f.messaggio.testo;
@@ -411,7 +411,7 @@ TEST_F(Inserimento, CorrezioneDataTraIVicini) {
 }
 
 TEST_F(Inserimento, LeDomandeDellaMemorizzazione) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const std::string prima = Archivi(c_.percorso());
     Motore ins(a, GiocoInserimento::Lotto);
     ASSERT_TRUE(ins.Nuova("NNYNYNY").vuoto());
@@ -423,7 +423,7 @@ TEST_F(Inserimento, LeDomandeDellaMemorizzazione) {
     EXPECT_EQ(e.domanda, DomandaInserimento::NumeriMancanti);
     EXPECT_EQ(e.messaggio.testo, "Manca 1 numero. Memorizzi ugualmente ?");
     EXPECT_EQ(e.messaggio.titolo, "Conferma");
-    EXPECT_EQ(e.messaggio.icona, Icona::Domanda);
+    EXPECT_EQ(e.messaggio.icona, archives::Icona::Domanda);
     // More missing; "0" counts as missing.
     ins.ImpostaCasella(18, "0");
     e = ins.Memorizza();
@@ -451,15 +451,15 @@ TEST_F(Inserimento, LeDomandeDellaMemorizzazione) {
     EXPECT_EQ(e.domanda, DomandaInserimento::NumeriUguali);  // the two blanks of wheel 4
     e = ins.Memorizza({.numeriMancanti = true, .numeriUguali = true});
     ASSERT_EQ(e.stato, StatoMemorizzazione::Memorizzata);
-    const RecordEstrazione r = a.LeggiEstrazione(e.indice);
+    const archives::RecordEstrazione r = a.LeggiEstrazione(e.indice);
     EXPECT_EQ(r.Numero(4, 2), 0);
     EXPECT_EQ(r.Numero(4, 3), 0);
     EXPECT_EQ(r.Numero(2, 1), r.Numero(1, 1));
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto());
 }
 
 TEST_F(Inserimento, InputErratoNonScriveNulla) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const std::string prima = Archivi(c_.percorso());
     Motore ins(a, GiocoInserimento::Lotto);
     // Browse: nothing to store.
@@ -484,7 +484,7 @@ TEST_F(Inserimento, InputErratoNonScriveNulla) {
 }
 
 TEST_F(Inserimento, ArchivioCresciutoNelFrattempo) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     Motore primo(a, GiocoInserimento::Lotto), secondo(a, GiocoInserimento::Lotto);
     ASSERT_TRUE(primo.Nuova("NNYNYNY").vuoto());
     ASSERT_TRUE(secondo.Nuova("NNYNYNY").vuoto());
@@ -502,19 +502,19 @@ TEST_F(Inserimento, ArchivioCresciutoNelFrattempo) {
     const EsitoMemorizzazione f = primo.Memorizza();
     ASSERT_EQ(f.stato, StatoMemorizzazione::Memorizzata) << f.messaggio.testo;
     EXPECT_EQ(a.LeggiEstrazione(f.indice).NumeroAnno, 2);
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto());
 }
 
 TEST_F(Inserimento, SuperEnalotto) {
-    Archivio a = Apri();
+    archives::Archivio a = Apri();
     const std::string lotto = LeggiFile(c_ / "Archivi/Estrazioni.ind") + LeggiFile(c_ / "Archivi/anni.ind");
     const int32_t n = a.NumeroEstrazioniSuper();
-    const RecordSuperEnalotto ultima = a.LeggiRecordSuper(n);
+    const archives::RecordSuperEnalotto ultima = a.LeggiRecordSuper(n);
     Motore ins(a, GiocoInserimento::SuperEnalotto);
     EXPECT_EQ(ins.NumeroCaselle(), 8);
     EXPECT_EQ(ins.IndiceCorrente(), n);
     ASSERT_TRUE(ins.Nuova("NNYNYNY").vuoto());
-    const Data proposta = DataProposta(ultima.data(), "NNYNYNY");
+    const archives::Data proposta = DataProposta(ultima.data(), "NNYNYNY");
     EXPECT_EQ(*ins.DataCaselle(), proposta);
     EXPECT_EQ(ins.NumeroAnno(), proposta.anno == ultima.data().anno ? ultima.NumeroAnno + 1 : 1);
     for (int i = 1; i <= 8; ++i) EXPECT_TRUE(ins.CasellaAperta(i));
@@ -527,7 +527,7 @@ TEST_F(Inserimento, SuperEnalotto) {
     e = ins.Memorizza();
     ASSERT_EQ(e.stato, StatoMemorizzazione::Memorizzata) << e.messaggio.testo;
     EXPECT_EQ(a.NumeroEstrazioniSuper(), n + 1);
-    const RecordSuperEnalotto r = a.LeggiRecordSuper(n + 1);
+    const archives::RecordSuperEnalotto r = a.LeggiRecordSuper(n + 1);
     EXPECT_EQ(r.data(), proposta);
     EXPECT_EQ(r.Sestina[3], 44);
     EXPECT_EQ(r.Jolly, 17);
@@ -552,7 +552,7 @@ TEST_F(Inserimento, CaselleDellaNazionale) {
     for (const size_t quante : {size_t{7439}, size_t{7440}}) {
         CartellaTemporanea c;
         ArchivioTroncato(c.percorso(), quante);
-        Archivio a = Archivio::Apri(c.percorso(), ModoApertura::Scrittura);
+        archives::Archivio a = archives::Archivio::Apri(c.percorso(), archives::ModoApertura::Scrittura);
         Motore ins(a, GiocoInserimento::Lotto);
         ASSERT_TRUE(ins.Nuova("NNYNYNY").vuoto());
         EXPECT_TRUE(ins.CasellaAperta(50));
@@ -568,7 +568,7 @@ TEST_F(Inserimento, CaselleDellaNazionale) {
     }
     CartellaTemporanea c;
     ArchivioTroncato(c.percorso(), 7440);
-    Archivio a = Archivio::Apri(c.percorso(), ModoApertura::Scrittura);
+    archives::Archivio a = archives::Archivio::Apri(c.percorso(), archives::ModoApertura::Scrittura);
     Motore ins(a, GiocoInserimento::Lotto);
     ins.Mostra(7440);
     ins.Correggi();
@@ -583,7 +583,7 @@ TEST_F(Inserimento, CaselleDellaNazionale) {
 TEST_F(Inserimento, ArchivioVuotoNessunaProposta) {
     CartellaTemporanea c;
     fs::create_directories(c / "Archivi");
-    Archivio a = Archivio::Apri(c.percorso(), ModoApertura::Scrittura);
+    archives::Archivio a = archives::Archivio::Apri(c.percorso(), archives::ModoApertura::Scrittura);
     Motore ins(a, GiocoInserimento::Lotto);
     EXPECT_EQ(ins.IndiceCorrente(), 0);
     EXPECT_FALSE(ins.Nuova("NNYNYNY").vuoto());
@@ -596,4 +596,4 @@ TEST_F(Inserimento, ArchivioVuotoNessunaProposta) {
 }
 
 }  // namespace
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

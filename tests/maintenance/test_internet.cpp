@@ -18,12 +18,12 @@
 #include "config/impostazioni.h"
 #include "maintenance/internet.h"
 #include "maintenance/server_locale.h"
-#include "rete/scaricatore.h"
+#include "network/scaricatore.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 #include "support/cli.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 namespace {
 
 namespace fs = std::filesystem;
@@ -182,7 +182,7 @@ TEST_F(Internet, SetaccioDeiPrimi150Byte) {
     EXPECT_EQ(MessaggioSetaccio(EsitoSetaccio::IndirizzoErrato).testo,
               "File non trovato - Controllare l'indirizzo internet nel menù opzioni");
     EXPECT_EQ(MessaggioSetaccio(EsitoSetaccio::PaginaNonTrovata).titolo, "Aggiornamento archivi");
-    EXPECT_EQ(MessaggioSetaccio(EsitoSetaccio::PaginaNonTrovata).icona, Icona::Stop);
+    EXPECT_EQ(MessaggioSetaccio(EsitoSetaccio::PaginaNonTrovata).icona, archives::Icona::Stop);
     EXPECT_TRUE(MessaggioSetaccio(EsitoSetaccio::Nessuno).vuoto());
 }
 
@@ -347,10 +347,10 @@ TEST_F(Internet, ImpostazioneUrlStorico) {
 TEST_F(Internet, ScaricatoreFileInteroStatiInOrdine) {
     const std::string corpo = Riempimento(8910);
     server_.Imposta("/AggiornamentoPz.bin", Risposta(200, "OK", corpo));
-    rete::Scaricatore s;
+    network::Scaricatore s;
     std::vector<int> stati;
-    QObject::connect(&s, &rete::Scaricatore::statoCambiato, [&](int stato, int, const QString&) { stati.push_back(stato); });
-    const rete::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
+    QObject::connect(&s, &network::Scaricatore::statoCambiato, [&](int stato, int, const QString&) { stati.push_back(stato); });
+    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.riuscito()) << r.errore.toStdString();
     EXPECT_TRUE(r.completo);
     EXPECT_EQ(r.statoHttp, 200);
@@ -362,8 +362,8 @@ TEST_F(Internet, ScaricatoreFileInteroStatiInOrdine) {
 
 TEST_F(Internet, ScaricatoreStatus404CorpoEMotivo) {
     server_.Imposta("/x/AggiornamentoPz.bin", Risposta(404, "Not Found", "<html>404 Not Found</html>"));
-    rete::Scaricatore s;
-    const rete::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/x/AggiornamentoPz.bin")));
+    network::Scaricatore s;
+    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/x/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.completo);
     EXPECT_FALSE(r.riuscito());
     EXPECT_EQ(r.statoHttp, 404);
@@ -376,8 +376,8 @@ TEST_F(Internet, ScaricatoreStatus407DaUnServerNonProxy) {
     const std::string corpo = "Proxy Authentication Required 407" + Riempimento(200);
     server_.Imposta("/AggiornamentoPz.bin", Risposta(407, "Proxy Authentication Required", corpo,
                                                      "Proxy-Authenticate: Basic realm=\"prova\"\r\n"));
-    rete::Scaricatore s;
-    const rete::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
+    network::Scaricatore s;
+    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.completo);
     EXPECT_EQ(r.statoHttp, 407);
     EXPECT_EQ(r.corpo.toStdString(), corpo);
@@ -386,16 +386,16 @@ TEST_F(Internet, ScaricatoreStatus407DaUnServerNonProxy) {
 TEST_F(Internet, ScaricatoreCorpoTroncato) {
     const std::string corpo = Riempimento(8910);
     server_.Imposta("/AggiornamentoPz.bin", test::RispostaTroncata(corpo, 4026));
-    rete::Scaricatore s;
+    network::Scaricatore s;
     std::vector<int> stati;
-    QObject::connect(&s, &rete::Scaricatore::statoCambiato, [&](int stato, int, const QString&) { stati.push_back(stato); });
-    const rete::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
+    QObject::connect(&s, &network::Scaricatore::statoCambiato, [&](int stato, int, const QString&) { stati.push_back(stato); });
+    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_FALSE(r.completo);
     EXPECT_FALSE(r.riuscito());
     EXPECT_EQ(r.errore.toStdString(), fmt::format("Scaricamento da {} interrotto: ricevuti 4026 byte su 8910",
                                                   server_.Indirizzo("/AggiornamentoPz.bin")));
     ASSERT_FALSE(stati.empty());
-    EXPECT_EQ(stati.back(), manutenzione::stati::Errore);
+    EXPECT_EQ(stati.back(), maintenance::stati::Errore);
 }
 
 TEST_F(Internet, ScaricatoreServerAssente) {
@@ -405,14 +405,14 @@ TEST_F(Internet, ScaricatoreServerAssente) {
         ServerLocale chiuso(0, std::chrono::seconds(1));
         porta = chiuso.porta();
     }
-    rete::Scaricatore s;
+    network::Scaricatore s;
     int codice = -1;
     QString testo;
-    QObject::connect(&s, &rete::Scaricatore::statoCambiato, [&](int stato, int c, const QString& t) {
-        if (stato == manutenzione::stati::Errore) codice = c, testo = t;
+    QObject::connect(&s, &network::Scaricatore::statoCambiato, [&](int stato, int c, const QString& t) {
+        if (stato == maintenance::stati::Errore) codice = c, testo = t;
     });
     const QString indirizzo = QStringLiteral("http://127.0.0.1:%1/AggiornamentoPz.bin").arg(porta);
-    const rete::RisultatoScaricamento r = s.Scarica(indirizzo);
+    const network::RisultatoScaricamento r = s.Scarica(indirizzo);
     EXPECT_FALSE(r.completo);
     EXPECT_EQ(r.statoHttp, 0);
     EXPECT_EQ(r.errore, QStringLiteral("Scaricamento da %1 non riuscito: connessione rifiutata dal server").arg(indirizzo));
@@ -422,9 +422,9 @@ TEST_F(Internet, ScaricatoreServerAssente) {
 
 TEST_F(Internet, ScaricatoreTempoMassimo) {
     server_.Imposta("/lento", test::RispostaSospesa(Riempimento(8910), 100));
-    rete::Scaricatore s;
+    network::Scaricatore s;
     s.ImpostaTempoMassimo(400);
-    const rete::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/lento")));
+    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/lento")));
     EXPECT_FALSE(r.completo);
     EXPECT_TRUE(r.scaduto);
     EXPECT_FALSE(r.annullato);
@@ -433,11 +433,11 @@ TEST_F(Internet, ScaricatoreTempoMassimo) {
 
 TEST_F(Internet, ScaricatoreAnnullaDuranteLoScaricamento) {
     server_.Imposta("/lento", test::RispostaSospesa(Riempimento(8910), 100));
-    rete::Scaricatore s;
-    QObject::connect(&s, &rete::Scaricatore::statoCambiato, [&](int stato, int, const QString&) {
-        if (stato == manutenzione::stati::Scaricamento) s.Annulla();
+    network::Scaricatore s;
+    QObject::connect(&s, &network::Scaricatore::statoCambiato, [&](int stato, int, const QString&) {
+        if (stato == maintenance::stati::Scaricamento) s.Annulla();
     });
-    const rete::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/lento")));
+    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/lento")));
     EXPECT_TRUE(r.annullato);
     EXPECT_FALSE(r.completo);
     EXPECT_TRUE(r.corpo.isEmpty());
@@ -452,8 +452,8 @@ TEST_F(Internet, ScaricatoreSegueIReindirizzamentiEHaUnLimite) {
     server_.Imposta("/nuovo/AggiornamentoPz.bin", Risposta(200, "OK", corpo));
     server_.Imposta("/AggiornamentoPz.bin",
                     Risposta(301, "Moved Permanently", "", "Location: " + server_.Indirizzo("/nuovo/AggiornamentoPz.bin") + "\r\n"));
-    rete::Scaricatore s;
-    rete::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
+    network::Scaricatore s;
+    network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.riuscito()) << r.errore.toStdString();
     EXPECT_EQ(r.corpo.toStdString(), corpo);
     EXPECT_EQ(r.indirizzoFinale.toStdString(), server_.Indirizzo("/nuovo/AggiornamentoPz.bin"));
@@ -522,10 +522,10 @@ TEST_F(Internet, ScaricaRifiutiLascianoLArchivioComEraPoiIlFileBuonoAggiorna) {
     EXPECT_EQ(r["estrazioni"], 10913);
     EXPECT_EQ(r["aggiunte"], 134);
     EXPECT_EQ(LeggiFile(cartella_ / "AggiornamentoPz.bin"), buono);
-    const Archivio a = Archivio::Apri(cartella_);
+    const archives::Archivio a = archives::Archivio::Apri(cartella_);
     EXPECT_EQ(a.NumeroEstrazioni(), 10913);
     EXPECT_EQ(a.DataEstrazione(10913), "21/08/2026");
-    EXPECT_TRUE(VerificaIntegrita(a).vuoto()) << VerificaIntegrita(a).testo;
+    EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto()) << archives::VerificaIntegrita(a).testo;
 
     // Again: nothing new, and nothing changes.
     const std::string dopo = Archivi(cartella_);
@@ -601,7 +601,7 @@ TEST_F(Internet, ScaricaStoricoZipETesto) {
     CartellaTemporanea altra;
     test::CopiaArchiviReali(*test::CartellaReale(), altra.percorso());
     {
-        Archivio a = Archivio::Apri(altra.percorso(), ModoApertura::Scrittura);
+        archives::Archivio a = archives::Archivio::Apri(altra.percorso(), archives::ModoApertura::Scrittura);
         const auto esito = ApplicaAggiornamento(a, aggiornamento, Gioco::Lotto, "AggiornamentoPz.bin");
         ASSERT_TRUE(esito.riuscito);
     }
@@ -617,4 +617,4 @@ TEST_F(Internet, ScaricaStoricoZipETesto) {
 }
 
 }  // namespace
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

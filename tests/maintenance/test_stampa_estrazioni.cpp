@@ -12,7 +12,7 @@
 #include "maintenance/stampa_estrazioni.h"
 #include "support/cartelle.h"
 
-namespace gorgo::manutenzione {
+namespace gorgo::maintenance {
 namespace {
 
 using config::RigaTesto;
@@ -24,22 +24,22 @@ protected:
     static void SetUpTestSuite() {
         cartella_ = new CartellaTemporanea;
         test::CreaArchivioDemo(cartella_->percorso());
-        archivio_ = new Archivio(Archivio::Apri(cartella_->percorso()));
+        archivio_ = new archives::Archivio(archives::Archivio::Apri(cartella_->percorso()));
     }
     static void TearDownTestSuite() {
         delete archivio_;
         delete cartella_;
     }
-    static const Archivio& A() { return *archivio_; }
+    static const archives::Archivio& A() { return *archivio_; }
     // The date of draw i, and the index of the draw on a date.
     static std::string D(int32_t i) { return A().DataEstrazione(i); }
-    static int32_t I(const Data& d) { return A().CercaIndice(d, false)->IndiceTrovato; }
+    static int32_t I(const archives::Data& d) { return A().CercaIndice(d, false)->IndiceTrovato; }
 
     static CartellaTemporanea* cartella_;
-    static Archivio* archivio_;
+    static archives::Archivio* archivio_;
 };
 CartellaTemporanea* StampaEstrazioni::cartella_ = nullptr;
-Archivio* StampaEstrazioni::archivio_ = nullptr;
+archives::Archivio* StampaEstrazioni::archivio_ = nullptr;
 
 ParametriStampaEstrazioni Parametri(std::string da, std::string a, int ruota = 1) {
     ParametriStampaEstrazioni p;
@@ -79,7 +79,7 @@ TEST_F(StampaEstrazioni, ListaDiUnaSolaEstrazione) {
     EXPECT_EQ(pagine[0][3], config::Centrato(s.titolo2));
     EXPECT_EQ(pagine[0][4], std::string(64, ' ') + "Pag.   1");
     EXPECT_TRUE(s.righe[1].grassetto);
-    const RecordEstrazione r = A().LeggiEstrazione(i);
+    const archives::RecordEstrazione r = A().LeggiEstrazione(i);
     EXPECT_EQ(pagine[0][6], fmt::format("     {}  {:02} {:02} {:02} {:02} {:02}", D(i), r.Numero(1, 1), r.Numero(1, 2),
                                         r.Numero(1, 3), r.Numero(1, 4), r.Numero(1, 5)));
     EXPECT_EQ(RigaLista(r, 1), pagine[0][6].substr(5));
@@ -129,8 +129,8 @@ TEST_F(StampaEstrazioni, BlocchiTrePerRigaQuattroRighePerPagina) {
     for (int w = 1; w <= 11; ++w) {
         const std::string& riga = pagine[0][Testata + static_cast<size_t>(w)];
         for (int k = 0; k < 3; ++k) {
-            const RecordEstrazione r = A().LeggiEstrazione(da + k);
-            const std::string atteso = fmt::format("{}{:02} {:02} {:02} {:02} {:02}", NomiRuota[static_cast<size_t>(w)],
+            const archives::RecordEstrazione r = A().LeggiEstrazione(da + k);
+            const std::string atteso = fmt::format("{}{:02} {:02} {:02} {:02} {:02}", archives::NomiRuota[static_cast<size_t>(w)],
                                                    r.Numero(w, 1), r.Numero(w, 2), r.Numero(w, 3), r.Numero(w, 4),
                                                    r.Numero(w, 5));
             EXPECT_EQ(riga.substr(4 + 25 * static_cast<size_t>(k), 24), atteso) << w << " " << k;
@@ -144,7 +144,7 @@ TEST_F(StampaEstrazioni, BlocchiTrePerRigaQuattroRighePerPagina) {
 }
 
 TEST_F(StampaEstrazioni, TabellaRigheERighello) {
-    RecordEstrazione r;
+    archives::RecordEstrazione r;
     r.impostaData({7, 3, 2024});
     const uint8_t numeri[5] = {55, 1, 90, 10, 11};
     for (int p = 0; p < 5; ++p) r.Ruota[2][p] = numeri[p];
@@ -215,7 +215,7 @@ TEST_F(StampaEstrazioni, MeseEDateVicine) {
     for (size_t k = Testata; k < s.righe.size(); ++k) date.push_back(s.righe[k].testo.substr(5, 10));
     ASSERT_EQ(date.size(), 11u);
     for (int anno = 2015; anno <= 2025; ++anno) {
-        const Data soglia = AnnoBisestile(anno) ? Data{29, 2, anno} : Data{1, 3, anno};
+        const archives::Data soglia = archives::AnnoBisestile(anno) ? archives::Data{29, 2, anno} : archives::Data{1, 3, anno};
         const int32_t atteso = I(soglia);
         EXPECT_EQ(date[static_cast<size_t>(anno - 2015)], D(atteso)) << anno;
     }
@@ -225,7 +225,7 @@ TEST_F(StampaEstrazioni, MeseEDateVicine) {
     s = ComponiStampaLotto(A(), p);
     int atteso = 0;
     for (int anno = 2015; anno <= 2025; ++anno) {
-        const Data soglia = AnnoBisestile(anno) ? Data{29, 2, anno} : Data{1, 3, anno};
+        const archives::Data soglia = archives::AnnoBisestile(anno) ? archives::Data{29, 2, anno} : archives::Data{1, 3, anno};
         atteso += A().LeggiEstrazione(I(soglia)).data().mese == 3;
     }
     EXPECT_EQ(s.estrazioni, atteso);
@@ -272,28 +272,28 @@ TEST_F(StampaEstrazioni, ControlliPrimaDellaPrimaPagina) {
     // A range between two draws finds the later start and the earlier end.
     const int32_t i = I({2, 1, 2020});
     const StampaComposta vuota =
-        ComponiStampaLotto(A(), Parametri(Data::daGiorni(A().LeggiEstrazione(i).data().giorni() + 1).testo(),
-                                          Data::daGiorni(A().LeggiEstrazione(i + 1).data().giorni() - 1).testo()));
+        ComponiStampaLotto(A(), Parametri(archives::Data::daGiorni(A().LeggiEstrazione(i).data().giorni() + 1).testo(),
+                                          archives::Data::daGiorni(A().LeggiEstrazione(i + 1).data().giorni() - 1).testo()));
     EXPECT_EQ(vuota.errore.testo, "Data finale minore della data iniziale !");
 }
 
 TEST_F(StampaEstrazioni, SuperEnalotto) {
-    EstrazioneSuper e;
-    e.esito = SuperConJollySuperStar;
+    archives::EstrazioneSuper e;
+    e.esito = archives::SuperConJollySuperStar;
     e.data = "07/03/2024";
     e.numeri = {1, 2, 3, 44, 55, 90, 7, 8};
     EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02 03 44 55 90    |  07   |    08     |");
     EXPECT_EQ(RigaSuper(e).size(), IntestazioneSuper.size());
-    e.esito = SuperSoloSei;
+    e.esito = archives::SuperSoloSei;
     EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02 03 44 55 90    |       |           |");
-    e.esito = SuperConSuperStar;
+    e.esito = archives::SuperConSuperStar;
     EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02 03 44 55 90    |       |    08     |");
-    e.esito = SuperIncompleta;
+    e.esito = archives::SuperIncompleta;
     e.numeri = {1, 2, 0, 0, 0, 0, 0, 0};
     EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02                |       |           |");
 
     const int32_t n = A().NumeroEstrazioniSuper();
-    const std::string da = A().DataEstrazione(n - 50, ArchivioSuper), a = A().DataEstrazione(n, ArchivioSuper);
+    const std::string da = A().DataEstrazione(n - 50, archives::ArchivioSuper), a = A().DataEstrazione(n, archives::ArchivioSuper);
     const StampaComposta s = ComponiStampaSuper(A(), Parametri(da, a, 0));
     ASSERT_TRUE(s.errore.vuoto()) << s.errore.testo;
     EXPECT_EQ(s.layout, LayoutStampa::ListaSuper);
@@ -311,17 +311,17 @@ TEST_F(StampaEstrazioni, SuperEnalotto) {
     };
     ASSERT_EQ(pagine[0].size(), testa.size() + 50);
     for (size_t k = 0; k < testa.size(); ++k) EXPECT_EQ(pagine[0][k], testa[k]) << k;
-    EXPECT_EQ(pagine[0][testa.size()], "     " + RigaSuper(LeggiEstrazioneSuper(A(), n - 50)));
+    EXPECT_EQ(pagine[0][testa.size()], "     " + RigaSuper(archives::LeggiEstrazioneSuper(A(), n - 50)));
     ASSERT_EQ(pagine[1].size(), testa.size() + 1);
     EXPECT_EQ(pagine[1][2], std::string(64, ' ') + "Pag.  2");
-    EXPECT_EQ(pagine[1][testa.size()], "     " + RigaSuper(LeggiEstrazioneSuper(A(), n)));
+    EXPECT_EQ(pagine[1][testa.size()], "     " + RigaSuper(archives::LeggiEstrazioneSuper(A(), n)));
 
     // The choices print under the title; the dates are checked against this archive.
     ParametriStampaEstrazioni p = Parametri(da, a, 0);
     p.soloMese = true;
     p.mese = A().LeggiRecordSuper(n).data().mese;
     const StampaComposta m = ComponiStampaSuper(A(), p);
-    EXPECT_EQ(m.titolo2, "Solo mese di " + std::string(NomeMese(p.mese)));
+    EXPECT_EQ(m.titolo2, "Solo mese di " + std::string(archives::NomeMese(p.mese)));
     EXPECT_EQ(Pagine(m)[0][2], config::Centrato(m.titolo2));
     EXPECT_EQ(ComponiStampaSuper(A(), Parametri("01/01/1900", a)).errore.testo,
               "La data non può essere inferiore alla data inizio gestione archivi (04/01/1947)");
@@ -344,7 +344,7 @@ TEST_F(StampaEstrazioni, DieciELotto) {
     const auto pagine = Pagine(s);
     ASSERT_EQ(pagine[0].size(), Testata + 50);
     ASSERT_EQ(pagine[1].size(), Testata + 10);
-    const Risultato10eLotto r = Estrazione10eLotto(A().LeggiEstrazione(da));
+    const archives::Risultato10eLotto r = archives::Estrazione10eLotto(A().LeggiEstrazione(da));
     ASSERT_GE(r.esito, 0);
     std::string atteso = "     " + D(da) + " ";
     for (int n : r.numeri) atteso += fmt::format(" {:02}", n);
@@ -361,4 +361,4 @@ TEST_F(StampaEstrazioni, DieciELotto) {
 }
 
 }  // namespace
-}  // namespace gorgo::manutenzione
+}  // namespace gorgo::maintenance

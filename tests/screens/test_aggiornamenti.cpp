@@ -18,7 +18,7 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 namespace {
 
 namespace fs = std::filesystem;
@@ -50,8 +50,8 @@ protected:
         iniPrima_ = Ambiente().ini.FileName();
         Ambiente().PercorsoProgramma = cartella_;
         Ambiente().ini.SetFileName((cartella_ / "Gorgo.ini").string());
-        Ambiente().archivio = std::make_unique<Archivio>(Archivio::Apri(cartella_, ModoApertura::Scrittura));
-        gestorePrima_ = ImpostaGestoreMessaggi([this](const Messaggio& m, QMessageBox::StandardButtons) {
+        Ambiente().archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
+        gestorePrima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
             messaggi_.push_back(m);
             return QMessageBox::Ok;
         });
@@ -88,7 +88,7 @@ protected:
     SceltaFileManutenzione sceltaPrima_;
     QString risposta_;
     bool pronto_ = false;
-    std::vector<Messaggio> messaggi_;
+    std::vector<archives::Messaggio> messaggi_;
     std::vector<Dialogo> dialoghi_;
 };
 
@@ -135,7 +135,7 @@ TEST_F(Aggiornamenti, FileCorrottoLacunaNienteDiNuovoEPoiLAggiornamento) {
     ASSERT_EQ(messaggi_.size(), 2u);
     EXPECT_EQ(messaggi_[1].testo, "Discontinuità di memorizzazione - Aggiornamento impossibile");
     EXPECT_EQ(messaggi_[1].titolo, "Aggiornamento archivi");
-    EXPECT_EQ(messaggi_[1].icona, Icona::Stop);
+    EXPECT_EQ(messaggi_[1].icona, archives::Icona::Stop);
     EXPECT_TRUE(lblFile->text().isEmpty());
     EXPECT_FALSE(cmdAggiorna->isEnabled());
 
@@ -159,11 +159,11 @@ TEST_F(Aggiornamenti, FileCorrottoLacunaNienteDiNuovoEPoiLAggiornamento) {
     ASSERT_EQ(messaggi_.size(), 3u);
     EXPECT_EQ(messaggi_[2].testo, "Aggiornamento archivi al 21/08/2026 effettuato");
     EXPECT_EQ(messaggi_[2].titolo, "Aggiornamento archivi");
-    EXPECT_EQ(messaggi_[2].icona, Icona::Informazione);
+    EXPECT_EQ(messaggi_[2].icona, archives::Icona::Informazione);
     EXPECT_EQ(segnali, 1);
     EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10913);
     EXPECT_EQ(Ambiente().archivio->DataEstrazione(10913), "21/08/2026");
-    EXPECT_TRUE(VerificaIntegrita(*Ambiente().archivio).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(*Ambiente().archivio).vuoto());
     if (f) {
         EXPECT_EQ(Trova<QLabel>(f, "lblAggiunte")->text(), "Estrazioni aggiunte: 134");
         EXPECT_EQ(Trova<QLabel>(f, "lblNumero")->text(), "134");
@@ -196,13 +196,13 @@ TEST_F(Aggiornamenti, SuperEnalottoConIlSuoFiltroIlSuoMessaggioEIlSuoAiuto) {
     const std::string super = LeggiFile(cartella_ / "Archivi/SuperEnalotto.ind");
     Ambiente().archivio.reset();
     fs::resize_file(cartella_ / "Archivi/SuperEnalotto.ind", super.size() - 3 * 20);
-    Ambiente().archivio = std::make_unique<Archivio>(Archivio::Apri(cartella_, ModoApertura::Scrittura));
+    Ambiente().archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
     Scrivi(c_ / "super.bin", super.substr(super.size() - 10 * 20));
 
     QPointer<FrmAggiornamentiSuper> f = new FrmAggiornamentiSuper;
     f->show();
     EXPECT_EQ(f->objectName(), "frmAggiornamentiSuper");
-    const RecordSuperEnalotto ultima = Ambiente().archivio->LeggiRecordSuper(Ambiente().archivio->NumeroEstrazioniSuper());
+    const archives::RecordSuperEnalotto ultima = Ambiente().archivio->LeggiRecordSuper(Ambiente().archivio->NumeroEstrazioniSuper());
     EXPECT_EQ(Trova<QLabel>(f, "lblUltima")->text().toStdString(), ultima.dataTesto());
     EXPECT_EQ(Trova<QLabel>(f, "lblNumero")->text().toInt(), ultima.NumeroAnno);
 
@@ -278,4 +278,4 @@ TEST_F(Aggiornamenti, EsportazioneDalProgressivo7773ODaUnaData) {
 }
 
 }  // namespace
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

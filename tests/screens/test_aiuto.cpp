@@ -25,7 +25,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-namespace gs = gorgo::schermi;
+namespace gs = gorgo::screens;
 
 QString Q(const fs::path& p) { return QString::fromStdString(p.string()); }
 
@@ -225,7 +225,7 @@ TEST_F(Aiuto, SuFileScriveHelpTxt) {
         return Q(file);
     };
     std::string domanda;
-    gs::ChiediReport = [&](QWidget*, const gorgo::Messaggio& m, QMessageBox::StandardButtons,
+    gs::ChiediReport = [&](QWidget*, const gorgo::archives::Messaggio& m, QMessageBox::StandardButtons,
                            QMessageBox::StandardButton) {
         domanda = m.testo;
         return QMessageBox::Yes;

@@ -21,17 +21,17 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 namespace {
 
 using test::CartellaTemporanea;
 
 // Collects the messages that would have been shown.
 struct Messaggi {
-    std::vector<Messaggio> visti;
+    std::vector<archives::Messaggio> visti;
     GestoreMessaggi prima;
     Messaggi() {
-        prima = ImpostaGestoreMessaggi([this](const Messaggio& m, QMessageBox::StandardButtons) {
+        prima = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
             visti.push_back(m);
             return QMessageBox::Ok;
         });
@@ -89,13 +89,13 @@ TEST(Avvio, ArchiviMancantiFinisconoIlProgramma) {
     EXPECT_EQ(m.visti[0].testo,
               "Archivi Estrazioni.ind  Anni.ind  mancanti! " + (c / "Archivi/SuperEnalotto.ind").string());
     EXPECT_EQ(m.visti[0].titolo, "Errore");
-    EXPECT_EQ(m.visti[0].icona, Icona::Stop);
+    EXPECT_EQ(m.visti[0].icona, archives::Icona::Stop);
     Azzera();
 }
 
 TEST(Avvio, UnaSolaIstanza) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     Messaggi m;
     std::unique_ptr<QLockFile> primo, secondo;
     auto principale = AvviaProgramma(c.percorso(), primo);
@@ -121,7 +121,7 @@ TEST(Avvio, UnaSolaIstanza) {
 // "Cambia..." opens the restrictions; their confirm shows in the panel at once.
 TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     Messaggi m;
     std::unique_ptr<QLockFile> blocco;
     auto principale = AvviaProgramma(c.percorso(), blocco);
@@ -149,7 +149,7 @@ TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
 // before the archives are opened, and the user is told.
 TEST(Avvio, ArchiviRiparatiAllApertura) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     const std::string anni = test::LeggiFile(c / "Archivi/anni.ind");
     std::filesystem::resize_file(c / "Archivi/anni.ind", anni.size() - 12);
     { std::ofstream(c / "Archivi/Estrazioni.ind", std::ios::app | std::ios::binary) << "mezzo record"; }
@@ -158,16 +158,16 @@ TEST(Avvio, ArchiviRiparatiAllApertura) {
     auto principale = AvviaProgramma(c.percorso(), blocco);
     ASSERT_NE(principale, nullptr);
     ASSERT_EQ(m.visti.size(), 1u);
-    EXPECT_EQ(m.visti[0].icona, Icona::Informazione);
+    EXPECT_EQ(m.visti[0].icona, archives::Icona::Informazione);
     EXPECT_EQ(test::LeggiFile(c / "Archivi/anni.ind"), anni);
-    EXPECT_TRUE(VerificaIntegrita(*Ambiente().archivio).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(*Ambiente().archivio).vuoto());
     principale.reset();
     Azzera();
 }
 
 TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     { std::ofstream(c / "Gorgo.ini") << "[Forms]\nMainLeft=99999999\nMainTop=-5000000\n"; }
     Messaggi m;
     std::unique_ptr<QLockFile> blocco;
@@ -188,7 +188,7 @@ TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
 // window refuses to close, and a click on cmdStop ends the job soon.
 TEST(Elaborazioni, StopDiUnLavoroInCorso) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1900}, Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     Messaggi m;
     std::unique_ptr<QLockFile> blocco;
     auto principale = AvviaProgramma(c.percorso(), blocco);
@@ -237,4 +237,4 @@ TEST(Elaborazioni, StopDiUnLavoroInCorso) {
 }
 
 }  // namespace
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

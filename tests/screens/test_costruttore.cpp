@@ -26,7 +26,7 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 namespace {
 
 using test::CartellaTemporanea;
@@ -44,7 +44,7 @@ protected:
         auto reale = test::CartellaReale();
         if (!reale) GTEST_SKIP() << "archivi reali assenti";
         test::CopiaArchiviReali(*reale, c_.percorso());
-        prima_ = ImpostaGestoreMessaggi([this](const Messaggio& m, QMessageBox::StandardButtons) {
+        prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
             messaggi_.push_back(m);
             return QMessageBox::Ok;
         });
@@ -83,7 +83,7 @@ protected:
     std::unique_ptr<QLockFile> blocco_;
     std::unique_ptr<FrmMain> principale_;
     FrmCostruttore* f_ = nullptr;
-    std::vector<Messaggio> messaggi_;
+    std::vector<archives::Messaggio> messaggi_;
     GestoreMessaggi prima_;
 };
 
@@ -201,4 +201,4 @@ TEST_F(Costruttore, ListaStampataComeIlFile) {
 }
 
 }  // namespace
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

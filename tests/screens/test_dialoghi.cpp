@@ -33,7 +33,7 @@
 #include "screens/config/stile.h"
 #include "support/cartelle.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 namespace {
 
 using test::CartellaTemporanea;
@@ -47,7 +47,7 @@ protected:
         iniPrima_ = Ambiente().ini.FileName();
         Ambiente().PercorsoProgramma = cartella_.percorso();
         Ambiente().ini.SetFileName(FileIni().string());
-        gestorePrima_ = ImpostaGestoreMessaggi([this](const Messaggio& m, QMessageBox::StandardButtons) {
+        gestorePrima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
             messaggi_.push_back(m.testo);
             return QMessageBox::Ok;
         });
@@ -335,7 +335,7 @@ TEST_F(DialoghiColori, OkScriveERicoloraLeFinestre) {
 TEST_F(DialoghiColori, DoppioClicDiagnostico) {
     test::CreaArchivioDemo(cartella_.percorso());
     auto archivioPrima =
-        std::exchange(Ambiente().archivio, std::make_unique<Archivio>(Archivio::Apri(cartella_.percorso())));
+        std::exchange(Ambiente().archivio, std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_.percorso())));
     const int32_t n = Ambiente().archivio->NumeroEstrazioni();
     const std::string data = Ambiente().archivio->DataEstrazione(n);
     {
@@ -465,6 +465,6 @@ TEST_F(DialoghiBrowser, PrefissiDavanti) {
 }
 
 }  // namespace
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens
 
 #include "test_dialoghi.moc"

@@ -28,7 +28,7 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 namespace {
 
 namespace fs = std::filesystem;
@@ -36,11 +36,11 @@ using test::CartellaTemporanea;
 
 // Collects the messages and answers the questions with `risposta`.
 struct Messaggi {
-    std::vector<Messaggio> visti;
-    std::function<QMessageBox::StandardButton(const Messaggio&)> risposta;
+    std::vector<archives::Messaggio> visti;
+    std::function<QMessageBox::StandardButton(const archives::Messaggio&)> risposta;
     GestoreMessaggi prima;
     Messaggi() {
-        prima = ImpostaGestoreMessaggi([this](const Messaggio& m, QMessageBox::StandardButtons pulsanti) {
+        prima = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons pulsanti) {
             visti.push_back(m);
             if (pulsanti == QMessageBox::Ok) return QMessageBox::Ok;
             return risposta ? risposta(m) : QMessageBox::No;
@@ -166,19 +166,19 @@ TEST_F(InserimentoSchermo, ModiDellaFinestra) {
     QApplication::processEvents();
     ASSERT_FALSE(m.visti.empty());
     EXPECT_EQ(m.visti.back().testo, "inserisci un numero tra 1 e 90 !");
-    EXPECT_EQ(m.visti.back().icona, Icona::Esclamazione);
+    EXPECT_EQ(m.visti.back().icona, archives::Icona::Esclamazione);
     EXPECT_TRUE(Casella(f, 2)->hasFocus());
     EXPECT_EQ(Casella(f, 2)->selectedText(), "95");
 
     // The close question: Cancel stays.
-    m.risposta = [](const Messaggio&) { return QMessageBox::Cancel; };
+    m.risposta = [](const archives::Messaggio&) { return QMessageBox::Cancel; };
     f->close();
     EXPECT_TRUE(f->isVisible());
     EXPECT_EQ(m.visti.back().testo, "Salvare i dati prima di chiudere?");
     EXPECT_EQ(m.visti.back().titolo, "Input estrazioni");
     // No closes without writing.
     const uint64_t lunghezza = Ambiente().archivio->LunghezzaEstrazioni();
-    m.risposta = [](const Messaggio&) { return QMessageBox::No; };
+    m.risposta = [](const archives::Messaggio&) { return QMessageBox::No; };
     f->close();
     QApplication::processEvents();
     EXPECT_EQ(Aperte("frmInputEstrazioni"), 0);
@@ -214,7 +214,7 @@ TEST_F(InserimentoSchermo, IncollaEMemorizzaConDomanda) {
     bool segnale = false;
     QObject::connect(static_cast<FrmInputEstrazioni*>(f), &FrmInputEstrazioni::estrazioneMemorizzata,
                      [&] { segnale = true; });
-    m.risposta = [](const Messaggio&) { return QMessageBox::No; };
+    m.risposta = [](const archives::Messaggio&) { return QMessageBox::No; };
     Clic(f, "cmdMemorizza");
     EXPECT_EQ(m.visti.back().testo, "Manca 1 numero. Memorizzi ugualmente ?");
     EXPECT_EQ(m.visti.back().titolo, "Conferma");
@@ -223,16 +223,16 @@ TEST_F(InserimentoSchermo, IncollaEMemorizzaConDomanda) {
     EXPECT_FALSE(segnale);
 
     // Yes: stored, back to browse, the main panel shows the new last draw.
-    m.risposta = [](const Messaggio&) { return QMessageBox::Yes; };
+    m.risposta = [](const archives::Messaggio&) { return QMessageBox::Yes; };
     Clic(f, "cmdMemorizza");
     EXPECT_TRUE(segnale);
     ASSERT_EQ(Ambiente().archivio->NumeroEstrazioni(), n + 1);
-    const RecordEstrazione r = Ambiente().archivio->LeggiEstrazione(n + 1);
+    const archives::RecordEstrazione r = Ambiente().archivio->LeggiEstrazione(n + 1);
     EXPECT_EQ(r.dataTesto(), "01/01/2026");
     EXPECT_EQ(r.Numero(4, 5), 0);
     EXPECT_EQ(r.Numero(11, 5), 55);
     EXPECT_EQ(Ambiente().archivio->LeggiAnno(Ambiente().archivio->NumeroAnni()).anno(), 2026);
-    EXPECT_TRUE(VerificaIntegrita(*Ambiente().archivio).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(*Ambiente().archivio).vuoto());
     EXPECT_TRUE(Trova<QWidget>(f, "cmdNuova")->isEnabled());
     EXPECT_TRUE(Casella(f, 1)->isReadOnly());
     EXPECT_EQ(Trova<QLabel>(f, "lblTotaleEstrazioni")->text(), QString::number(n + 1));
@@ -269,12 +269,12 @@ TEST_F(InserimentoSchermo, SuperEnalottoMemorizzaDopoLaChiusura) {
     Trova<QPlainTextEdit>(f, "Text1")->setPlainText("3 14 15 22 65 35 - 8, 9");
     Clic(f, "cmdInserisci");
     // Yes to "save before closing" stores and closes.
-    m.risposta = [](const Messaggio&) { return QMessageBox::Yes; };
+    m.risposta = [](const archives::Messaggio&) { return QMessageBox::Yes; };
     f->close();
     QApplication::processEvents();
     EXPECT_EQ(Aperte("frmInputEstrazioniSuperEnalotto"), 0);
     ASSERT_EQ(Ambiente().archivio->NumeroEstrazioniSuper(), n + 1);
-    const RecordSuperEnalotto r = Ambiente().archivio->LeggiRecordSuper(n + 1);
+    const archives::RecordSuperEnalotto r = Ambiente().archivio->LeggiRecordSuper(n + 1);
     EXPECT_EQ(r.Sestina[5], 35);
     EXPECT_EQ(r.Jolly, 8);
     EXPECT_EQ(r.SuperStar, 9);
@@ -379,4 +379,4 @@ TEST_F(InserimentoSchermo, StampaDiOgniLayoutInPdf) {
 }
 
 }  // namespace
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

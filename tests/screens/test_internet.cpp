@@ -17,7 +17,7 @@
 #include "config/impostazioni.h"
 #include "maintenance/aggiornamento.h"
 #include "maintenance/server_locale.h"
-#include "rete/scaricatore.h"
+#include "network/scaricatore.h"
 #include "screens/archives/ambiente.h"
 #include "screens/archives/avvio.h"
 #include "screens/config/messaggi.h"
@@ -25,7 +25,7 @@
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 namespace {
 
 namespace fs = std::filesystem;
@@ -67,8 +67,8 @@ protected:
         test::CopiaArchiviReali(*reale, c_.percorso());
         Ambiente().PercorsoProgramma = c_.percorso();
         Ambiente().ini.SetFileName((c_ / "Gorgo.ini").string());
-        Ambiente().archivio = std::make_unique<Archivio>(Archivio::Apri(c_.percorso(), ModoApertura::Scrittura));
-        prima_ = ImpostaGestoreMessaggi([this](const Messaggio& m, QMessageBox::StandardButtons b) {
+        Ambiente().archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(c_.percorso(), archives::ModoApertura::Scrittura));
+        prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons b) {
             if (b & QMessageBox::Yes) {
                 domande_.push_back(m);
                 return risposta_;
@@ -89,18 +89,18 @@ protected:
     // The texts lblStatus takes, one for each state the client reports.
     void SeguiStati(FrmAggiornaInternetBase& f) {
         QLabel* l = Trova<QLabel>(&f, "lblStatus");
-        QObject::connect(f.scaricatore(), &rete::Scaricatore::statoCambiato, &f,
+        QObject::connect(f.scaricatore(), &network::Scaricatore::statoCambiato, &f,
                          [this, l](int, int, const QString&) { stati_.push_back(l->text().toStdString()); });
     }
     // Clicks cmdScarica and waits for the transfer to end.
-    void Scarica(QWidget& f, rete::Scaricatore* s) {
+    void Scarica(QWidget& f, network::Scaricatore* s) {
         QTest::mouseClick(Trova<QPushButton>(&f, "cmdScarica"), Qt::LeftButton);
         EXPECT_TRUE(QTest::qWaitFor([s] { return !s->InCorso(); }, 10000));
         QApplication::processEvents();
     }
     std::vector<std::string> TestiMessaggi() const {
         std::vector<std::string> t;
-        for (const Messaggio& m : messaggi_) t.push_back(m.testo);
+        for (const archives::Messaggio& m : messaggi_) t.push_back(m.testo);
         return t;
     }
 
@@ -108,7 +108,7 @@ protected:
     CartellaTemporanea c_;
     fs::path aggiornamenti_;
     std::string buono_;
-    std::vector<Messaggio> messaggi_, domande_;
+    std::vector<archives::Messaggio> messaggi_, domande_;
     std::vector<std::string> stati_;
     QMessageBox::StandardButton risposta_ = QMessageBox::Yes;
     GestoreMessaggi prima_;
@@ -147,7 +147,7 @@ TEST_F(AggiornaInternet, StatiDomandaEAggiornamento) {
     ASSERT_EQ(messaggi_.size(), 1u);
     EXPECT_EQ(messaggi_[0].testo, "Aggiornamento archivi al 21/08/2026 effettuato");
     EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10913);
-    EXPECT_EQ(Archivio::Apri(c_.percorso()).NumeroEstrazioni(), 10913);
+    EXPECT_EQ(archives::Archivio::Apri(c_.percorso()).NumeroEstrazioni(), 10913);
     EXPECT_EQ(LeggiFile(c_ / "AggiornamentoPz.bin"), buono_) << "the local copy stays";
     EXPECT_EQ(aggiornato.count(), 1);
     EXPECT_FALSE(f.isVisible()) << "the screen closes after the update";
@@ -424,11 +424,11 @@ TEST_F(AggiornaInternet, IlPannelloPrincipaleMostraLUltimaDopoLAggiornamento) {
     ASSERT_NE(f, nullptr);
     QTest::mouseClick(Trova<QPushButton>(f, "cmdScarica"), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !messaggi_.empty(); }, 10000));
-    const RecordEstrazione r = Ambiente().archivio->LeggiEstrazione(10913);
+    const archives::RecordEstrazione r = Ambiente().archivio->LeggiEstrazione(10913);
     EXPECT_EQ(ultima->text().toStdString(), fmt::format("n.{} del 21/08/2026", r.NumeroAnno));
     principale->close();
     principale.reset();
 }
 
 }  // namespace
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

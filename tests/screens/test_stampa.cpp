@@ -26,7 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 using gorgo::config::RigaTesto;
 namespace gc = gorgo::config;
-namespace gs = gorgo::schermi;
+namespace gs = gorgo::screens;
 
 QString Q(const fs::path& p) { return QString::fromStdString(p.string()); }
 
@@ -505,7 +505,7 @@ protected:
             dialogo_.filtro = filtro;
             return dialogo_.risposta;
         };
-        gs::ChiediReport = [this](QWidget*, const gorgo::Messaggio& m, QMessageBox::StandardButtons pulsanti,
+        gs::ChiediReport = [this](QWidget*, const gorgo::archives::Messaggio& m, QMessageBox::StandardButtons pulsanti,
                                   QMessageBox::StandardButton predefinito) {
             ++domanda_.chiamate;
             domanda_.testo = m.testo;

@@ -24,9 +24,9 @@ CartellaTemporanea::~CartellaTemporanea() {
     fs::remove_all(percorso_, ec);
 }
 
-void CreaArchivioDemo(const fs::path& cartella, const ParametriDemo& parametri) {
-    const auto storia = GeneraStoriaDemo(parametri);
-    ScriviArchivi(cartella, storia, IndiceAnni(storia), GeneraSuperDemo(parametri));
+void CreaArchivioDemo(const fs::path& cartella, const archives::ParametriDemo& parametri) {
+    const auto storia = archives::GeneraStoriaDemo(parametri);
+    archives::ScriviArchivi(cartella, storia, archives::IndiceAnni(storia), archives::GeneraSuperDemo(parametri));
 }
 
 void CopiaArchiviReali(const fs::path& reale, const fs::path& cartella) {

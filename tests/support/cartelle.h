@@ -25,7 +25,7 @@ private:
 };
 
 // A program folder holding the demo archives made with these parameters.
-void CreaArchivioDemo(const std::filesystem::path& cartella, const ParametriDemo& parametri = {});
+void CreaArchivioDemo(const std::filesystem::path& cartella, const archives::ParametriDemo& parametri = {});
 // A writable copy of the real Archivi/ (the caller has checked they exist).
 void CopiaArchiviReali(const std::filesystem::path& reale, const std::filesystem::path& cartella);
 

@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 AmbienteApp& Ambiente() {
     static AmbienteApp a;
@@ -20,4 +20,4 @@ std::filesystem::path CartellaDati() {
 #endif
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

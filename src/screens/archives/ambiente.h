@@ -10,12 +10,12 @@
 #include "archives/archivio.h"
 #include "config/ini.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 struct AmbienteApp {
     std::filesystem::path PercorsoProgramma;
     config::FileIni ini;
-    std::unique_ptr<Archivio> archivio;
+    std::unique_ptr<archives::Archivio> archivio;
     bool demo = false;
     // True while a long search runs: the main window and the computing window refuse to close.
     bool ElaborazioneInCorso = false;
@@ -29,4 +29,4 @@ AmbienteApp& Ambiente();
 // source tree's data/ (running from a build folder).
 std::filesystem::path CartellaDati();
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

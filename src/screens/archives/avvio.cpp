@@ -10,7 +10,7 @@
 #include "screens/archives/ambiente.h"
 #include "screens/config/messaggi.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorso) {
     // The lock stands in the program folder; a folder that is not there yet gets one in the
@@ -39,29 +39,29 @@ std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorso, s
 
     blocco = BloccaIstanza(percorso);
     if (!blocco) {
-        MostraMessaggio(nullptr, {MessaggioIstanzaUnica, "", Icona::Esclamazione});
+        MostraMessaggio(nullptr, {MessaggioIstanzaUnica, "", archives::Icona::Esclamazione});
         return nullptr;
     }
     try {
         // A run cut short while writing leaves the files out of step: bring them back first.
         if (std::filesystem::is_directory(percorso / "Archivi")) {
-            const manutenzione::EsitoRiparazione r = manutenzione::RiparaCartellaArchivi(percorso / "Archivi");
-            if (r.riparato()) MostraMessaggio(nullptr, {r.descrizione, "Gorgo 2", Icona::Informazione});
+            const maintenance::EsitoRiparazione r = maintenance::RiparaCartellaArchivi(percorso / "Archivi");
+            if (r.riparato()) MostraMessaggio(nullptr, {r.descrizione, "Gorgo 2", archives::Icona::Informazione});
         }
-        a.archivio = std::make_unique<Archivio>(Archivio::Apri(percorso, ModoApertura::Scrittura));
-    } catch (const ErroreArchivio& e) {
-        MostraMessaggio(nullptr, {e.what(), "Errore", Icona::Stop});
+        a.archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(percorso, archives::ModoApertura::Scrittura));
+    } catch (const archives::ErroreArchivio& e) {
+        MostraMessaggio(nullptr, {e.what(), "Errore", archives::Icona::Stop});
         return nullptr;
     }
-    if (Messaggio m = ControllaPresenzaArchivi(*a.archivio); !m.vuoto()) {
+    if (archives::Messaggio m = archives::ControllaPresenzaArchivi(*a.archivio); !m.vuoto()) {
         MostraMessaggio(nullptr, m);
         a.archivio.reset();
         return nullptr;
     }
-    a.demo = CartellaDemo(percorso);
+    a.demo = archives::CartellaDemo(percorso);
     // Read at start-up and kept as a key only.
     (void)config::LeggiBooleano(a.ini, config::sezioni::Settings, "Minimizza", false);
     return std::make_unique<FrmMain>();
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

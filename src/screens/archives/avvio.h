@@ -8,7 +8,7 @@
 
 #include "screens/archives/frm_main.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 inline constexpr const char* MessaggioIstanzaUnica = "Non è possible avviare più di una istanza del programma !";
 
@@ -21,4 +21,4 @@ std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorsoPr
 std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorsoProgramma,
                                         std::unique_ptr<QLockFile>& blocco);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

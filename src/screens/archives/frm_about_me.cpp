@@ -10,7 +10,7 @@
 #include "screens/archives/ambiente.h"
 #include "screens/config/messaggi.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 QString TestoInfoSistema() {
     const AmbienteApp& a = Ambiente();
@@ -52,7 +52,7 @@ FrmAboutMe::FrmAboutMe(QWidget* parent) : QDialog(parent) {
     l->addLayout(riga);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
     connect(info, &QPushButton::clicked, this,
-            [this] { MostraMessaggio(this, {TestoInfoSistema().toStdString(), "Info sistema", Icona::Informazione}); });
+            [this] { MostraMessaggio(this, {TestoInfoSistema().toStdString(), "Info sistema", archives::Icona::Informazione}); });
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmAboutMe : public QDialog {
     Q_OBJECT
@@ -14,4 +14,4 @@ public:
 // The facts shown by "Info sistema...": system, Qt, cores, program folder, archives.
 QString TestoInfoSistema();
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -33,7 +33,7 @@
 #include "screens/maintenance/frm_stampa_estrazioni.h"
 #include "screens/maintenance/frm_aggiorna_internet.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -254,14 +254,14 @@ void FrmMain::CreaPannello() {
 }
 
 void FrmMain::AggiornaUltimeEstrazioni() {
-    Archivio* a = Ambiente().archivio.get();
+    archives::Archivio* a = Ambiente().archivio.get();
     if (!a) return;
     if (a->NumeroEstrazioni() > 0) {
-        const RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+        const archives::RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
         lblUltimaEstrazione_[0]->setText(TestoUltima(r.NumeroAnno, r.dataTesto()));
     }
     if (a->NumeroEstrazioniSuper() > 0) {
-        const RecordSuperEnalotto s = a->LeggiRecordSuper(a->NumeroEstrazioniSuper());
+        const archives::RecordSuperEnalotto s = a->LeggiRecordSuper(a->NumeroEstrazioniSuper());
         lblUltimaEstrazione_[1]->setText(TestoUltima(s.NumeroAnno, s.dataTesto()));
     }
 }
@@ -281,7 +281,7 @@ void FrmMain::RipristinaPannelli() {
             Centra(w);
         }
     } catch (...) {
-        MostraMessaggio(this, {"Errore nel pannello impostazioni", "", Icona::Esclamazione});
+        MostraMessaggio(this, {"Errore nel pannello impostazioni", "", archives::Icona::Esclamazione});
     }
 }
 
@@ -392,8 +392,8 @@ void FrmMain::ImportaArchivioTesto() {
         QString::fromStdString(Ambiente().PercorsoProgramma.string()));
     if (file.isEmpty()) return;
     CMouse mouse;
-    const manutenzione::EsitoImportazione e =
-        manutenzione::ImportaFile(*Ambiente().archivio, file.toStdString(), manutenzione::Gioco::Lotto);
+    const maintenance::EsitoImportazione e =
+        maintenance::ImportaFile(*Ambiente().archivio, file.toStdString(), maintenance::Gioco::Lotto);
     MostraMessaggio(this, e.messaggio);
     AggiornaUltimeEstrazioni();
 }
@@ -435,4 +435,4 @@ void FrmMain::ApriInformazioni() {
     dlg.exec();
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

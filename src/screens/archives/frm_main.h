@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <array>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmMain : public QMainWindow {
     Q_OBJECT
@@ -59,4 +59,4 @@ private:
 // Screens not in this version: disabled, with a tool tip that says they come later.
 inline constexpr const char* TestoInArrivo = "Disponibile in una prossima versione";
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -8,7 +8,7 @@
 #include "config/impostazioni.h"
 #include "screens/archives/ambiente.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -60,4 +60,4 @@ void SalvaPosizione(QWidget* f, const char* chiaveLeft, const char* chiaveTop) {
     Ambiente().ini.Scrivi(config::sezioni::Forms, valori);
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -5,7 +5,7 @@
 #include <QScreen>
 #include <QWidget>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 inline double TwipsPerPixel(const QScreen* s) {
     const double dpi = s ? s->logicalDotsPerInch() : 96.0;
@@ -24,4 +24,4 @@ void SalvaPosizione(QWidget* finestra, const char* chiaveLeft, const char* chiav
 // Centre of the screen the window is on.
 void Centra(QWidget* finestra);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

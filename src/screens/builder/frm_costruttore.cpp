@@ -21,7 +21,7 @@
 #include "screens/config/stampa.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -69,7 +69,7 @@ bool FrmCostruttore::InElaborazione() const { return elaborazione_; }
 
 void FrmCostruttore::CreaControlli() {
     const AmbienteApp& a = Ambiente();
-    const StoriaLotto& storia = *contesto_->storia;
+    const archives::StoriaLotto& storia = *contesto_->storia;
     auto* principale = new QHBoxLayout(this);
     auto* sinistra = new QVBoxLayout;
     principale->addLayout(sinistra, 0);
@@ -196,7 +196,7 @@ void FrmCostruttore::CreaControlli() {
         config::Predefinito(config::sezioni::Settings, "RuoteConNzGioco")));
     caricamento_ = true;
     for (int w = 0; w <= 11; ++w) {
-        const QString nome = w == 0 ? QStringLiteral("Tutte") : Q(SigleRuota[static_cast<size_t>(w)]);
+        const QString nome = w == 0 ? QStringLiteral("Tutte") : Q(archives::SigleRuota[static_cast<size_t>(w)]);
         chkRuota_[static_cast<size_t>(w)] = new QCheckBox(nome, fraRuote);
         chkRuota_[static_cast<size_t>(w)]->setObjectName(QStringLiteral("chkRuota_%1").arg(w));
         chkRuota_[static_cast<size_t>(w)]->setChecked(ricerca[static_cast<size_t>(w)]);
@@ -579,9 +579,9 @@ void FrmCostruttore::Calcola() {
     if (contesto_->terzine.valido == false && Parametri().tipoRicerca == builder::TipoRicerca::Codici &&
         Parametri().tipoSpia != builder::TipoSpia::Ambo) {
         MostraMessaggio(this, contesto_->terzine.messaggio.vuoto()
-                                  ? Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " +
+                                  ? archives::Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " +
                                                   contesto_->fileTerzine,
-                                              "Errore", Icona::Esclamazione}
+                                              "Errore", archives::Icona::Esclamazione}
                                   : contesto_->terzine.messaggio);
         return;
     }
@@ -657,7 +657,7 @@ void FrmCostruttore::closeEvent(QCloseEvent* e) {
 
 void FrmCostruttore::StampaAlgoritmi() {
     if (esito_.righe.empty()) {
-        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", Icona::Esclamazione});
+        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", archives::Icona::Esclamazione});
         return;
     }
     const config::ReportTesto r = builder::ReportAlgoritmi(parametriEsito_, esito_, *contesto_->storia);
@@ -789,7 +789,7 @@ void FrmCostruttore::ListaSortite() {
 
 void FrmCostruttore::StampaVerifica() {
     if (verifica_.righe.empty() || rigaAperta_ < 0) {
-        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", Icona::Esclamazione});
+        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", archives::Icona::Esclamazione});
         return;
     }
     const builder::RigaAlgoritmo& riga = esito_.righe[static_cast<size_t>(rigaAperta_)];
@@ -806,4 +806,4 @@ void FrmCostruttore::FileVerifica() {
                       QStringLiteral("RisultatiAlgoritmo"), DomandaFile::InCalce);
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

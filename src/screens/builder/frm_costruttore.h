@@ -19,7 +19,7 @@
 #include "builder/ricerca.h"
 #include "builder/verifica.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmCostruttore : public QWidget {
     Q_OBJECT
@@ -108,4 +108,4 @@ private:
     std::array<QPushButton*, 4> cmdCopertura_{};
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

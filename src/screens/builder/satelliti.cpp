@@ -11,7 +11,7 @@
 #include "screens/config/stampa.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -133,4 +133,4 @@ FrmListaSortite::FrmListaSortite(QWidget* parent, const std::vector<builder::Cas
     ApplicaStile(this, Ambiente().ini);
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -10,7 +10,7 @@
 #include "builder/verifica.h"
 #include "config/report_testo.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmReportGorgo : public QWidget {
     Q_OBJECT
@@ -38,4 +38,4 @@ public:
     FrmListaSortite(QWidget* parent, const std::vector<builder::CasoSpia>& casi, const QString& testaSpia);
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

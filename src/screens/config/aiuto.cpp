@@ -9,7 +9,7 @@
 #include "screens/archives/ambiente.h"
 #include "screens/config/frm_help.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -102,4 +102,4 @@ void MostraAiuto(QWidget* parent, const QString& sezione) {
     Porta(finestra);
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -8,7 +8,7 @@
 #include <QWidget>
 #include <optional>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 // Context numbers of the screens' help buttons.
 constexpr int AiutoInserimento = 1010, AiutoConsultazione = 1020, AiutoSommeDistanze = 1030,
@@ -38,4 +38,4 @@ QString DecodificaTestoAiuto(const QByteArray& dati);
 // case), up to the end or to a line that begins with "["; nullopt when no line holds it.
 std::optional<QStringList> SezioneAiuto(const QString& testo, const QString& sezione);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -3,7 +3,7 @@
 #include <QDesktopServices>
 #include <QUrl>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 bool ApriBrowser(QString indirizzo) {
     if (!indirizzo.startsWith(QLatin1String("http"))) indirizzo.prepend(QLatin1String("http://"));
@@ -16,4 +16,4 @@ bool Email(QString indirizzo) {
     return QDesktopServices::openUrl(QUrl(indirizzo, QUrl::TolerantMode));
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 // Opens the address in the browser ("http://" in front when it does not start with "http").
 // False when the desktop could not open it.
@@ -11,4 +11,4 @@ bool ApriBrowser(QString indirizzo);
 // Opens a new mail to the address ("mailto:" in front when missing).
 bool Email(QString indirizzo);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -1,6 +1,6 @@
 #include "screens/config/caselle.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 const QStringList& NomiGiorniCaselle() {
     static const QStringList n = {QStringLiteral("Domenica"),  QStringLiteral("Lunedì"),  QStringLiteral("Martedì"),
@@ -29,4 +29,4 @@ QGridLayout* CreaCaselle(QWidget* parent, const QString& prefisso, const QString
     return griglia;
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -6,7 +6,7 @@
 #include <QStringList>
 #include <span>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 // "Domenica".."Sabato" and "Gennaio".."Dicembre", as the boxes show them.
 const QStringList& NomiGiorniCaselle();
@@ -17,4 +17,4 @@ const QStringList& NomiMesiCaselle();
 QGridLayout* CreaCaselle(QWidget* parent, const QString& prefisso, const QStringList& nomi, int perRiga,
                          std::span<QCheckBox*> caselle);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

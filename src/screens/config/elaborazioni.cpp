@@ -8,7 +8,7 @@
 #include "screens/archives/ambiente.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 CMouse::CMouse() { QApplication::setOverrideCursor(Qt::WaitCursor); }
 CMouse::~CMouse() { QApplication::restoreOverrideCursor(); }
@@ -96,4 +96,4 @@ Elaborazione::~Elaborazione() {
     delete mouse_;
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -12,7 +12,7 @@
 #include <stop_token>
 #include <thread>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 // The busy mouse pointer for the life of the object, put back on every way out.
 class CMouse {
@@ -68,4 +68,4 @@ private:
     CMouse* mouse_ = nullptr;
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

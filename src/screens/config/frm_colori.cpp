@@ -16,7 +16,7 @@
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -122,15 +122,15 @@ bool FrmColori::eventFilter(QObject* oggetto, QEvent* evento) {
         const auto& a = Ambiente();
         if (oggetto == lblColore_[1] && a.archivio) {
             const int32_t n = a.archivio->NumeroEstrazioni();
-            MostraMessaggio(this, {a.archivio->DataEstrazione(n) + " - " + std::to_string(n), "", Icona::Nessuna});
+            MostraMessaggio(this, {a.archivio->DataEstrazione(n) + " - " + std::to_string(n), "", archives::Icona::Nessuna});
             return true;
         }
         if (oggetto == lblColore_[2]) {
-            MostraMessaggio(this, {"Path applicazione = " + a.PercorsoProgramma.string(), "", Icona::Nessuna});
+            MostraMessaggio(this, {"Path applicazione = " + a.PercorsoProgramma.string(), "", archives::Icona::Nessuna});
             return true;
         }
     }
     return QDialog::eventFilter(oggetto, evento);
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

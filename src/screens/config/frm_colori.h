@@ -10,7 +10,7 @@
 class QLabel;
 class QPushButton;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmColori : public QDialog {
     Q_OBJECT
@@ -39,4 +39,4 @@ private:
     std::array<QLabel*, 3> lblColore_{};
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

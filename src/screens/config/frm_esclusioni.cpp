@@ -12,7 +12,7 @@
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -57,7 +57,7 @@ config::ScelteEsclusioni FrmEsclusioni::Scelte() const {
 }
 
 void FrmEsclusioni::Conferma() {
-    const Messaggio errore = config::SalvaGiorniEstrazione(Ambiente().ini, Scelte());
+    const archives::Messaggio errore = config::SalvaGiorniEstrazione(Ambiente().ini, Scelte());
     if (!errore.vuoto()) {
         MostraMessaggio(this, errore);
         return;
@@ -65,4 +65,4 @@ void FrmEsclusioni::Conferma() {
     accept();
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

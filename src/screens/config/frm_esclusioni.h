@@ -8,7 +8,7 @@
 
 class QCheckBox;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmEsclusioni : public QDialog {
     Q_OBJECT
@@ -24,4 +24,4 @@ private:
     QCheckBox* chkLoadTipsAtStartup_;
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

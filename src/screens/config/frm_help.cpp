@@ -14,7 +14,7 @@
 #include "screens/config/stampa.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -74,7 +74,7 @@ std::vector<config::RigaTesto> FrmHelp::Report() const {
 void FrmHelp::Stampa() {
     const auto report = Report();
     if (report.empty()) {
-        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", Icona::Esclamazione});
+        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", archives::Icona::Esclamazione});
         return;
     }
     OpzioniStampa opzioni;
@@ -87,7 +87,7 @@ void FrmHelp::Stampa() {
 void FrmHelp::SuFile() {
     const auto report = Report();
     if (report.empty()) {
-        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", Icona::Esclamazione});
+        MostraMessaggio(this, {std::string(config::NullaDaStampare), "", archives::Icona::Esclamazione});
         return;
     }
     SalvaReportSuFile(this, report, QStringLiteral("Help.txt"), DomandaFile::Sovrascrivi);
@@ -134,4 +134,4 @@ void FrmAiuto::MostraArgomento(const QString& file) {
     txtAiuto_->setSource(QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath()));
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

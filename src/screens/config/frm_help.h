@@ -11,7 +11,7 @@
 class QListWidget;
 class QTextBrowser;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmHelp : public QWidget {
     Q_OBJECT
@@ -42,4 +42,4 @@ private:
     QTextBrowser* txtAiuto_;
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

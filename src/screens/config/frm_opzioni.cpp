@@ -20,7 +20,7 @@
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -151,4 +151,4 @@ void FrmOpzioni::done(int risultato) {
     QDialog::done(risultato);
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

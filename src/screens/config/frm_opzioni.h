@@ -12,7 +12,7 @@
 class QCheckBox;
 class QComboBox;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmOpzioni : public QDialog {
     Q_OBJECT
@@ -43,4 +43,4 @@ private:
     std::array<QComboBox*, 2> cboMese_{};
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

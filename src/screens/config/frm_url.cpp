@@ -11,7 +11,7 @@
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 FrmUrl::FrmUrl(QWidget* parent) : QDialog(parent) {
     setObjectName("frmUrl");
@@ -46,7 +46,7 @@ void FrmUrl::Aggiorna() {
         txtUrl_->setText(QStringLiteral("http://") + txtUrl_->text());
     const std::string url = txtUrl_->text().toStdString();
     // The core holds the rule (12 characters or more) and refuses control characters.
-    const Messaggio errore = config::ControllaValoreImpostazione(config::sezioni::Options, "Url", url);
+    const archives::Messaggio errore = config::ControllaValoreImpostazione(config::sezioni::Options, "Url", url);
     if (!errore.vuoto()) {
         MostraMessaggio(this, errore);
         return;
@@ -55,4 +55,4 @@ void FrmUrl::Aggiorna() {
     accept();
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -5,7 +5,7 @@
 
 class QLineEdit;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmUrl : public QDialog {
     Q_OBJECT
@@ -18,4 +18,4 @@ private:
     QLineEdit* txtUrl_;
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

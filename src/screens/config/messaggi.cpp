@@ -4,17 +4,17 @@
 
 #include <utility>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
-QMessageBox::Icon IconaQt(Icona i) {
+QMessageBox::Icon IconaQt(archives::Icona i) {
     switch (i) {
-        case Icona::Informazione: return QMessageBox::Information;
-        case Icona::Esclamazione: return QMessageBox::Warning;
-        case Icona::Domanda: return QMessageBox::Question;
-        case Icona::Stop: return QMessageBox::Critical;
-        case Icona::Nessuna: break;
+        case archives::Icona::Informazione: return QMessageBox::Information;
+        case archives::Icona::Esclamazione: return QMessageBox::Warning;
+        case archives::Icona::Domanda: return QMessageBox::Question;
+        case archives::Icona::Stop: return QMessageBox::Critical;
+        case archives::Icona::Nessuna: break;
     }
     return QMessageBox::NoIcon;
 }
@@ -24,13 +24,13 @@ GestoreMessaggi& Gestore() {
     return g;
 }
 
-QString Titolo(const Messaggio& m) { return m.titolo.empty() ? QStringLiteral("Gorgo 2") : QString::fromStdString(m.titolo); }
+QString Titolo(const archives::Messaggio& m) { return m.titolo.empty() ? QStringLiteral("Gorgo 2") : QString::fromStdString(m.titolo); }
 
 }  // namespace
 
 GestoreMessaggi ImpostaGestoreMessaggi(GestoreMessaggi gestore) { return std::exchange(Gestore(), std::move(gestore)); }
 
-void MostraMessaggio(QWidget* parent, const Messaggio& m) {
+void MostraMessaggio(QWidget* parent, const archives::Messaggio& m) {
     if (Gestore()) {
         Gestore()(m, QMessageBox::Ok);
         return;
@@ -40,10 +40,10 @@ void MostraMessaggio(QWidget* parent, const Messaggio& m) {
     box.exec();
 }
 
-QMessageBox::StandardButton Chiedi(QWidget* parent, const Messaggio& domanda, QMessageBox::StandardButtons pulsanti,
+QMessageBox::StandardButton Chiedi(QWidget* parent, const archives::Messaggio& domanda, QMessageBox::StandardButtons pulsanti,
                                    QMessageBox::StandardButton predefinito) {
     if (Gestore()) return Gestore()(domanda, pulsanti);
-    QMessageBox box(IconaQt(domanda.icona == Icona::Nessuna ? Icona::Domanda : domanda.icona), Titolo(domanda),
+    QMessageBox box(IconaQt(domanda.icona == archives::Icona::Nessuna ? archives::Icona::Domanda : domanda.icona), Titolo(domanda),
                     QString::fromStdString(domanda.testo), pulsanti, parent);
     box.setObjectName("frmDomanda");
     box.setDefaultButton(predefinito);
@@ -54,4 +54,4 @@ QMessageBox::StandardButton Chiedi(QWidget* parent, const Messaggio& domanda, QM
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -21,7 +21,7 @@
 #include "screens/archives/ambiente.h"
 #include "screens/config/messaggi.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -238,7 +238,7 @@ bool StampaReport(QWidget* parent, std::span<const config::RigaTesto> righe, con
     dialogo.setObjectName(QStringLiteral("frmStampa"));
     if (dialogo.exec() != QDialog::Accepted) return false;
     if (!DisegnaReport(stampante, righe, opzioni)) {
-        MostraMessaggio(parent, {"Impossibile stampare: la stampante non risponde.", "Errore", Icona::Stop});
+        MostraMessaggio(parent, {"Impossibile stampare: la stampante non risponde.", "Errore", archives::Icona::Stop});
         return false;
     }
     return true;
@@ -307,7 +307,7 @@ bool SalvaReportSuFile(QWidget* parent, std::span<const config::RigaTesto> righe
         }
     }
 
-    const Messaggio esito = config::ScriviReportSuFile(Percorso(info.absoluteFilePath()), righe, modo);
+    const archives::Messaggio esito = config::ScriviReportSuFile(Percorso(info.absoluteFilePath()), righe, modo);
     if (!esito.vuoto()) {
         MostraMessaggio(parent, esito);
         return false;
@@ -315,4 +315,4 @@ bool SalvaReportSuFile(QWidget* parent, std::span<const config::RigaTesto> righe
     return true;
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

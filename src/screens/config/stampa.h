@@ -15,7 +15,7 @@
 
 class QPrinter;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 struct OpzioniStampa {
     QString font = QStringLiteral("Courier New");  // a fixed-pitch font stands in when absent
@@ -45,7 +45,7 @@ bool SalvaReportSuFile(QWidget* parent, std::span<const config::RigaTesto> righe
 using SceltaFileReport =
     std::function<QString(QWidget* parent, const QString& titolo, const QString& proposto, const QString& filtro)>;
 using DomandaReport = std::function<QMessageBox::StandardButton(
-    QWidget* parent, const Messaggio& domanda, QMessageBox::StandardButtons pulsanti,
+    QWidget* parent, const archives::Messaggio& domanda, QMessageBox::StandardButtons pulsanti,
     QMessageBox::StandardButton predefinito)>;
 extern SceltaFileReport ScegliFileReport;
 extern DomandaReport ChiediReport;
@@ -70,4 +70,4 @@ std::vector<std::vector<config::RigaTesto>> ImpaginaReport(std::span<const confi
 // there is nothing to print or the printer cannot be opened.
 bool DisegnaReport(QPrinter& stampante, std::span<const config::RigaTesto> righe, const OpzioniStampa& opzioni);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

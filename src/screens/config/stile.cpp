@@ -22,7 +22,7 @@
 #include "config/impostazioni.h"
 #include "config/ini.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -154,4 +154,4 @@ void ApplicaStile(QWidget* finestra, const config::FileIni& ini) {
             w->setToolTip(QString::fromUtf8(s.testo));
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

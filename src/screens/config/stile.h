@@ -9,7 +9,7 @@ namespace gorgo::config {
 class FileIni;
 }
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 // A colour of the settings: decimal, red in the low byte.
 QColor ColoreDaImpostazione(long long valore);
@@ -17,4 +17,4 @@ long long ImpostazioneDaColore(const QColor& c);
 
 void ApplicaStile(QWidget* finestra, const config::FileIni& ini);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

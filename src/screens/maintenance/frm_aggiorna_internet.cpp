@@ -13,14 +13,14 @@
 #include "config/impostazioni.h"
 #include "maintenance/importazione.h"
 #include "maintenance/internet.h"
-#include "rete/scaricatore.h"
+#include "network/scaricatore.h"
 #include "screens/archives/ambiente.h"
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
-namespace m = manutenzione;
+namespace m = maintenance;
 
 namespace {
 
@@ -50,9 +50,9 @@ QLabel* EtichettaStato(QWidget* parent) {
 }
 
 // The long form of a stored date: "sabato 21 agosto 2026".
-std::string DataLunga(const Data& d) {
+std::string DataLunga(const archives::Data& d) {
     if (!d.valida()) return {};
-    return fmt::format("{} {} {} {}", NomeGiorno(d.giornoSettimana()), d.giorno, NomeMese(d.mese), d.anno);
+    return fmt::format("{} {} {} {}", archives::NomeGiorno(d.giornoSettimana()), d.giorno, archives::NomeMese(d.mese), d.anno);
 }
 
 std::string LeggiUrl(std::string_view chiave) {
@@ -66,7 +66,7 @@ std::string LeggiUrl(std::string_view chiave) {
 
 FrmAggiornaInternetBase::FrmAggiornaInternetBase(m::Gioco gioco, const char* nome, const QString& titolo,
                                                  QWidget* parent)
-    : QWidget(parent, Qt::Window), gioco_(gioco), scaricatore_(new rete::Scaricatore(this)) {
+    : QWidget(parent, Qt::Window), gioco_(gioco), scaricatore_(new network::Scaricatore(this)) {
     setObjectName(nome);
     setWindowTitle(titolo);
 
@@ -112,8 +112,8 @@ FrmAggiornaInternetBase::FrmAggiornaInternetBase(m::Gioco gioco, const char* nom
     connect(cmdAggiorna_, &QPushButton::clicked, this, &FrmAggiornaInternetBase::Aggiorna);
     connect(cmdAnnulla_, &QPushButton::clicked, this, &FrmAggiornaInternetBase::Annulla);
     connect(cmdEsci_, &QPushButton::clicked, this, &QWidget::close);
-    connect(scaricatore_, &rete::Scaricatore::statoCambiato, this, &FrmAggiornaInternetBase::Stato);
-    connect(scaricatore_, &rete::Scaricatore::terminato, this, &FrmAggiornaInternetBase::FineScaricamento);
+    connect(scaricatore_, &network::Scaricatore::statoCambiato, this, &FrmAggiornaInternetBase::Stato);
+    connect(scaricatore_, &network::Scaricatore::terminato, this, &FrmAggiornaInternetBase::FineScaricamento);
 
     MostraUltima();
     ApplicaStile(this, Ambiente().ini);
@@ -136,15 +136,15 @@ std::filesystem::path FrmAggiornaInternetBase::CopiaLocale() const {
 }
 
 void FrmAggiornaInternetBase::MostraUltima() {
-    const Archivio* a = Ambiente().archivio.get();
+    const archives::Archivio* a = Ambiente().archivio.get();
     if (!a) return;
     if (gioco_ == m::Gioco::Lotto && a->NumeroEstrazioni() > 0) {
-        const RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+        const archives::RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
         lblNumero_->setText(QString::number(r.NumeroAnno));
         lblAnno_->setText(QString::number(r.data().anno));
         lblUltima_->setText(Q(DataLunga(r.data())));
     } else if (gioco_ == m::Gioco::SuperEnalotto && a->NumeroEstrazioniSuper() > 0) {
-        const RecordSuperEnalotto r = a->LeggiRecordSuper(a->NumeroEstrazioniSuper());
+        const archives::RecordSuperEnalotto r = a->LeggiRecordSuper(a->NumeroEstrazioniSuper());
         lblNumero_->setText(QString::number(r.NumeroAnno));
         lblAnno_->setText(QString::number(r.data().anno));
         lblUltima_->setText(Q(DataLunga(r.data())));
@@ -187,7 +187,7 @@ void FrmAggiornaInternetBase::FineScaricamento() {
     cmdAnnulla_->setEnabled(false);
     cmdScarica_->setEnabled(true);
     cmdApri_->setEnabled(true);
-    const rete::RisultatoScaricamento& r = scaricatore_->Risultato();
+    const network::RisultatoScaricamento& r = scaricatore_->Risultato();
     const m::Scaricamento s = r.PerIlNucleo();
     const std::filesystem::path copia = CopiaLocale();
     const m::ValutazioneScaricamento v = m::ValutaScaricamento(s, gioco_, copia);
@@ -196,7 +196,7 @@ void FrmAggiornaInternetBase::FineScaricamento() {
             if (gioco_ == m::Gioco::SuperEnalotto)
                 MostraMessaggio(this, {m::MessaggioErroreSuper(e.value(), "Impossibile scrivere il file", 7, copia,
                                                                static_cast<std::uintmax_t>(s.corpo.size())),
-                                       "Errore", Icona::Stop});
+                                       "Errore", archives::Icona::Stop});
             else
                 MostraMessaggio(this, m::MessaggioCopiaLocale(copia, e));
             return;
@@ -222,8 +222,8 @@ void FrmAggiornaInternetBase::Apri() {
             MostraMessaggio(this, m::ErrFile(copia.string()));
             return;
         }
-        const Archivio* a = Ambiente().archivio.get();
-        if (!a) throw ErroreArchivio("archivio non aperto");
+        const archives::Archivio* a = Ambiente().archivio.get();
+        if (!a) throw archives::ErroreArchivio("archivio non aperto");
         const m::ControlloAggiornamento c = m::ControllaAggiornamento(*a, *dati, gioco_, copia.string());
         switch (c.stato) {
             case m::StatoAggiornamento::Pronto: break;
@@ -237,7 +237,7 @@ void FrmAggiornaInternetBase::Apri() {
         ImpostaStato(std::string(m::testi::FineConnessione));
     } catch (const std::exception&) {
         ImpostaStato(std::string(m::testi::ErroreAperturaStato));
-        MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", Icona::Stop});
+        MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", archives::Icona::Stop});
         return;
     }
     Aggiorna();
@@ -247,9 +247,9 @@ void FrmAggiornaInternetBase::Aggiorna() {
     if (!cmdAggiorna_->isEnabled()) return;
     const std::filesystem::path copia = CopiaLocale();
     try {
-        Archivio* a = Ambiente().archivio.get();
+        archives::Archivio* a = Ambiente().archivio.get();
         const auto dati = m::LeggiFileAggiornamento(copia);
-        if (!a || !dati) throw ErroreArchivio(copia.string());
+        if (!a || !dati) throw archives::ErroreArchivio(copia.string());
         const m::EsitoAggiornamento e = m::ApplicaAggiornamento(*a, *dati, gioco_, copia.string());
         if (!e.riuscito) {
             cmdAggiorna_->setEnabled(false);
@@ -262,7 +262,7 @@ void FrmAggiornaInternetBase::Aggiorna() {
     } catch (const std::exception&) {
         cmdAggiorna_->setEnabled(false);
         ImpostaStato(std::string(m::testi::ErroreAperturaStato));
-        MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", Icona::Stop});
+        MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", archives::Icona::Stop});
         return;
     }
     close();
@@ -280,7 +280,7 @@ void FrmAggiornaInternetBase::closeEvent(QCloseEvent* e) {
 // ---- frmScaricaStorico --------------------------------------------------------------------
 
 FrmScaricaStorico::FrmScaricaStorico(QWidget* parent)
-    : QWidget(parent, Qt::Window), scaricatore_(new rete::Scaricatore(this)) {
+    : QWidget(parent, Qt::Window), scaricatore_(new network::Scaricatore(this)) {
     setObjectName("frmScaricaStorico");
     setWindowTitle(QStringLiteral("Scarica archivio storico da Internet"));
 
@@ -308,13 +308,13 @@ FrmScaricaStorico::FrmScaricaStorico(QWidget* parent)
     connect(cmdScarica_, &QPushButton::clicked, this, &FrmScaricaStorico::Scarica);
     connect(cmdAnnulla_, &QPushButton::clicked, this, &FrmScaricaStorico::Annulla);
     connect(cmdEsci_, &QPushButton::clicked, this, &QWidget::close);
-    connect(scaricatore_, &rete::Scaricatore::statoCambiato, this, [this](int stato, int codice, const QString& testo) {
+    connect(scaricatore_, &network::Scaricatore::statoCambiato, this, [this](int stato, int codice, const QString& testo) {
         if (stato == m::stati::Errore)
             lblStatus_->setText(Q(m::TestoStatoErrore(lblStatus_->text().toStdString(), codice, testo.toStdString())));
         else if (const auto t = m::TestoStato(stato))
             lblStatus_->setText(Q(*t));
     });
-    connect(scaricatore_, &rete::Scaricatore::terminato, this, &FrmScaricaStorico::FineScaricamento);
+    connect(scaricatore_, &network::Scaricatore::terminato, this, &FrmScaricaStorico::FineScaricamento);
 
     ApplicaStile(this, Ambiente().ini);
     cmdScarica_->setToolTip(QStringLiteral("Scarica l'archivio storico e importa le estrazioni nuove"));
@@ -325,11 +325,11 @@ void FrmScaricaStorico::Scarica() {
     const std::string indirizzo = txtUrlStorico_->text().trimmed().toStdString();
     if (indirizzo.empty()) {
         MostraMessaggio(this, {std::string(m::TestoStoricoNonImpostato), std::string(m::TitoloStorico),
-                               Icona::Esclamazione});
+                               archives::Icona::Esclamazione});
         return;
     }
     // The address is kept for next time, once it is of the right form.
-    if (Messaggio errore = config::ControllaValoreImpostazione(config::sezioni::Options, "UrlStorico", indirizzo);
+    if (archives::Messaggio errore = config::ControllaValoreImpostazione(config::sezioni::Options, "UrlStorico", indirizzo);
         !errore.vuoto()) {
         MostraMessaggio(this, errore);
         return;
@@ -351,7 +351,7 @@ void FrmScaricaStorico::Annulla() {
 void FrmScaricaStorico::FineScaricamento() {
     cmdScarica_->setEnabled(true);
     cmdAnnulla_->setEnabled(false);
-    const rete::RisultatoScaricamento& r = scaricatore_->Risultato();
+    const network::RisultatoScaricamento& r = scaricatore_->Risultato();
     if (r.annullato) {
         lblStatus_->setText(Q(m::testi::AzioneAnnullata));
         return;
@@ -363,7 +363,7 @@ void FrmScaricaStorico::FineScaricamento() {
         MostraMessaggio(this, c.messaggio);
         return;
     }
-    Archivio* a = Ambiente().archivio.get();
+    archives::Archivio* a = Ambiente().archivio.get();
     if (!a) return;
     const std::string_view dati(r.corpo.constData(), static_cast<size_t>(r.corpo.size()));
     try {
@@ -378,10 +378,10 @@ void FrmScaricaStorico::FineScaricamento() {
             MostraMessaggio(this, m::MessaggioNienteDiNuovo());
             return;
         }
-        const Messaggio domanda{fmt::format("L'archivio storico scaricato porta {} estrazioni nuove, fino al {}. "
+        const archives::Messaggio domanda{fmt::format("L'archivio storico scaricato porta {} estrazioni nuove, fino al {}. "
                                             "Confermi l'importazione ?",
                                             prova.aggiunte, prova.ultimaData),
-                                std::string(m::TitoloStorico), Icona::Domanda};
+                                std::string(m::TitoloStorico), archives::Icona::Domanda};
         if (Chiedi(this, domanda, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) != QMessageBox::Yes) return;
         const m::EsitoImportazione e = m::ImportaDati(*a, dati, m::Gioco::Lotto);
         lblStatus_->setText(Q(e.messaggio.testo));
@@ -389,7 +389,7 @@ void FrmScaricaStorico::FineScaricamento() {
         MostraMessaggio(this, e.messaggio);
     } catch (const std::exception& ex) {
         lblStatus_->setText(Q(m::testi::ErroreAperturaStato));
-        MostraMessaggio(this, {ex.what(), "Errore", Icona::Stop});
+        MostraMessaggio(this, {ex.what(), "Errore", archives::Icona::Stop});
     }
 }
 
@@ -401,4 +401,4 @@ void FrmScaricaStorico::closeEvent(QCloseEvent* e) {
     e->accept();
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -12,17 +12,17 @@
 
 #include "maintenance/aggiornamento.h"
 
-namespace gorgo::rete {
+namespace gorgo::network {
 class Scaricatore;
 }
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmAggiornaInternetBase : public QWidget {
     Q_OBJECT
 public:
-    manutenzione::Gioco gioco() const { return gioco_; }
-    rete::Scaricatore* scaricatore() const { return scaricatore_; }
+    maintenance::Gioco gioco() const { return gioco_; }
+    network::Scaricatore* scaricatore() const { return scaricatore_; }
 
     // cmdScarica, cmdApri, cmdAggiorna, cmdAnnulla.
     void Scarica();
@@ -35,7 +35,7 @@ signals:
     void archivioAggiornato();
 
 protected:
-    FrmAggiornaInternetBase(manutenzione::Gioco gioco, const char* nome, const QString& titolo, QWidget* parent);
+    FrmAggiornaInternetBase(maintenance::Gioco gioco, const char* nome, const QString& titolo, QWidget* parent);
     void closeEvent(QCloseEvent* e) override;
 
 private:
@@ -45,8 +45,8 @@ private:
     void ImpostaStato(const std::string& testo, const std::string& dettaglio = {});
     std::filesystem::path CopiaLocale() const;
 
-    manutenzione::Gioco gioco_;
-    rete::Scaricatore* scaricatore_;
+    maintenance::Gioco gioco_;
+    network::Scaricatore* scaricatore_;
     QLabel* lblStatus_;
     QLabel* lblNumero_;
     QLabel* lblAnno_;
@@ -76,7 +76,7 @@ class FrmScaricaStorico : public QWidget {
     Q_OBJECT
 public:
     explicit FrmScaricaStorico(QWidget* parent = nullptr);
-    rete::Scaricatore* scaricatore() const { return scaricatore_; }
+    network::Scaricatore* scaricatore() const { return scaricatore_; }
 
     void Scarica();
     void Annulla();
@@ -90,7 +90,7 @@ protected:
 private:
     void FineScaricamento();
 
-    rete::Scaricatore* scaricatore_;
+    network::Scaricatore* scaricatore_;
     QLineEdit* txtUrlStorico_;
     QLabel* lblStatus_;
     QPushButton* cmdScarica_;
@@ -98,4 +98,4 @@ private:
     QPushButton* cmdEsci_;
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -14,12 +14,12 @@
 #include "screens/maintenance/riquadro_ultima.h"
 #include "screens/maintenance/scelta_file.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
-using manutenzione::Gioco;
-using manutenzione::StatoAggiornamento;
+using maintenance::Gioco;
+using maintenance::StatoAggiornamento;
 
 QString Testo(const std::string& s) { return QString::fromStdString(s); }
 
@@ -88,7 +88,7 @@ FrmAggiornamenti::FrmAggiornamenti(Gioco gioco, QWidget* parent) : QDialog(paren
 FrmAggiornamentiSuper::FrmAggiornamentiSuper(QWidget* parent) : FrmAggiornamenti(Gioco::SuperEnalotto, parent) {}
 
 void FrmAggiornamenti::MostraUltima() {
-    const Archivio* a = Ambiente().archivio.get();
+    const archives::Archivio* a = Ambiente().archivio.get();
     lblNumero_->clear();
     lblAnno_->clear();
     lblUltima_->clear();
@@ -99,11 +99,11 @@ void FrmAggiornamenti::MostraUltima() {
     int numeroAnno = 0;
     std::string data;
     if (lotto) {
-        const RecordEstrazione r = a->LeggiEstrazione(n);
+        const archives::RecordEstrazione r = a->LeggiEstrazione(n);
         numeroAnno = r.NumeroAnno;
         data = r.dataTesto();
     } else {
-        const RecordSuperEnalotto r = a->LeggiRecordSuper(n);
+        const archives::RecordSuperEnalotto r = a->LeggiRecordSuper(n);
         numeroAnno = r.NumeroAnno;
         data = r.dataTesto();
     }
@@ -131,13 +131,13 @@ void FrmAggiornamenti::Apri() {
                                : QString();
     if (scelto.isEmpty()) return;
     const std::string percorso = scelto.toStdString();
-    Archivio* a = Ambiente().archivio.get();
-    const auto dati = manutenzione::LeggiFileAggiornamento(percorso);
+    archives::Archivio* a = Ambiente().archivio.get();
+    const auto dati = maintenance::LeggiFileAggiornamento(percorso);
     if (!dati || !a) {
-        MostraMessaggio(this, manutenzione::ErrFile(percorso));
+        MostraMessaggio(this, maintenance::ErrFile(percorso));
         return;
     }
-    const auto c = manutenzione::ControllaAggiornamento(*a, *dati, gioco_, percorso);
+    const auto c = maintenance::ControllaAggiornamento(*a, *dati, gioco_, percorso);
     if (c.stato == StatoAggiornamento::Corrotto || c.stato == StatoAggiornamento::ArchivioVuoto) {
         MostraMessaggio(this, c.messaggio);
         return;
@@ -158,16 +158,16 @@ void FrmAggiornamenti::Apri() {
 
 void FrmAggiornamenti::Aggiorna() {
     if (!cmdAggiorna_->isEnabled() || dati_.empty()) return;
-    Archivio* a = Ambiente().archivio.get();
+    archives::Archivio* a = Ambiente().archivio.get();
     if (!a) return;
     cmdAggiorna_->setEnabled(false);
-    manutenzione::EsitoAggiornamento e;
+    maintenance::EsitoAggiornamento e;
     try {
-        e = manutenzione::ApplicaAggiornamento(*a, dati_, gioco_, percorso_);
-    } catch (const ErroreArchivio& errore) {
+        e = maintenance::ApplicaAggiornamento(*a, dati_, gioco_, percorso_);
+    } catch (const archives::ErroreArchivio& errore) {
         Chiudi();
         MostraUltima();
-        MostraMessaggio(this, Messaggio{errore.what(), "Errore", Icona::Stop});
+        MostraMessaggio(this, archives::Messaggio{errore.what(), "Errore", archives::Icona::Stop});
         return;
     }
     Chiudi();
@@ -182,4 +182,4 @@ void FrmAggiornamenti::Aggiorna() {
     close();
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

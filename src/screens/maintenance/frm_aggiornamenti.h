@@ -10,7 +10,7 @@
 class QLabel;
 class QPushButton;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmAggiornamenti : public QDialog {
     Q_OBJECT
@@ -22,7 +22,7 @@ signals:
     void archivioAggiornato();
 
 protected:
-    FrmAggiornamenti(manutenzione::Gioco gioco, QWidget* parent);
+    FrmAggiornamenti(maintenance::Gioco gioco, QWidget* parent);
 
 private:
     void MostraUltima();
@@ -30,7 +30,7 @@ private:
     void Aggiorna();
     void Chiudi();
 
-    manutenzione::Gioco gioco_;
+    maintenance::Gioco gioco_;
     QLabel *lblNumero_, *lblAnno_, *lblUltima_, *lblFile_, *lblAggiunte_;
     QPushButton* cmdAggiorna_;
     // The chosen file, held from the choice until the update or the next choice.
@@ -43,4 +43,4 @@ public:
     explicit FrmAggiornamentiSuper(QWidget* parent = nullptr);
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

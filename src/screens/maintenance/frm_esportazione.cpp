@@ -18,7 +18,7 @@
 #include "screens/maintenance/riquadro_ultima.h"
 #include "screens/maintenance/scelta_file.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -45,7 +45,7 @@ FrmEsportazione::FrmEsportazione(QWidget* parent) : QDialog(parent) {
     txtDataInizio_->setObjectName("txtDataInizio");
     txtDataInizio_->setMaxLength(10);
     txtDataInizio_->setToolTip(QStringLiteral("Prima estrazione del file (GG/MM/AAAA); vuoto: dall'estrazione n. %1")
-                                   .arg(manutenzione::PrimaEsportata));
+                                   .arg(maintenance::PrimaEsportata));
     da->addWidget(txtDataInizio_);
     da->addStretch();
     principale->addLayout(da);
@@ -68,24 +68,24 @@ FrmEsportazione::FrmEsportazione(QWidget* parent) : QDialog(parent) {
     connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoEsportazione); });
     connect(cmdEsci, &QPushButton::clicked, this, &FrmEsportazione::close);
 
-    if (const Archivio* a = Ambiente().archivio.get(); a && a->NumeroEstrazioni() > 0) {
-        const RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+    if (const archives::Archivio* a = Ambiente().archivio.get(); a && a->NumeroEstrazioni() > 0) {
+        const archives::RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
         lblNumero_->setText(QString::number(r.NumeroAnno));
         lblAnno_->setText(QString::fromStdString(r.dataTesto().substr(6)));
         lblUltima_->setText(QString::fromStdString(r.dataTesto()));
-        if (a->NumeroEstrazioni() >= manutenzione::PrimaEsportata)
-            txtDataInizio_->setText(QString::fromStdString(a->DataEstrazione(manutenzione::PrimaEsportata)));
+        if (a->NumeroEstrazioni() >= maintenance::PrimaEsportata)
+            txtDataInizio_->setText(QString::fromStdString(a->DataEstrazione(maintenance::PrimaEsportata)));
     }
     ApplicaStile(this, Ambiente().ini);
 }
 
 void FrmEsportazione::Esporta() {
-    const Archivio* a = Ambiente().archivio.get();
+    const archives::Archivio* a = Ambiente().archivio.get();
     if (!a) return;
-    int32_t primo = manutenzione::PrimaEsportata;
+    int32_t primo = maintenance::PrimaEsportata;
     const QString da = txtDataInizio_->text().trimmed();
     if (!da.isEmpty()) {
-        const RisultatoData r = ControllaData(da.toStdString(), *a, false);
+        const archives::RisultatoData r = archives::ControllaData(da.toStdString(), *a, false);
         if (r.ErroreData) {
             MostraMessaggio(this, r.messaggio);
             return;
@@ -101,14 +101,14 @@ void FrmEsportazione::Esporta() {
     if (scelto.isEmpty()) return;
     if (QFileInfo(scelto).suffix().isEmpty()) scelto += QStringLiteral(".bin");
     try {
-        const auto e = manutenzione::EsportaAggiornamento(*a, scelto.toStdString(), primo);
+        const auto e = maintenance::EsportaAggiornamento(*a, scelto.toStdString(), primo);
         MostraMessaggio(this, e.messaggio);
         if (!e.riuscito) return;
-    } catch (const ErroreArchivio& errore) {
-        MostraMessaggio(this, Messaggio{errore.what(), "Errore", Icona::Stop});
+    } catch (const archives::ErroreArchivio& errore) {
+        MostraMessaggio(this, archives::Messaggio{errore.what(), "Errore", archives::Icona::Stop});
         return;
     }
     close();
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

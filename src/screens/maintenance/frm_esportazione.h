@@ -6,7 +6,7 @@
 class QLabel;
 class QLineEdit;
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmEsportazione : public QDialog {
     Q_OBJECT
@@ -20,4 +20,4 @@ private:
     QLineEdit* txtDataInizio_;
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -15,12 +15,12 @@
 #include "screens/config/messaggi.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
-using manutenzione::GiocoInserimento;
-using manutenzione::ModoInserimento;
+using maintenance::GiocoInserimento;
+using maintenance::ModoInserimento;
 
 QString Q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
@@ -46,9 +46,9 @@ QLineEdit* CasellaData(QWidget* parent, const char* nome, const char* suggerimen
 FrmInputEstrazioni::FrmInputEstrazioni(QWidget* parent, GiocoInserimento gioco) : QWidget(parent, Qt::Window) {
     const bool lotto = gioco == GiocoInserimento::Lotto;
     setObjectName(lotto ? "frmInputEstrazioni" : "frmInputEstrazioniSuperEnalotto");
-    setWindowTitle(Q(lotto ? manutenzione::CaptionInserimento : manutenzione::CaptionInserimentoSuper));
+    setWindowTitle(Q(lotto ? maintenance::CaptionInserimento : maintenance::CaptionInserimentoSuper));
     setAttribute(Qt::WA_DeleteOnClose);
-    motore_ = std::make_unique<manutenzione::Inserimento>(*Ambiente().archivio, gioco);
+    motore_ = std::make_unique<maintenance::Inserimento>(*Ambiente().archivio, gioco);
     CreaControlli();
     ApplicaStile(this, Ambiente().ini);
     MostraStato();
@@ -136,13 +136,13 @@ void FrmInputEstrazioni::CreaControlli() {
     }
     if (lotto) {
         for (int p = 1; p <= 5; ++p) gn->addWidget(new QLabel(QStringLiteral("%1°").arg(p), fraNumeri), 0, p, Qt::AlignCenter);
-        for (int w = 1; w <= NumeroRuote; ++w) {
-            auto* nome = new QLabel(Q(NomiRuota[static_cast<size_t>(w)]).trimmed(), fraNumeri);
+        for (int w = 1; w <= archives::NumeroRuote; ++w) {
+            auto* nome = new QLabel(Q(archives::NomiRuota[static_cast<size_t>(w)]).trimmed(), fraNumeri);
             nome->setObjectName(QStringLiteral("lblRuota_%1").arg(w));
             gn->addWidget(nome, w, 0);
             for (int p = 1; p <= 5; ++p) {
                 QLineEdit* t = txtEstratto_[static_cast<size_t>((w - 1) * 5 + p - 1)];
-                t->setToolTip(Q(manutenzione::SuggerimentoCasella((w - 1) * 5 + p)));
+                t->setToolTip(Q(maintenance::SuggerimentoCasella((w - 1) * 5 + p)));
                 gn->addWidget(t, w, p);
             }
         }
@@ -237,7 +237,7 @@ void FrmInputEstrazioni::CreaControlli() {
 }
 
 void FrmInputEstrazioni::MostraStato() {
-    const manutenzione::Inserimento& m = *motore_;
+    const maintenance::Inserimento& m = *motore_;
     InCaricamento_ = true;
     for (int i = 1; i <= m.NumeroCaselle(); ++i) {
         QLineEdit* t = txtEstratto_[static_cast<size_t>(i - 1)];
@@ -246,7 +246,7 @@ void FrmInputEstrazioni::MostraStato() {
         t->setReadOnly(!m.CasellaAperta(i));
         Colora(t, m.CasellaAperta(i));
     }
-    const manutenzione::ControlliAttivi c = m.Controlli();
+    const maintenance::ControlliAttivi c = m.Controlli();
     txtGiorno_->setText(Q(m.Giorno()));
     txtMese_->setText(Q(m.Mese()));
     txtAnno_->setText(Q(m.Anno()));
@@ -277,7 +277,7 @@ void FrmInputEstrazioni::Nuova() {
     const std::string giorni =
         config::LeggiImpostazione(Ambiente().ini, config::sezioni::Options, "Giorni estrazione",
                                   config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
-    if (Messaggio m = motore_->Nuova(giorni); !m.vuoto()) {
+    if (archives::Messaggio m = motore_->Nuova(giorni); !m.vuoto()) {
         MostraMessaggio(this, m);
         return;
     }
@@ -292,29 +292,29 @@ void FrmInputEstrazioni::Correggi() {
 }
 
 void FrmInputEstrazioni::Inserisci() {
-    const manutenzione::EsitoDecodifica e = motore_->Inserisci();
+    const maintenance::EsitoDecodifica e = motore_->Inserisci();
     MostraStato();
     if (!e.errore.vuoto()) MostraMessaggio(this, e.errore);
 }
 
 bool FrmInputEstrazioni::Memorizza() {
-    manutenzione::RisposteInserimento risposte;
-    manutenzione::EsitoMemorizzazione e;
+    maintenance::RisposteInserimento risposte;
+    maintenance::EsitoMemorizzazione e;
     try {
         for (;;) {
             e = motore_->Memorizza(risposte);
-            if (e.stato != manutenzione::StatoMemorizzazione::Domanda) break;
+            if (e.stato != maintenance::StatoMemorizzazione::Domanda) break;
             if (Chiedi(this, e.messaggio, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes)
                 break;
-            if (e.domanda == manutenzione::DomandaInserimento::NumeriMancanti) risposte.numeriMancanti = true;
-            if (e.domanda == manutenzione::DomandaInserimento::NumeriUguali) risposte.numeriUguali = true;
+            if (e.domanda == maintenance::DomandaInserimento::NumeriMancanti) risposte.numeriMancanti = true;
+            if (e.domanda == maintenance::DomandaInserimento::NumeriUguali) risposte.numeriUguali = true;
         }
-    } catch (const ErroreArchivio& errore) {
-        MostraMessaggio(this, {errore.what(), "Errore", Icona::Stop});
+    } catch (const archives::ErroreArchivio& errore) {
+        MostraMessaggio(this, {errore.what(), "Errore", archives::Icona::Stop});
         return false;
     }
     MostraStato();
-    if (e.stato == manutenzione::StatoMemorizzazione::Rifiutata) {
+    if (e.stato == maintenance::StatoMemorizzazione::Rifiutata) {
         if (!e.messaggio.vuoto()) MostraMessaggio(this, e.messaggio);
         if (e.casella >= 1 && e.casella <= static_cast<int>(txtEstratto_.size())) {
             QLineEdit* t = txtEstratto_[static_cast<size_t>(e.casella - 1)];
@@ -323,14 +323,14 @@ bool FrmInputEstrazioni::Memorizza() {
         }
         return false;
     }
-    if (e.stato != manutenzione::StatoMemorizzazione::Memorizzata) return false;
+    if (e.stato != maintenance::StatoMemorizzazione::Memorizzata) return false;
     emit estrazioneMemorizzata();
     return true;
 }
 
 void FrmInputEstrazioni::ControllaUscita(QLineEdit* casella) {
     if (inControllo_ || casella->isReadOnly()) return;
-    const Messaggio m = manutenzione::ControllaCasella(casella->text().toStdString());
+    const archives::Messaggio m = maintenance::ControllaCasella(casella->text().toStdString());
     if (m.vuoto()) return;
     inControllo_ = true;
     MostraMessaggio(this, m);
@@ -352,7 +352,7 @@ bool FrmInputEstrazioni::eventFilter(QObject* oggetto, QEvent* evento) {
             break;
         case QEvent::KeyPress: {
             const QString testo = static_cast<QKeyEvent*>(evento)->text();
-            if (!testo.isEmpty() && !manutenzione::SoloCifre(testo.at(0).unicode())) return true;
+            if (!testo.isEmpty() && !maintenance::SoloCifre(testo.at(0).unicode())) return true;
             break;
         }
         case QEvent::FocusOut:
@@ -366,7 +366,7 @@ bool FrmInputEstrazioni::eventFilter(QObject* oggetto, QEvent* evento) {
 
 void FrmInputEstrazioni::closeEvent(QCloseEvent* e) {
     if (motore_->Controlli().cmdMemorizza && motore_->ChiedeSalvataggio()) {
-        const auto r = Chiedi(this, manutenzione::Inserimento::DomandaSalvataggio(),
+        const auto r = Chiedi(this, maintenance::Inserimento::DomandaSalvataggio(),
                               QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes);
         // A store that does not go through keeps the screen open on what was typed.
         if (r == QMessageBox::Cancel || (r == QMessageBox::Yes && !Memorizza())) {
@@ -391,4 +391,4 @@ void FrmInputEstrazioni::showEvent(QShowEvent* e) {
     }
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

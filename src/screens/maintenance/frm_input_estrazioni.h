@@ -14,15 +14,15 @@
 
 #include "maintenance/inserimento.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmInputEstrazioni : public QWidget {
     Q_OBJECT
 public:
     explicit FrmInputEstrazioni(QWidget* parent = nullptr)
-        : FrmInputEstrazioni(parent, manutenzione::GiocoInserimento::Lotto) {}
+        : FrmInputEstrazioni(parent, maintenance::GiocoInserimento::Lotto) {}
 
-    manutenzione::Inserimento& Motore() { return *motore_; }
+    maintenance::Inserimento& Motore() { return *motore_; }
     // cmdMemorizza with its questions; true when the draw was written.
     bool Memorizza();
 
@@ -31,7 +31,7 @@ signals:
     void estrazioneMemorizzata();
 
 protected:
-    FrmInputEstrazioni(QWidget* parent, manutenzione::GiocoInserimento gioco);
+    FrmInputEstrazioni(QWidget* parent, maintenance::GiocoInserimento gioco);
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
     void closeEvent(QCloseEvent* e) override;
     void changeEvent(QEvent* e) override;
@@ -46,7 +46,7 @@ private:
     void Inserisci();
     void ControllaUscita(QLineEdit* casella);
 
-    std::unique_ptr<manutenzione::Inserimento> motore_;
+    std::unique_ptr<maintenance::Inserimento> motore_;
     bool InCaricamento_ = false;
     bool inControllo_ = false;
     bool centrata_ = false;
@@ -65,7 +65,7 @@ class FrmInputEstrazioniSuperEnalotto : public FrmInputEstrazioni {
     Q_OBJECT
 public:
     explicit FrmInputEstrazioniSuperEnalotto(QWidget* parent = nullptr)
-        : FrmInputEstrazioni(parent, manutenzione::GiocoInserimento::SuperEnalotto) {}
+        : FrmInputEstrazioni(parent, maintenance::GiocoInserimento::SuperEnalotto) {}
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

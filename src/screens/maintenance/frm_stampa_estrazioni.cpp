@@ -18,7 +18,7 @@
 #include "screens/config/elaborazioni.h"
 #include "screens/config/stile.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -32,7 +32,7 @@ FrmStampaEstrazioni::FrmStampaEstrazioni(QWidget* parent, Gioco gioco) : QWidget
     switch (gioco_) {
         case Gioco::Lotto:
             setObjectName("frmStampaEstrazioni");
-            setWindowTitle(Q(manutenzione::CaptionStampaEstrazioni));
+            setWindowTitle(Q(maintenance::CaptionStampaEstrazioni));
             break;
         case Gioco::SuperEnalotto:
             setObjectName("frmStampaEstrazioniSuperEnalotto");
@@ -49,23 +49,23 @@ FrmStampaEstrazioni::FrmStampaEstrazioni(QWidget* parent, Gioco gioco) : QWidget
 }
 
 void FrmStampaEstrazioni::CreaControlli() {
-    const Archivio& a = *Ambiente().archivio;
+    const archives::Archivio& a = *Ambiente().archivio;
     const bool super = gioco_ == Gioco::SuperEnalotto;
     auto* principale = new QVBoxLayout(this);
 
     // The stretch: the saved search range for Lotto, the whole archive for SuperEnalotto.
     std::string da, al, primo;
     if (super) {
-        da = a.DataEstrazione(1, ArchivioSuper);
-        al = a.DataEstrazione(a.NumeroEstrazioniSuper(), ArchivioSuper);
-        primo = std::string(DataInizioSuper);
+        da = a.DataEstrazione(1, archives::ArchivioSuper);
+        al = a.DataEstrazione(a.NumeroEstrazioniSuper(), archives::ArchivioSuper);
+        primo = std::string(archives::DataInizioSuper);
     } else {
         const config::IndiciRicerca r = config::LeggiIndiciRicerca(Ambiente().ini, a.NumeroEstrazioni());
         da = a.DataEstrazione(r.IndiceInizio);
         al = a.DataEstrazione(r.IndiceFine);
-        primo = std::string(PrimaDataArchivio);
+        primo = std::string(archives::PrimaDataArchivio);
     }
-    const std::string ultima = super ? a.DataEstrazione(a.NumeroEstrazioniSuper(), ArchivioSuper)
+    const std::string ultima = super ? a.DataEstrazione(a.NumeroEstrazioniSuper(), archives::ArchivioSuper)
                                      : a.DataEstrazione(a.NumeroEstrazioni());
     auto* fraPeriodo = new QGroupBox(this);
     fraPeriodo->setObjectName("fraPeriodo");
@@ -103,7 +103,7 @@ void FrmStampaEstrazioni::CreaControlli() {
         gp->addWidget(new QLabel(QStringLiteral("Ruota :"), fraPeriodo), 2, 0);
         cboRuota_ = new QComboBox(fraPeriodo);
         cboRuota_->setObjectName("cboRuota");
-        for (int w = 0; w <= NumeroRuote; ++w) cboRuota_->addItem(Q(NomiRuota[static_cast<size_t>(w)]));
+        for (int w = 0; w <= archives::NumeroRuote; ++w) cboRuota_->addItem(Q(archives::NomiRuota[static_cast<size_t>(w)]));
         gp->addWidget(cboRuota_, 2, 1, 1, 2);
     }
     principale->addWidget(fraPeriodo);
@@ -175,8 +175,8 @@ void FrmStampaEstrazioni::CreaControlli() {
     connect(cmdEsci_, &QPushButton::clicked, this, [this] { close(); });
 }
 
-manutenzione::ParametriStampaEstrazioni FrmStampaEstrazioni::Parametri() const {
-    manutenzione::ParametriStampaEstrazioni p;
+maintenance::ParametriStampaEstrazioni FrmStampaEstrazioni::Parametri() const {
+    maintenance::ParametriStampaEstrazioni p;
     p.dataInizio = txtDataInizio_->text().toStdString();
     p.dataFine = txtDataFine_->text().toStdString();
     p.ruota = cboRuota_ ? cboRuota_->currentIndex() : 0;
@@ -189,15 +189,15 @@ manutenzione::ParametriStampaEstrazioni FrmStampaEstrazioni::Parametri() const {
     return p;
 }
 
-manutenzione::StampaComposta FrmStampaEstrazioni::Componi() {
-    const Archivio& a = *Ambiente().archivio;
+maintenance::StampaComposta FrmStampaEstrazioni::Componi() {
+    const archives::Archivio& a = *Ambiente().archivio;
     const auto p = Parametri();
-    manutenzione::StampaComposta s;
+    maintenance::StampaComposta s;
     {
         CMouse attesa;
-        s = gioco_ == Gioco::Lotto           ? manutenzione::ComponiStampaLotto(a, p)
-            : gioco_ == Gioco::SuperEnalotto ? manutenzione::ComponiStampaSuper(a, p)
-                                             : manutenzione::ComponiStampa10eLotto(a, p);
+        s = gioco_ == Gioco::Lotto           ? maintenance::ComponiStampaLotto(a, p)
+            : gioco_ == Gioco::SuperEnalotto ? maintenance::ComponiStampaSuper(a, p)
+                                             : maintenance::ComponiStampa10eLotto(a, p);
     }
     // The boxes take the dates of the draws found.
     for (auto [testo, scatola, picker] : {std::tuple{s.dataInizio, txtDataInizio_, DTPickerDa_},
@@ -214,7 +214,7 @@ manutenzione::StampaComposta FrmStampaEstrazioni::Componi() {
     return s;
 }
 
-OpzioniStampa FrmStampaEstrazioni::Opzioni(const manutenzione::StampaComposta& s) {
+OpzioniStampa FrmStampaEstrazioni::Opzioni(const maintenance::StampaComposta& s) {
     OpzioniStampa o;
     o.font = Q(s.font);
     o.punti = s.punti;
@@ -233,7 +233,7 @@ bool FrmStampaEstrazioni::EsportaPdf(const QString& file) {
     const auto s = Componi();
     if (s.righe.empty()) return false;
     if (!StampaReportPdf(file, s.righe, Opzioni(s))) {
-        MostraMessaggio(this, {"Impossibile scrivere il file " + file.toStdString(), "Errore", Icona::Stop});
+        MostraMessaggio(this, {"Impossibile scrivere il file " + file.toStdString(), "Errore", archives::Icona::Stop});
         return false;
     }
     return true;
@@ -261,4 +261,4 @@ void FrmStampaEstrazioni::showEvent(QShowEvent* e) {
     }
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -13,7 +13,7 @@
 #include "maintenance/stampa_estrazioni.h"
 #include "screens/config/stampa.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 class FrmStampaEstrazioni : public QWidget {
     Q_OBJECT
@@ -22,15 +22,15 @@ public:
 
     explicit FrmStampaEstrazioni(QWidget* parent = nullptr) : FrmStampaEstrazioni(parent, Gioco::Lotto) {}
 
-    manutenzione::ParametriStampaEstrazioni Parametri() const;
+    maintenance::ParametriStampaEstrazioni Parametri() const;
     // cmdStampa's checks and pages: a refusal is shown here and leaves no pages; the date
     // boxes take the dates of the draws found.
-    manutenzione::StampaComposta Componi();
+    maintenance::StampaComposta Componi();
     // The pages to the print dialog or the preview; false when refused or cancelled.
     bool Stampa(DestinazioneStampa destinazione);
     // The pages in a PDF file, no dialog; false when refused or not written.
     bool EsportaPdf(const QString& file);
-    static OpzioniStampa Opzioni(const manutenzione::StampaComposta& s);
+    static OpzioniStampa Opzioni(const maintenance::StampaComposta& s);
 
 protected:
     FrmStampaEstrazioni(QWidget* parent, Gioco gioco);
@@ -66,4 +66,4 @@ public:
         : FrmStampaEstrazioni(parent, Gioco::DieciELotto) {}
 };
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -2,7 +2,7 @@
 
 #include <QGridLayout>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 QLabel* EtichettaValore(QWidget* parent, const char* nome) {
     auto* l = new QLabel(parent);
@@ -30,4 +30,4 @@ RiquadroUltima CreaRiquadroUltima(QWidget* parent, const char* nome, const QStri
     return r;
 }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

@@ -4,7 +4,7 @@
 #include <QGroupBox>
 #include <QLabel>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 // A sunken value label, with its objectName.
 QLabel* EtichettaValore(QWidget* parent, const char* nome);
@@ -16,4 +16,4 @@ struct RiquadroUltima {
 // `titolo` heads the box, `testoData` labels the date row.
 RiquadroUltima CreaRiquadroUltima(QWidget* parent, const char* nome, const QString& titolo, const QString& testoData);
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

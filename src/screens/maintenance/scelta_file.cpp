@@ -4,7 +4,7 @@
 
 #include "screens/config/stampa.h"
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 namespace {
 
@@ -22,4 +22,4 @@ QString ConDialogo(QWidget* parent, ModoSceltaFile modo, const QString& titolo, 
 SceltaFileManutenzione ScegliFileManutenzione = ConDialogo;
 SceltaFileManutenzione SceltaFileManutenzionePredefinita() { return ConDialogo; }
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

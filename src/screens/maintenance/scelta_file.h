@@ -6,7 +6,7 @@
 #include <QWidget>
 #include <functional>
 
-namespace gorgo::schermi {
+namespace gorgo::screens {
 
 enum class ModoSceltaFile { Apri, Salva };
 
@@ -17,4 +17,4 @@ using SceltaFileManutenzione = std::function<QString(QWidget* parent, ModoScelta
 extern SceltaFileManutenzione ScegliFileManutenzione;
 SceltaFileManutenzione SceltaFileManutenzionePredefinita();
 
-}  // namespace gorgo::schermi
+}  // namespace gorgo::screens

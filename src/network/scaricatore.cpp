@@ -1,4 +1,4 @@
-#include "rete/scaricatore.h"
+#include "network/scaricatore.h"
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>
@@ -6,9 +6,9 @@
 #include <QNetworkReply>
 #include <QNetworkRequest>
 
-namespace gorgo::rete {
+namespace gorgo::network {
 
-namespace stati = manutenzione::stati;
+namespace stati = maintenance::stati;
 
 QString TestoErroreRete(int codiceErrore) {
     switch (static_cast<QNetworkReply::NetworkError>(codiceErrore)) {
@@ -35,8 +35,8 @@ QString TestoErroreRete(int codiceErrore) {
     }
 }
 
-manutenzione::Scaricamento RisultatoScaricamento::PerIlNucleo() const {
-    manutenzione::Scaricamento s;
+maintenance::Scaricamento RisultatoScaricamento::PerIlNucleo() const {
+    maintenance::Scaricamento s;
     s.corpo = {reinterpret_cast<const uint8_t*>(corpo.constData()), static_cast<std::size_t>(corpo.size())};
     s.indirizzo = indirizzo.toStdString();
     s.statoHttp = statoHttp;
@@ -193,4 +193,4 @@ RisultatoScaricamento Scaricatore::Scarica(const QString& indirizzo) {
     return risultato_;
 }
 
-}  // namespace gorgo::rete
+}  // namespace gorgo::network

@@ -16,7 +16,7 @@
 class QNetworkAccessManager;
 class QNetworkReply;
 
-namespace gorgo::rete {
+namespace gorgo::network {
 
 struct RisultatoScaricamento {
     QByteArray corpo;
@@ -34,7 +34,7 @@ struct RisultatoScaricamento {
 
     bool riuscito() const { return completo && statoHttp >= 200 && statoHttp < 300; }
     // The same as plain data for the core; it points into `corpo`, so it lives no longer.
-    manutenzione::Scaricamento PerIlNucleo() const;
+    maintenance::Scaricamento PerIlNucleo() const;
 };
 
 class Scaricatore : public QObject {
@@ -62,7 +62,7 @@ public:
     RisultatoScaricamento Scarica(const QString& indirizzo);
 
 signals:
-    // A state of the client (manutenzione::stati). For the error state, `codice` and `testo`
+    // A state of the client (maintenance::stati). For the error state, `codice` and `testo`
     // are the response code and text; empty for the others.
     void statoCambiato(int stato, int codice, const QString& testo);
     void terminato();
@@ -84,4 +84,4 @@ private:
 // The error state's response text for a failed connection, in Italian.
 QString TestoErroreRete(int codiceErrore);
 
-}  // namespace gorgo::rete
+}  // namespace gorgo::network
