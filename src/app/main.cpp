@@ -4,7 +4,7 @@
 #include <QCommandLineParser>
 
 #include "archives/percorso.h"
-#include "screens/archives/avvio.h"
+#include "app/avvio.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);

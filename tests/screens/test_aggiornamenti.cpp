@@ -10,11 +10,11 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
 #include "screens/maintenance/frm_aggiornamenti.h"
 #include "screens/maintenance/frm_esportazione.h"
-#include "screens/maintenance/scelta_file.h"
+#include "screens/common/scelta_file.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 

@@ -17,9 +17,9 @@
 #include <vector>
 
 #include "config/cp1252.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/aiuto.h"
-#include "screens/config/stampa.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/aiuto.h"
+#include "screens/common/stampa.h"
 #include "support/cartelle.h"
 
 namespace {

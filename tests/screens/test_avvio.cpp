@@ -14,10 +14,10 @@
 #include <thread>
 
 #include "archives/demo.h"
-#include "screens/archives/ambiente.h"
-#include "screens/archives/avvio.h"
-#include "screens/config/elaborazioni.h"
-#include "screens/config/messaggi.h"
+#include "screens/common/ambiente.h"
+#include "app/avvio.h"
+#include "screens/common/elaborazioni.h"
+#include "screens/common/messaggi.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 

@@ -18,11 +18,11 @@
 #include <QTreeWidget>
 
 #include "builder/report.h"
-#include "screens/archives/ambiente.h"
-#include "screens/archives/avvio.h"
+#include "screens/common/ambiente.h"
+#include "app/avvio.h"
 #include "screens/builder/frm_costruttore.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stampa.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 

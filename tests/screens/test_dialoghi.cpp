@@ -23,14 +23,14 @@
 
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/browser.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/browser.h"
 #include "screens/config/frm_colori.h"
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stile.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stile.h"
 #include "support/cartelle.h"
 
 namespace gorgo::screens {

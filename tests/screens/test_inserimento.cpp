@@ -20,9 +20,9 @@
 
 #include "archives/archivio.h"
 #include "archives/demo.h"
-#include "screens/archives/ambiente.h"
-#include "screens/archives/avvio.h"
-#include "screens/config/messaggi.h"
+#include "screens/common/ambiente.h"
+#include "app/avvio.h"
+#include "screens/common/messaggi.h"
 #include "screens/maintenance/frm_input_estrazioni.h"
 #include "screens/maintenance/frm_stampa_estrazioni.h"
 #include "support/archivi_reali.h"

@@ -17,8 +17,8 @@
 
 #include "config/cp1252.h"
 #include "config/report_testo.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/stampa.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/stampa.h"
 #include "support/cartelle.h"
 
 namespace {

@@ -13,13 +13,13 @@
 
 #include "builder/report.h"
 #include "config/impostazioni.h"
-#include "screens/archives/ambiente.h"
-#include "screens/archives/twips.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/twips.h"
 #include "screens/builder/satelliti.h"
-#include "screens/config/elaborazioni.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stampa.h"
-#include "screens/config/stile.h"
+#include "screens/common/elaborazioni.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

@@ -6,10 +6,10 @@
 #include <QVBoxLayout>
 
 #include "builder/report.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stampa.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

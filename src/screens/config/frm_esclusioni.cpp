@@ -1,6 +1,6 @@
 #include "screens/config/frm_esclusioni.h"
 
-#include "screens/config/caselle.h"
+#include "screens/common/caselle.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -8,9 +8,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

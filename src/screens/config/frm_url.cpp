@@ -7,9 +7,9 @@
 #include <string>
 
 #include "config/impostazioni.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

@@ -14,9 +14,9 @@
 #include "maintenance/importazione.h"
 #include "maintenance/internet.h"
 #include "network/scaricatore.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

@@ -11,12 +11,12 @@
 
 #include "archives/regole.h"
 #include "maintenance/aggiornamento.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/aiuto.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/aiuto.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stile.h"
 #include "screens/maintenance/riquadro_ultima.h"
-#include "screens/maintenance/scelta_file.h"
+#include "screens/common/scelta_file.h"
 
 namespace gorgo::screens {
 

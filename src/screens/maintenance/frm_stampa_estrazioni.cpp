@@ -10,13 +10,13 @@
 
 #include "archives/regole.h"
 #include "config/impostazioni.h"
-#include "screens/archives/ambiente.h"
-#include "screens/archives/twips.h"
-#include "screens/config/aiuto.h"
-#include "screens/config/caselle.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/elaborazioni.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/twips.h"
+#include "screens/common/aiuto.h"
+#include "screens/common/caselle.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/elaborazioni.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

@@ -11,7 +11,7 @@
 #include <QWidget>
 
 #include "maintenance/stampa_estrazioni.h"
-#include "screens/config/stampa.h"
+#include "screens/common/stampa.h"
 
 namespace gorgo::screens {
 

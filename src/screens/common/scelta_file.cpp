@@ -1,8 +1,8 @@
-#include "screens/maintenance/scelta_file.h"
+#include "screens/common/scelta_file.h"
 
 #include <QFileDialog>
 
-#include "screens/config/stampa.h"
+#include "screens/common/stampa.h"
 
 namespace gorgo::screens {
 

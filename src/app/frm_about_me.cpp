@@ -1,4 +1,4 @@
-#include "screens/archives/frm_about_me.h"
+#include "app/frm_about_me.h"
 
 #include <QLabel>
 #include <QPushButton>
@@ -7,8 +7,8 @@
 #include <QVBoxLayout>
 #include <fmt/format.h>
 
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
 
 namespace gorgo::screens {
 

@@ -1,4 +1,4 @@
-#include "screens/config/stile.h"
+#include "screens/common/stile.h"
 
 #include <QAbstractItemView>
 #include <QAbstractScrollArea>

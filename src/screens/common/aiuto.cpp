@@ -1,4 +1,4 @@
-#include "screens/config/aiuto.h"
+#include "screens/common/aiuto.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -6,8 +6,8 @@
 #include <QStringDecoder>
 
 #include "config/cp1252.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/frm_help.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/frm_help.h"
 
 namespace gorgo::screens {
 

@@ -1,4 +1,4 @@
-#include "screens/config/caselle.h"
+#include "screens/common/caselle.h"
 
 namespace gorgo::screens {
 

@@ -1,4 +1,4 @@
-#include "screens/archives/ambiente.h"
+#include "screens/common/ambiente.h"
 
 #include <QCoreApplication>
 

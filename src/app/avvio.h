@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <memory>
 
-#include "screens/archives/frm_main.h"
+#include "app/frm_main.h"
 
 namespace gorgo::screens {
 

@@ -1,4 +1,4 @@
-#include "screens/config/browser.h"
+#include "screens/common/browser.h"
 
 #include <QDesktopServices>
 #include <QUrl>

@@ -1,4 +1,4 @@
-#include "screens/config/frm_help.h"
+#include "screens/common/frm_help.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -9,10 +9,10 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
-#include "screens/config/stampa.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

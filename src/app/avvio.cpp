@@ -1,4 +1,4 @@
-#include "screens/archives/avvio.h"
+#include "app/avvio.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -7,8 +7,8 @@
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
 #include "maintenance/aggiornamento.h"
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
 
 namespace gorgo::screens {
 

@@ -1,4 +1,4 @@
-#include "screens/archives/twips.h"
+#include "screens/common/twips.h"
 
 #include <QGuiApplication>
 #include <QVariant>
@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 
 #include "config/impostazioni.h"
-#include "screens/archives/ambiente.h"
+#include "screens/common/ambiente.h"
 
 namespace gorgo::screens {
 

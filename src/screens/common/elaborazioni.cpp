@@ -1,12 +1,12 @@
-#include "screens/config/elaborazioni.h"
+#include "screens/common/elaborazioni.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
 #include <QVBoxLayout>
 
-#include "screens/archives/ambiente.h"
-#include "screens/config/stile.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/stile.h"
 
 namespace gorgo::screens {
 

@@ -1,4 +1,4 @@
-#include "screens/config/stampa.h"
+#include "screens/common/stampa.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,8 +18,8 @@
 #include <cmath>
 #include <filesystem>
 
-#include "screens/archives/ambiente.h"
-#include "screens/config/messaggi.h"
+#include "screens/common/ambiente.h"
+#include "screens/common/messaggi.h"
 
 namespace gorgo::screens {
 

@@ -1,4 +1,4 @@
-#include "screens/config/messaggi.h"
+#include "screens/common/messaggi.h"
 
 #include <QAbstractButton>
 
