@@ -218,4 +218,6 @@ void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx) {
     });
 }
 
+const GruppoComandi registrazione{10, AggiungiComandiArchivi};
+
 }  // namespace gorgo::cli

@@ -96,4 +96,6 @@ void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
     c->callback([&ctx, a] { Costruttore(ctx, *a); });
 }
 
+const GruppoComandi registrazione{30, AggiungiComandiCostruttore};
+
 }  // namespace gorgo::cli

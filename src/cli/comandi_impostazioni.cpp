@@ -81,4 +81,6 @@ void AggiungiComandiImpostazioni(CLI::App& app, Contesto& ctx) {
     imp->callback([&ctx, a] { Impostazione(ctx, *a); });
 }
 
+const GruppoComandi registrazione{20, AggiungiComandiImpostazioni};
+
 }  // namespace gorgo::cli

@@ -163,4 +163,6 @@ void AggiungiComandiInserisci(CLI::App& app, Contesto& ctx) {
     cmd->callback([&ctx, arg] { Inserisci(ctx, *arg); });
 }
 
+const GruppoComandi registrazione{50, AggiungiComandiInserisci};
+
 }  // namespace gorgo::cli

@@ -207,4 +207,6 @@ void AggiungiComandiManutenzione(CLI::App& app, Contesto& ctx) {
     testo->callback([&ctx, a] { EsportaTesto(ctx, a->file); });
 }
 
+const GruppoComandi registrazione{60, AggiungiComandiManutenzione};
+
 }  // namespace gorgo::cli

@@ -170,4 +170,6 @@ void AggiungiComandiScarica(CLI::App& app, Contesto& ctx) {
     });
 }
 
+const GruppoComandi registrazione{70, AggiungiComandiScarica};
+
 }  // namespace gorgo::cli

@@ -191,4 +191,6 @@ void AggiungiComandiVerifica(CLI::App& app, Contesto& ctx) {
     d->callback([&ctx, p] { Previsioni(ctx, *p); });
 }
 
+const GruppoComandi registrazione{40, AggiungiComandiVerifica};
+
 }  // namespace gorgo::cli

@@ -38,13 +38,14 @@ struct Contesto {
 // Prints a JSON value on one line.
 void StampaJson(const nlohmann::json& j);
 
-// Each group of subcommands adds itself to the application.
-void AggiungiComandiArchivi(CLI::App& app, Contesto& ctx);
-void AggiungiComandiImpostazioni(CLI::App& app, Contesto& ctx);
-void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx);
-void AggiungiComandiVerifica(CLI::App& app, Contesto& ctx);
-void AggiungiComandiInserisci(CLI::App& app, Contesto& ctx);
-void AggiungiComandiManutenzione(CLI::App& app, Contesto& ctx);
-void AggiungiComandiScarica(CLI::App& app, Contesto& ctx);
+// Each group of subcommands registers itself with one object in its own file, giving its place
+// in the list of the help, so that a new group touches no other file:
+//   const GruppoComandi registrazione{70, AggiungiComandiScarica};
+using AggiungiComandi = void (*)(CLI::App& app, Contesto& ctx);
+struct GruppoComandi {
+    GruppoComandi(int ordine, AggiungiComandi aggiungi);
+};
+// Adds every registered group to the application, in the order of their places.
+void AggiungiTuttiIComandi(CLI::App& app, Contesto& ctx);
 
 }  // namespace gorgo::cli

@@ -53,13 +53,7 @@ int main(int argc, char** argv) {
                    "la cartella dell'eseguibile se contiene Archivi/, altrimenti ~/Gorgo");
     app.add_flag("--json", ctx.json, "Risultati in formato JSON");
 
-    gorgo::cli::AggiungiComandiArchivi(app, ctx);
-    gorgo::cli::AggiungiComandiImpostazioni(app, ctx);
-    gorgo::cli::AggiungiComandiCostruttore(app, ctx);
-    gorgo::cli::AggiungiComandiVerifica(app, ctx);
-    gorgo::cli::AggiungiComandiInserisci(app, ctx);
-    gorgo::cli::AggiungiComandiManutenzione(app, ctx);
-    gorgo::cli::AggiungiComandiScarica(app, ctx);
+    gorgo::cli::AggiungiTuttiIComandi(app, ctx);
     for (CLI::App* sub : app.get_subcommands({})) {
         sub->group("Comandi");
         sub->get_help_ptr()->group("Opzioni");
