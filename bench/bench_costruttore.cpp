@@ -11,7 +11,7 @@
 
 #include "archives/archivio.h"
 #include "builder/ricerca.h"
-#include "ricerca_letterale.h"
+#include "builder/ricerca_letterale.h"
 
 namespace {
 
