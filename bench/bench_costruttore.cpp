@@ -10,6 +10,7 @@
 #include <string>
 
 #include "archives/archivio.h"
+#include "builder/indice_mensile.h"
 #include "builder/ricerca.h"
 #include "ricerca_letterale.h"
 

@@ -9,6 +9,7 @@
 #include "archives/messaggio.h"
 #include "archives/storia.h"
 #include "builder/modello.h"
+#include "builder/terzine.h"
 
 namespace gorgo::builder {
 

@@ -4,7 +4,10 @@
 #include <fmt/format.h>
 #include <iostream>
 
+#include "builder/chiavi.h"
+#include "builder/previsioni.h"
 #include "builder/report.h"
+#include "builder/riepilogo.h"
 #include "builder/verifica.h"
 #include "cli/contesto.h"
 #include "cli/parametri_ricerca.h"

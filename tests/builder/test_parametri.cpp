@@ -4,7 +4,9 @@
 
 #include "archives/demo.h"
 #include "archives/regole.h"
+#include "builder/indice_mensile.h"
 #include "builder/parametri.h"
+#include "builder/terzine.h"
 
 namespace gorgo::builder {
 namespace {
