@@ -10,6 +10,7 @@
 #include <string>
 
 #include "archives/archivio.h"
+#include "builder/indice_mensile.h"
 #include "builder/ricerca.h"
 #include "builder/ricerca_letterale.h"
 

@@ -1,82 +1,14 @@
 #include "archives/archivio.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
-#include <sys/stat.h>
-#include <unistd.h>
+
+#include "archives/file_record.h"
 
 namespace gorgo::archives {
 
 namespace fs = std::filesystem;
-
-// One archive file as a descriptor; absent files in read mode behave as empty.
-class FileRecord {
-public:
-    FileRecord(fs::path percorso, ModoApertura modo) : percorso_(std::move(percorso)) {
-        const int flags = modo == ModoApertura::Scrittura ? O_RDWR | O_CREAT : O_RDONLY;
-        fd_ = ::open(percorso_.c_str(), flags | O_CLOEXEC, 0644);
-        if (fd_ < 0 && !(modo == ModoApertura::Lettura && errno == ENOENT))
-            throw ErroreArchivio(fmt::format("Impossibile aprire il file {} : {}", percorso_.string(),
-                                             std::strerror(errno)));
-    }
-    ~FileRecord() {
-        if (fd_ >= 0) ::close(fd_);
-    }
-    FileRecord(const FileRecord&) = delete;
-    FileRecord& operator=(const FileRecord&) = delete;
-
-    const fs::path& percorso() const { return percorso_; }
-
-    uint64_t lunghezza() const {
-        if (fd_ < 0) return 0;
-        struct stat st {};
-        if (::fstat(fd_, &st) != 0) Errore("leggere la lunghezza di");
-        return static_cast<uint64_t>(st.st_size);
-    }
-
-    void leggi(uint64_t offset, void* dest, size_t n) const {
-        auto* p = static_cast<char*>(dest);
-        while (n > 0) {
-            const ssize_t r = fd_ < 0 ? 0 : ::pread(fd_, p, n, static_cast<off_t>(offset));
-            if (r < 0 && errno == EINTR) continue;
-            if (r < 0) Errore("leggere");
-            if (r == 0) throw ErroreArchivio(fmt::format("Lettura oltre la fine del file {}", percorso_.string()));
-            p += r;
-            n -= static_cast<size_t>(r);
-            offset += static_cast<uint64_t>(r);
-        }
-    }
-
-    void scrivi(uint64_t offset, const void* src, size_t n) {
-        if (fd_ < 0) throw ErroreArchivio(fmt::format("Il file {} è aperto in sola lettura", percorso_.string()));
-        const auto* p = static_cast<const char*>(src);
-        while (n > 0) {
-            const ssize_t r = ::pwrite(fd_, p, n, static_cast<off_t>(offset));
-            if (r < 0 && errno == EINTR) continue;
-            if (r <= 0) Errore("scrivere");
-            p += r;
-            n -= static_cast<size_t>(r);
-            offset += static_cast<uint64_t>(r);
-        }
-        if (::fdatasync(fd_) != 0) Errore("scrivere");
-    }
-
-    void tronca(uint64_t lunghezza) noexcept {
-        if (fd_ >= 0 && ::ftruncate(fd_, static_cast<off_t>(lunghezza)) == 0) ::fdatasync(fd_);
-    }
-
-private:
-    [[noreturn]] void Errore(const char* azione) const {
-        throw ErroreArchivio(fmt::format("Impossibile {} il file {} : {}", azione, percorso_.string(),
-                                         std::strerror(errno)));
-    }
-
-    fs::path percorso_;
-    int fd_ = -1;
-};
 
 Archivio::Archivio(Archivio&&) noexcept = default;
 Archivio& Archivio::operator=(Archivio&&) noexcept = default;
@@ -88,9 +20,12 @@ Archivio Archivio::Apri(const fs::path& percorsoProgramma, ModoApertura modo) {
     const fs::path cartella = a.CartellaArchivi();
     // Never create a whole folder tree for a mistyped program folder.
     if (modo == ModoApertura::Scrittura && !fs::is_directory(cartella)) modo = ModoApertura::Lettura;
-    a.estrazioni_ = std::make_unique<FileRecord>(cartella / "Estrazioni.ind", modo);
-    a.anni_ = std::make_unique<FileRecord>(cartella / "anni.ind", modo);
-    a.super_ = std::make_unique<FileRecord>(cartella / "SuperEnalotto.ind", modo);
+    // Reading never creates a file and takes an absent one as empty; writing creates it empty.
+    const int flags = modo == ModoApertura::Scrittura ? O_RDWR | O_CREAT : O_RDONLY;
+    const bool assenteVuoto = modo == ModoApertura::Lettura;
+    a.estrazioni_ = std::make_unique<FileRecord>(cartella / "Estrazioni.ind", flags, assenteVuoto);
+    a.anni_ = std::make_unique<FileRecord>(cartella / "anni.ind", flags, assenteVuoto);
+    a.super_ = std::make_unique<FileRecord>(cartella / "SuperEnalotto.ind", flags, assenteVuoto);
     a.RileggiLunghezze();
     return a;
 }
@@ -194,39 +129,50 @@ StoriaCondivisa Archivio::Storia() const {
 }
 
 void Archivio::AggiungiEstrazione(const RecordEstrazione& record) {
-    const uint64_t lunghezzaPrima = estrazioni_->lunghezza();
-    estrazioni_->scrivi(static_cast<uint64_t>(numeroEstrazioni_) * LunghezzaRecordEstrazione, &record,
-                        sizeof record);
+    const uint64_t lunghezzaE = estrazioni_->lunghezza(), lunghezzaA = anni_->lunghezza();
     storia_.reset();
-    if (record.NumeroAnno == 1) {
-        const RecordAnno anno =
-            RecordAnno::Crea(record.data().anno, numeroEstrazioni_ + 1);
-        try {
-            anni_->scrivi(anni_->lunghezza() / LunghezzaRecordAnno * LunghezzaRecordAnno, &anno, sizeof anno);
-        } catch (...) {
-            // Keep the draws and the year index in step: take the new draw back.
-            estrazioni_->tronca(std::min<uint64_t>(lunghezzaPrima,
-                                                   static_cast<uint64_t>(numeroEstrazioni_) * LunghezzaRecordEstrazione));
-            RileggiLunghezze();
-            throw;
+    try {
+        estrazioni_->scrivi(static_cast<uint64_t>(numeroEstrazioni_) * LunghezzaRecordEstrazione, &record,
+                            sizeof record);
+        estrazioni_->sincronizza();
+        if (record.NumeroAnno == 1) {
+            const RecordAnno anno = RecordAnno::Crea(record.data().anno, numeroEstrazioni_ + 1);
+            anni_->scrivi(lunghezzaA / LunghezzaRecordAnno * LunghezzaRecordAnno, &anno, sizeof anno);
+            anni_->sincronizza();
         }
+    } catch (...) {
+        // Keep the draws and the year index in step: take the new draw back.
+        anni_->ripristina(lunghezzaA, LunghezzaRecordAnno);
+        estrazioni_->ripristina(lunghezzaE, LunghezzaRecordEstrazione);
+        RileggiLunghezze();
+        throw;
     }
     RileggiLunghezze();
 }
 
 void Archivio::CorreggiEstrazione(int32_t indice, const RecordEstrazione& record) {
     estrazioni_->scrivi(static_cast<uint64_t>(indice - 1) * LunghezzaRecordEstrazione, &record, sizeof record);
+    estrazioni_->sincronizza();
     storia_.reset();
     RileggiLunghezze();
 }
 
 void Archivio::AggiungiEstrazioneSuper(const RecordSuperEnalotto& record) {
-    super_->scrivi(static_cast<uint64_t>(numeroEstrazioniSuper_) * LunghezzaRecordSuper, &record, sizeof record);
+    const uint64_t lunghezza = super_->lunghezza();
+    try {
+        super_->scrivi(static_cast<uint64_t>(numeroEstrazioniSuper_) * LunghezzaRecordSuper, &record, sizeof record);
+        super_->sincronizza();
+    } catch (...) {
+        super_->ripristina(lunghezza, LunghezzaRecordSuper);
+        RileggiLunghezze();
+        throw;
+    }
     RileggiLunghezze();
 }
 
 void Archivio::CorreggiEstrazioneSuper(int32_t indice, const RecordSuperEnalotto& record) {
     super_->scrivi(static_cast<uint64_t>(indice - 1) * LunghezzaRecordSuper, &record, sizeof record);
+    super_->sincronizza();
     RileggiLunghezze();
 }
 

@@ -7,21 +7,15 @@
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "archives/file_record.h"
 #include "archives/messaggio.h"
 #include "archives/record.h"
 #include "archives/storia.h"
 
 namespace gorgo::archives {
-
-// An input/output failure on an archive file; the text is Italian and names the file.
-class ErroreArchivio : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
 
 enum class ModoApertura {
     Lettura,    // nothing is ever written; absent files count as empty
@@ -30,8 +24,6 @@ enum class ModoApertura {
 
 // Selector of DataEstrazione for the SuperEnalotto archive.
 constexpr int ArchivioSuper = 21;
-
-class FileRecord;
 
 class Archivio {
 public:

@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "builder/modello.h"
+#include "builder/chiavi.h"
 
 namespace gorgo::builder {
 

@@ -6,7 +6,9 @@
 #include <optional>
 #include <string>
 
+#include "builder/indice_mensile.h"
 #include "builder/ricerca.h"
+#include "builder/terzine.h"
 #include "config/ini.h"
 
 namespace gorgo::builder {

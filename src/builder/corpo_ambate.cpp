@@ -6,8 +6,7 @@
 #include <tbb/enumerable_thread_specific.h>
 #include <tbb/parallel_for.h>
 
-#include "builder/finestra.h"
-#include "builder/ricerca_interna.h"
+#include "builder/corpo_ambate.h"
 
 namespace gorgo::builder::interno {
 

@@ -11,7 +11,7 @@
 #include <memory>
 #include <tbb/parallel_for.h>
 
-#include "builder/ricerca_interna.h"
+#include "builder/corpo_ambi.h"
 
 namespace gorgo::builder::interno {
 

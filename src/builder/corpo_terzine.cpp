@@ -7,7 +7,7 @@
 #include <tbb/enumerable_thread_specific.h>
 #include <tbb/parallel_for.h>
 
-#include "builder/ricerca_interna.h"
+#include "builder/corpo_terzine.h"
 
 namespace gorgo::builder::interno {
 

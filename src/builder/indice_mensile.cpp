@@ -1,6 +1,6 @@
 // The month index of every draw and the flag of the last draw of each month.
 
-#include "builder/modello.h"
+#include "builder/indice_mensile.h"
 
 namespace gorgo::builder {
 

@@ -77,8 +77,21 @@ std::string DataDaPredefinita(const archives::StoriaLotto& storia) {
     return (minima > dieci ? minima : dieci).testo();
 }
 
-RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaLotto& storia) {
+RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaLotto& storia,
+                              const EsitoTerzine* terzine, std::string_view fileTerzine) {
     if (!ParametriPossibili(p)) return Rifiuto("Parametri di ricerca non validi !");
+
+    // The codes need the reduced triples, whatever the spy: the load's own message when it
+    // gave one.
+    if (p.tipoRicerca == TipoRicerca::Codici && terzine && !terzine->valido) {
+        RicercaValidata r;
+        r.errore = terzine->messaggio.vuoto()
+                       ? archives::Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " +
+                                                 std::string(fileTerzine),
+                                             "Errore", archives::Icona::Esclamazione}
+                       : terzine->messaggio;
+        return r;
+    }
 
     const bool ambo = p.tipoSpia == TipoSpia::Ambo;
     // The ambo spy has its own frame in place of optTipo: "Tutti gli ambi" is its only mode.

@@ -4,10 +4,12 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "archives/messaggio.h"
 #include "archives/storia.h"
 #include "builder/modello.h"
+#include "builder/terzine.h"
 
 namespace gorgo::builder {
 
@@ -66,6 +68,10 @@ struct RicercaValidata {
     std::string descrizione;            // "Sortite del numero 27 sulle ruote ... : " (count follows);
                                         // empty with all values, where the search writes none
 };
-RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaLotto& storia);
+// `terzine` is the file of reduced triples as loaded (`fileTerzine` names it): the codes are
+// refused without it, before any other step. Callers that judge no file (the replay of a
+// key, the reports) pass nothing.
+RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaLotto& storia,
+                              const EsitoTerzine* terzine = nullptr, std::string_view fileTerzine = {});
 
 }  // namespace gorgo::builder

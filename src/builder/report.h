@@ -5,6 +5,8 @@
 #include <string>
 
 #include "builder/ricerca.h"
+#include "builder/previsioni.h"
+#include "builder/riepilogo.h"
 #include "builder/verifica.h"
 #include "config/report_testo.h"
 

@@ -7,6 +7,10 @@
 #include <fmt/format.h>
 #include <tbb/parallel_for.h>
 
+#include "builder/corpo_ambate.h"
+#include "builder/corpo_ambi.h"
+#include "builder/corpo_codici.h"
+#include "builder/corpo_terzine.h"
 #include "builder/ricerca_interna.h"
 
 namespace gorgo::builder {

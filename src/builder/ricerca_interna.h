@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "builder/chiavi.h"
 #include "builder/ricerca.h"
 
 namespace gorgo::builder::interno {
@@ -82,11 +83,11 @@ size_t SelezioneAmbate(const std::vector<Candidato>& lista, bool tuttiIValori);
 // Whether a position counts for the spy (all of them for sum and difference).
 bool PosizioneSpia(const Preparata& r, int posizione);
 
-// The bodies. Each scores the cases of one spy value and returns the rows it selects.
+// What a body gives for one spy value: the rows it selects. Each body declares its entry
+// point in its own header.
 struct RisultatoValore {
     std::vector<RigaAlgoritmo> righe;
 };
-RisultatoValore CorpoAmbate(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi, bool parallelo);
 
 }  // namespace gorgo::builder::interno
 
@@ -105,16 +106,9 @@ int SogliaPerCasi(int casi);
 // Growth of the threshold after a list of R rows.
 int CrescitaSoglia(int righe, int indiceMese);
 
-RisultatoValore CorpoAmbi(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi);
-
 }  // namespace gorgo::builder::interno
 
 namespace gorgo::builder::interno {
-
-// Terzine keep a threshold that, for "Terzine x terno" outside "Tutti", carries from one
-// spy value to the next.
-RisultatoValore CorpoTerzine(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi, int& soglia);
-RisultatoValore CorpoCodici(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi);
 
 // The selection of the Terzine and Codici bodies: of the first min(R, 15) rows, all, or
 // those that tie with row 1.

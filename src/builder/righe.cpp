@@ -2,7 +2,7 @@
 
 #include <fmt/format.h>
 
-#include "builder/ricerca.h"
+#include "builder/righe.h"
 #include "config/formato.h"
 
 namespace gorgo::builder {

@@ -5,7 +5,7 @@
 #include <system_error>
 
 #include "archives/regole.h"
-#include "builder/modello.h"
+#include "builder/terzine.h"
 
 namespace gorgo::builder {
 

@@ -1,5 +1,4 @@
-// The replay of one algorithm through the history, the selection of the running ones, the
-// recap, the statistics of the play wheels and the forecasts of the selected algorithms.
+// The replay of one algorithm through the history and the selection of the running ones.
 
 #include "builder/verifica.h"
 
@@ -8,24 +7,12 @@
 #include <fmt/format.h>
 #include <tbb/parallel_for.h>
 
-#include "builder/report.h"
-#include "config/formato.h"
+#include "builder/chiavi.h"
+#include "builder/verifica_interna.h"
 
 namespace gorgo::builder {
 
-namespace {
-
-// Where the "_" of each layout stands (from 0): the spy positions follow the spy's two digits.
-size_t Separatore(TipoRicerca tipo) {
-    switch (tipo) {
-        case TipoRicerca::Ambate: return 9;
-        case TipoRicerca::Ambi: return 12;
-        case TipoRicerca::TerzineAmbo:
-        case TipoRicerca::TerzineTerno: return 6;
-        case TipoRicerca::Codici: return 7;
-    }
-    return 9;
-}
+namespace interno {
 
 // Leading blanks, a sign, digits: the number a text starts with, 0 when none.
 int Valore(std::string_view t) {
@@ -44,17 +31,9 @@ std::string Tronca(std::string_view t) {
     return std::string(t.substr(a, t.find_last_not_of(' ') - a + 1));
 }
 
-// Everything the replays with one set of parameters share, made once for a whole selection.
-struct Preparazione {
-    const ParametriRicerca* p = nullptr;
-    const ContestoRicerca* ctx = nullptr;
-    const archives::StoriaLotto* s = nullptr;
-    RicercaValidata v;
-    std::vector<uint8_t> ammessa;  // by index: GiornoValido and the month test
-    std::vector<int> ruoteRicerca, ruoteGioco;
-    bool soloIndice = false;
-    int soglia = 1;  // numbers of one wheel that make a hit (pairs and triples)
-};
+archives::Messaggio Avviso(std::string_view testo, std::string_view titolo) {
+    return {std::string(testo), std::string(titolo), archives::Icona::Esclamazione};
+}
 
 Preparazione Prepara(const ParametriRicerca& p, const ContestoRicerca& ctx) {
     Preparazione r;
@@ -87,6 +66,24 @@ Preparazione Prepara(const ParametriRicerca& p, const ContestoRicerca& ctx) {
         r.ammessa[k] = mese && (!giorni || config::EstrazioneAmmessa(re, s[i].dataCifre(), s[i].GiornoSettimana));
     }
     return r;
+}
+
+}  // namespace interno
+
+using namespace interno;
+
+namespace {
+
+// Where the "_" of each layout stands (from 0): the spy positions follow the spy's two digits.
+size_t Separatore(TipoRicerca tipo) {
+    switch (tipo) {
+        case TipoRicerca::Ambate: return 9;
+        case TipoRicerca::Ambi: return 12;
+        case TipoRicerca::TerzineAmbo:
+        case TipoRicerca::TerzineTerno: return 6;
+        case TipoRicerca::Codici: return 7;
+    }
+    return 9;
 }
 
 struct Spia {
@@ -161,9 +158,9 @@ std::string TestoPrevisione(const std::vector<int>& numeri) {
     return t;
 }
 
-archives::Messaggio Avviso(std::string_view testo, std::string_view titolo = {}) {
-    return {std::string(testo), std::string(titolo), archives::Icona::Esclamazione};
-}
+}  // namespace
+
+namespace interno {
 
 EsitoVerifica Verifica(const Preparazione& r, std::string_view descrizione, std::string_view chiave,
                        std::string_view testoSpia, bool silenziosa, int colpiMax, bool selezione) {
@@ -315,7 +312,7 @@ EsitoVerifica Verifica(const Preparazione& r, std::string_view descrizione, std:
     return e;
 }
 
-}  // namespace
+}  // namespace interno
 
 EsitoVerifica VerificaAlgoritmo(const ParametriRicerca& parametri, const ContestoRicerca& contesto,
                                 std::string_view descrizione, std::string_view chiave, std::string_view spia,
@@ -373,303 +370,6 @@ std::string DescrizioneDaChiave(std::string_view chiave, const ParametriRicerca&
             return DescrizioneCodice(t.cella, t.op, c.terzina, terzine->terzine[static_cast<size_t>(c.terzina)]);
     }
     return {};
-}
-
-// ---------------------------------------------------------------- recap
-
-FigureRiepilogo FigureTecnica(const std::vector<RigaVerifica>& righe, int32_t fine, int colpi) {
-    FigureRiepilogo f;
-    f.rilevati = static_cast<int>(righe.size());
-    for (const RigaVerifica& r : righe)
-        if (r.vincita) {
-            ++f.favorevoli;
-            f.sommaColpi += r.colpo;
-        }
-    for (auto it = righe.rbegin(); it != righe.rend() && fine - it->indiceSpia < colpi; ++it) {
-        ++f.inGioco;
-        if (it->vincita) ++f.sfaldati;
-    }
-    const int d = f.rilevati - f.inGioco - f.favorevoli;
-    if (d < 0) f.sfaldati = -d;
-    f.negativi = std::max(d, 0);
-    return f;
-}
-
-namespace {
-
-std::string Ruote(const std::array<bool, 12>& caselle) {
-    if (caselle[0]) return caselle[11] ? " Tutte + NZ" : " Tutte";
-    std::string t;
-    for (int w = 1; w <= archives::NumeroRuote; ++w)
-        if (caselle[static_cast<size_t>(w)]) {
-            t += ' ';
-            t += Tronca(archives::NomiRuota[static_cast<size_t>(w)]);
-        }
-    return t;
-}
-
-std::string_view RigaSorte(const ParametriRicerca& p) {
-    switch (p.tipoRicerca) {
-        case TipoRicerca::Ambate: return " Ambate          : ";
-        case TipoRicerca::Ambi: return " Ambi secchi     : ";
-        case TipoRicerca::TerzineAmbo: return " Ambi in terzina : ";
-        case TipoRicerca::TerzineTerno: return " Terni secchi    : ";
-        case TipoRicerca::Codici: return p.sorte == 3 ? " Terni           : " : " Ambi in terzina : ";
-    }
-    return {};
-}
-
-std::string Percentuale(int parte, int tutto) {
-    return config::Formato(parte * 100.0 / tutto, "##0.0");
-}
-
-}  // namespace
-
-EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& p, const ContestoRicerca& contesto,
-                                const EsitoVerifica& verifica, std::string_view descrizione,
-                                std::string_view chiave) {
-    EsitoRiepilogo e;
-    if (p.colpi < 1) {
-        e.errore = Avviso(ColpiMancanti);
-        return e;
-    }
-    const archives::StoriaLotto& s = *contesto.storia;
-    const RicercaValidata v = ValidaRicerca(p, s);
-    if (!v.errore.vuoto()) {
-        e.errore = v.errore;
-        return e;
-    }
-    const FigureRiepilogo f = FigureTecnica(verifica.righe, v.ultimoPeriodo, p.colpi);
-    e.figure = f;
-
-    // The head.
-    auto& t = e.testa;
-    t.push_back("Gorgo 2");
-    const bool soloIndice = p.tipoSpia != TipoSpia::Ambo && p.modoSpia == ModoSpia::SoloIndiceMensile;
-    if (p.perData == 1) {
-        static constexpr std::string_view kDescrivi[] = {"sortite del numero spia", "sortite della somma spia",
-                                                         "sortite della differenza spia", "sortite dell'ambo spia"};
-        t.push_back(fmt::format("Ultime {} {}", p.sortiteDaCercare,
-                                soloIndice ? std::string_view("occorrenze dell'indice mensile")
-                                           : kDescrivi[static_cast<int>(p.tipoSpia)]));
-    } else {
-        t.push_back("Data inizio ricerca " + s.DataEstrazione(v.primo));
-        t.push_back("Data fine ricerca " + s.DataEstrazione(v.ultimoPeriodo));
-    }
-    t.push_back("Condizione di gioco:");
-    const std::optional<CodaChiave> coda = LeggiCoda(chiave);
-    std::string spia;
-    switch (p.tipoSpia) {
-        case TipoSpia::Numero: spia = "Sortita del n. "; break;
-        case TipoSpia::Somma: spia = "Sortita della somma "; break;
-        case TipoSpia::Differenza: spia = "Sortita della differenza "; break;
-        case TipoSpia::Ambo: spia = "Sortita dell'ambo "; break;
-    }
-    if (coda) spia += coda->ambo ? fmt::format("{}-{}", coda->spia, coda->spia2) : fmt::format("{}", coda->spia);
-    if (!coda || coda->posizioni.empty() || coda->posizioni == "11111") {
-        spia += " in qualsiasi posizione";
-    } else {
-        spia += " in posizione";
-        for (size_t k = 0; k < coda->posizioni.size(); ++k)
-            if (coda->posizioni[k] == '1') spia += fmt::format("{:>2}", k + 1);
-    }
-    t.push_back(spia);
-    const config::Restrizioni& re = contesto.restrizioni;
-    if (re.Giorno) {
-        std::string giorni = "Solo nelle estrazioni del ";
-        static constexpr std::pair<int, std::string_view> kGiorni[] = {
-            {3, " martedì"}, {4, " mercoledì"}, {5, " giovedì"}, {7, " sabato"}};
-        for (const auto& [g, nome] : kGiorni)
-            if (re.GiornoAmmesso[static_cast<size_t>(g)]) giorni += nome;
-        t.push_back(giorni);
-    }
-    t.push_back("Ruota/e di ricerca condizione " + Ruote(p.ruoteRicerca));
-    t.push_back(" su ");
-    t.push_back("Ruota/e di gioco " + Ruote(p.ruoteGioco));
-    t.push_back(fmt::format("Colpi di gioco {}", p.colpi));
-    if (p.indiceMese == 22)
-        t.push_back("Tutti gli indici mensili");
-    else
-        t.push_back("Indice mensile " + (p.indiceMese == 0 ? std::string("Ultima") : std::to_string(p.indiceMese)) +
-                    " del mese");
-    std::string algoritmo(descrizione);
-    const bool tutteValide = std::all_of(p.posizioniValide.begin() + 1, p.posizioniValide.end(), [](bool b) { return b; });
-    if (p.tipoRicerca == TipoRicerca::Ambate && !tutteValide) {
-        algoritmo += " in posizione ";
-        for (int k = 1; k <= 5; ++k)
-            if (p.posizioniValide[static_cast<size_t>(k)]) algoritmo += fmt::format("{:>2}", k);
-    }
-    t.push_back(algoritmo);
-    if (verifica.capoInCorso())
-        t.push_back((p.tipoRicerca == TipoRicerca::Ambate ? " numero calcolato al " : " numeri calcolati al ") +
-                    verifica.lblDataPrevisione + " : " + verifica.lblCapo);
-    else
-        t.push_back(" nessuna previsione in corso");
-
-    // The figures.
-    auto& r = e.righe;
-    const auto cinque = [](auto x) { return fmt::format("{:>5}", x); };
-    r.push_back(" Casi rilevati   : " + cinque(f.rilevati));
-    std::string riga = " Casi favorevoli : " + cinque(f.favorevoli);
-    if (f.rilevati > 0) riga += " (" + Percentuale(f.favorevoli, f.rilevati) + " %)";
-    r.push_back(riga);
-    riga = " Casi negativi   : " + cinque(f.negativi);
-    if (f.rilevati > 0) riga += " (" + Percentuale(f.negativi, f.rilevati) + " %)";
-    r.push_back(riga);
-    riga = " Casi in gioco   : " + cinque(f.inGioco);
-    if (f.sfaldati > 0) riga += fmt::format(" ({} già sfaldato/i)", f.sfaldati);
-    r.push_back(riga);
-    r.push_back(std::string(RigaSorte(p)) + cinque(f.favorevoli));
-    // No hit: no mean wait, and no failure.
-    riga = " Attesa media    : ";
-    if (f.favorevoli > 0)
-        riga += config::AllineaDestra(config::Formato(static_cast<double>(f.sommaColpi) / f.favorevoli, "#0.0"), 5) +
-                " colpi";
-    r.push_back(riga);
-    return e;
-}
-
-// ---------------------------------------------------------------- statistics
-
-StatisticheGioco StatisticheRuoteGioco(const archives::StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco,
-                                       int32_t primoPeriodo) {
-    StatisticheGioco st;
-    const int32_t n = storia.NumeroEstrazioni();
-    st.numeroEstrazioni = n;
-    const size_t coppie = 91 * 91;
-    st.frequenza2.assign(coppie, 0);
-    st.ritardo2.assign(coppie, 0);
-    st.ritardoMax2.assign(coppie, 0);
-    st.ultimaUscita2.assign(coppie, 0);
-    std::vector<int> ruote;
-    for (int w = 1; w <= archives::NumeroRuote; ++w)
-        if (ruoteGioco[static_cast<size_t>(w)]) ruote.push_back(w);
-    const auto segna = [&](int32_t i, bool periodo, int32_t& freq, int32_t& rmax, int32_t& ultima) {
-        if (periodo) ++freq;
-        if (ultima == 0)
-            rmax = i - PrimaEstrazioneStatistiche;
-        else
-            rmax = std::max(rmax, i - ultima - 1);
-        ultima = i;
-    };
-    for (int32_t i = PrimaEstrazioneStatistiche; i <= n; ++i) {
-        const bool periodo = i >= primoPeriodo;
-        if (periodo) ++st.estrazioni;
-        const archives::RecordEstrazione& e = storia[i];
-        for (int w : ruote) {
-            const uint8_t* x = e.Ruota[w - 1];
-            for (int p = 0; p < 5; ++p)
-                segna(i, periodo, st.frequenza[x[p]], st.ritardoMax[x[p]], st.ultimaUscita[x[p]]);
-            for (int p = 0; p < 4; ++p)
-                for (int q = p + 1; q < 5; ++q) {
-                    const size_t ab = StatisticheGioco::Indice(x[p], x[q]), ba = StatisticheGioco::Indice(x[q], x[p]);
-                    segna(i, periodo, st.frequenza2[ab], st.ritardoMax2[ab], st.ultimaUscita2[ab]);
-                    if (ba != ab) {
-                        st.frequenza2[ba] = st.frequenza2[ab];
-                        st.ritardoMax2[ba] = st.ritardoMax2[ab];
-                        st.ultimaUscita2[ba] = st.ultimaUscita2[ab];
-                    }
-                }
-        }
-    }
-    // A number never out is as late as the draws before the period; a pair, as the period.
-    for (size_t k = 0; k <= 90; ++k)
-        st.ritardo[k] = st.ultimaUscita[k] == 0 ? n - st.estrazioni : n - st.ultimaUscita[k];
-    for (size_t k = 0; k < coppie; ++k)
-        st.ritardo2[k] = st.ultimaUscita2[k] == 0 ? st.estrazioni : n - st.ultimaUscita2[k];
-    return st;
-}
-
-// ---------------------------------------------------------------- forecasts
-
-std::string TitoloPrevisioni(const ParametriRicerca& p) {
-    std::string t = "Calcolo previsioni degli algoritmi selezionati: " +
-                    std::string(NomeTipoRicerca(p.tipoRicerca, p.tipoSpia));
-    if (p.tipoRicerca == TipoRicerca::Codici) t += p.sorte == 3 ? " (terni)" : " (ambi)";
-    return t;
-}
-
-namespace {
-
-std::string Quattro(int32_t x) { return fmt::format("{:>4}", x); }
-
-std::string IndiceConvenienza(int32_t frequenza, int32_t estrazioni, int32_t ritardo) {
-    if (estrazioni <= 0) return "N.D.";
-    return config::Formato(static_cast<double>(frequenza) / estrazioni * ritardo, "0.00");
-}
-
-}  // namespace
-
-EsitoPrevisioni CalcolaPrevisioni(const ParametriRicerca& p, const ContestoRicerca& contesto,
-                                  const std::vector<RigaAlgoritmo>& righe) {
-    EsitoPrevisioni e;
-    if (righe.empty()) return e;
-    const Preparazione prep = Prepara(p, contesto);
-    if (!prep.v.errore.vuoto()) {
-        e.errore = prep.v.errore;
-        return e;
-    }
-    const bool terno = p.tipoRicerca == TipoRicerca::TerzineTerno;
-    const bool nonDisponibile = terno || (p.tipoRicerca == TipoRicerca::Codici && p.sorte == 3);
-    StatisticheGioco st;
-    if (!terno) st = StatisticheRuoteGioco(*contesto.storia, prep.v.ruoteGioco, prep.v.primo);
-
-    for (const RigaAlgoritmo& riga : righe) {
-        if (!riga.selezionata) continue;
-        if (!e.aperta) {
-            e.aperta = true;
-            e.titolo = TitoloPrevisioni(p);
-        }
-        const EsitoVerifica v =
-            Verifica(prep, riga.descrizione, riga.chiave, riga.testoSpia, false, p.colpiDaGiocare, false);
-        if (!v.errore.vuoto()) continue;  // a fault of one row does not stop the others
-        RigaPrevisione r;
-        r.descrizione = riga.descrizione;
-        r.previsione = v.lblCapo;
-        std::vector<int> x;
-        if (!v.lblCapo.empty()) {
-            std::string_view t = v.lblCapo;
-            for (size_t inizio = 0;;) {
-                const size_t meno = t.find('-', inizio);
-                x.push_back(Valore(t.substr(inizio, meno == std::string_view::npos ? t.npos : meno - inizio)));
-                if (meno == std::string_view::npos) break;
-                inizio = meno + 1;
-            }
-        }
-        const bool fuori = std::any_of(x.begin(), x.end(), [](int a) { return a < 0 || a > 90; });
-        if (nonDisponibile || fuori) {
-            r.ritardo = r.ritardoMax = r.frequenza = "N.D.";
-            r.conIndice = !nonDisponibile;
-            if (r.conIndice) r.indiceConvenienza = "N.D.";
-        } else if (x.size() == 1) {
-            const auto a = static_cast<size_t>(x[0]);
-            r.ritardo = Quattro(st.ritardo[a]);
-            r.ritardoMax = Quattro(st.ritardoMax[a]);
-            r.frequenza = Quattro(st.frequenza[a]);
-            r.indiceConvenienza = IndiceConvenienza(st.frequenza[a], st.estrazioni, st.ritardo[a]);
-        } else if (x.size() == 2) {
-            r.ritardo = Quattro(st.Ritardo2(x[0], x[1]));
-            r.ritardoMax = Quattro(st.RitardoMax2(x[0], x[1]));
-            r.frequenza = Quattro(st.Frequenza2(x[0], x[1]));
-            r.indiceConvenienza = IndiceConvenienza(st.Frequenza2(x[0], x[1]), st.estrazioni, st.Ritardo2(x[0], x[1]));
-        } else if (x.size() == 3) {
-            int32_t ritardo = 0, ritardoMax = 10000, somma = 0;
-            bool primo = true;
-            for (auto [a, b] : {std::pair{x[0], x[1]}, std::pair{x[0], x[2]}, std::pair{x[1], x[2]}}) {
-                ritardo = primo ? st.Ritardo2(a, b) : std::min(ritardo, st.Ritardo2(a, b));
-                primo = false;
-                ritardoMax = std::min(ritardoMax, st.RitardoMax2(a, b));
-                somma += st.Frequenza2(a, b);
-            }
-            r.ritardo = Quattro(ritardo);
-            r.ritardoMax = ritardoMax < 10000 ? Quattro(ritardoMax) : std::string("   -");
-            r.frequenza = Quattro(somma);
-            r.indiceConvenienza = somma == 0 ? std::string("N.D.") : IndiceConvenienza(somma, st.estrazioni, ritardo);
-        }
-        e.righe.push_back(std::move(r));
-    }
-    if (!e.aperta) e.errore = Avviso(NessunAlgoritmoSelezionato, TitoloErrore);
-    return e;
 }
 
 }  // namespace gorgo::builder

@@ -1,7 +1,6 @@
 #pragma once
-// The replay of one algorithm through the history (VerificaAlgoritmo), the selection of the
-// running algorithms, the recap of a verified algorithm, the statistics of the play wheels
-// and the forecasts of the selected algorithms.
+// The replay of one algorithm through the history (VerificaAlgoritmo) and the selection of
+// the running algorithms.
 
 #include <array>
 #include <cstdint>
@@ -13,6 +12,7 @@
 #include "archives/messaggio.h"
 #include "archives/storia.h"
 #include "builder/modello.h"
+#include "builder/chiavi.h"
 #include "builder/parametri.h"
 #include "builder/ricerca.h"
 
@@ -28,8 +28,6 @@ inline constexpr std::string_view TestoNessuno = "Nessuno";
 inline constexpr uint32_t ColoreVerdeScuro = 32768;  // lblCapo with a running forecast
 inline constexpr uint32_t ColoreRossoScuro = 128;    // lblCapo without one
 inline constexpr uint32_t ColoreInCorso = 255;       // columns 7, 8, 10 of a running case, bold
-
-inline constexpr int32_t PrimaEstrazioneStatistiche = 3914;
 
 // One row of lvListaPrevisioni: a case without hit, or one hit of a case.
 struct RigaVerifica {
@@ -84,72 +82,5 @@ std::vector<int> SelezionaInCorso(const ParametriRicerca& parametri, const Conte
 // key cannot be read. Codes need the reduced triples for their numbers.
 std::string DescrizioneDaChiave(std::string_view chiave, const ParametriRicerca& parametri,
                                 const TerzineRidotte* terzine);
-
-// ---- recap ----
-
-struct FigureRiepilogo {
-    int rilevati = 0, favorevoli = 0, negativi = 0, inGioco = 0, sfaldati = 0;
-    long long sommaColpi = 0;
-};
-
-struct EsitoRiepilogo {
-    archives::Messaggio errore;                // ColpiMancanti
-    FigureRiepilogo figure;
-    std::vector<std::string> testa;  // the head block of frmReportGorgo
-    std::vector<std::string> righe;  // " Casi rilevati   : " ... " Attesa media    : "
-};
-
-// The figures alone, over the rows of a visible verification; `fine` is txtDataFine's index.
-FigureRiepilogo FigureTecnica(const std::vector<RigaVerifica>& righe, int32_t fine, int colpi);
-
-EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& parametri, const ContestoRicerca& contesto,
-                                const EsitoVerifica& verifica, std::string_view descrizione,
-                                std::string_view chiave);
-
-// ---- statistics of the play wheels ----
-
-struct StatisticheGioco {
-    int32_t estrazioni = 0;
-    int32_t numeroEstrazioni = 0;
-    std::array<int32_t, 91> frequenza{}, ritardo{}, ritardoMax{}, ultimaUscita{};
-    // 91 x 91, symmetric: [a * 91 + b].
-    std::vector<int32_t> frequenza2, ritardo2, ritardoMax2, ultimaUscita2;
-
-    static constexpr size_t Indice(int a, int b) { return static_cast<size_t>(a) * 91 + static_cast<size_t>(b); }
-    int32_t Frequenza2(int a, int b) const { return frequenza2[Indice(a, b)]; }
-    int32_t Ritardo2(int a, int b) const { return ritardo2[Indice(a, b)]; }
-    int32_t RitardoMax2(int a, int b) const { return ritardoMax2[Indice(a, b)]; }
-    int32_t UltimaUscita2(int a, int b) const { return ultimaUscita2[Indice(a, b)]; }
-};
-
-// From PrimaEstrazioneStatistiche to the archive's end; `ruoteGioco` flags wheels 1..11
-// (index 0 unused); `primoPeriodo` the first draw of the period.
-StatisticheGioco StatisticheRuoteGioco(const archives::StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco,
-                                       int32_t primoPeriodo);
-
-// ---- forecasts ----
-
-// One row of lvConvergenze.
-struct RigaPrevisione {
-    std::string descrizione;  // column 0
-    std::string previsione;   // column 1: lblCapo
-    std::string ritardo, ritardoMax, frequenza;  // columns 2..4, or "N.D."
-    std::string indiceConvenienza;               // column 5; empty for "Terzine x terno"
-    bool conIndice = true;                       // false: there is no column 5
-};
-
-struct EsitoPrevisioni {
-    archives::Messaggio errore;    // NessunAlgoritmoSelezionato under TitoloErrore
-    std::string titolo;  // "Calcolo previsioni degli algoritmi selezionati: " + the kind
-    std::vector<RigaPrevisione> righe;
-    bool aperta = false;  // frmAlgoritmiCalcolati opened (at least one checked row)
-};
-
-// The title of frmAlgoritmiCalcolati for the parameters.
-std::string TitoloPrevisioni(const ParametriRicerca& parametri);
-
-// Over the checked rows of `righe`; nothing at all when `righe` is empty.
-EsitoPrevisioni CalcolaPrevisioni(const ParametriRicerca& parametri, const ContestoRicerca& contesto,
-                                  const std::vector<RigaAlgoritmo>& righe);
 
 }  // namespace gorgo::builder

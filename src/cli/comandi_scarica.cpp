@@ -78,37 +78,28 @@ void AggiornaDaInternet(const Contesto& ctx, const ArgomentiScarica& a) {
     const network::RisultatoScaricamento r = Scarica(indirizzo, a.secondi, network::Scaricatore::LimitePredefinito);
     j["stato_http"] = r.statoHttp;
     j["byte"] = r.corpo.size();
-    const m::ValutazioneScaricamento v = m::ValutaScaricamento(r.PerIlNucleo(), gioco, copia);
-    if (v.esito != m::EsitoScaricamento::Pronto)
-        RifiutaScarica(ctx, j, v.messaggio.vuoto() ? archives::Messaggio{v.stato, "Errore", archives::Icona::Stop} : v.messaggio, v.dettaglio);
-
-    // The copy is kept only for a download that passed, so a refusal leaves the folder alone.
-    const std::string_view dati(r.corpo.constData(), static_cast<size_t>(r.corpo.size()));
-    const m::ControlloAggiornamento c = m::ControllaAggiornamento(archivio, dati, gioco, copia.string());
+    // The command line answers the question Yes: asking for the update is the confirmation.
+    const m::EsitoInternet e =
+        m::AggiornamentoInternet(archivio, r.PerIlNucleo(), gioco, copia, m::RispostaAllineamento::Si);
+    if (e.erroreCopia) throw Rifiuto{e.messaggio, ErroreInterno};
+    if (e.scaricamento.esito != m::EsitoScaricamento::Pronto)
+        RifiutaScarica(ctx, j, e.messaggio.vuoto() ? archives::Messaggio{e.testoStato, "Errore", archives::Icona::Stop} : e.messaggio,
+                       e.dettaglio);
     j["copia_locale"] = copia.string();
-    j["ultima_file"] = c.ultimaData;
-    switch (c.stato) {
-        case m::StatoAggiornamento::Pronto: break;
-        case m::StatoAggiornamento::NienteDiNuovo: {
-            if (const std::error_code e = m::ScriviCopiaLocale(copia, r.PerIlNucleo().corpo))
-                throw Rifiuto{m::MessaggioCopiaLocale(copia, e), ErroreInterno};
-            j["esito"] = "nessun_aggiornamento";
-            j["messaggio"] = m::TestoNienteDiNuovo;
-            j["aggiunte"] = 0;
-            Stampa(ctx, j, std::string(m::TestoNienteDiNuovo));
-            return;
-        }
-        default: RifiutaScarica(ctx, j, c.messaggio, c.dettaglio);
+    j["ultima_file"] = e.controllo.ultimaData;
+    if (e.stato == m::StatoInternet::NienteDiNuovo) {
+        j["esito"] = "nessun_aggiornamento";
+        j["messaggio"] = m::TestoNienteDiNuovo;
+        j["aggiunte"] = 0;
+        Stampa(ctx, j, std::string(m::TestoNienteDiNuovo));
+        return;
     }
-    if (const std::error_code e = m::ScriviCopiaLocale(copia, r.PerIlNucleo().corpo))
-        throw Rifiuto{m::MessaggioCopiaLocale(copia, e), ErroreInterno};
-    const m::EsitoAggiornamento e = m::ApplicaAggiornamento(archivio, dati, gioco, copia.string());
-    if (!e.riuscito) RifiutaScarica(ctx, j, e.messaggio, e.controllo.dettaglio);
+    if (e.stato != m::StatoInternet::Aggiornato) RifiutaScarica(ctx, j, e.messaggio, e.dettaglio);
     j["esito"] = "aggiornato";
     j["messaggio"] = e.messaggio.testo;
-    j["aggiunte"] = e.aggiunte;
-    j["anni_aggiunti"] = e.anniAggiunti;
-    j["ultima"] = e.ultimaData;
+    j["aggiunte"] = e.aggiornamento.aggiunte;
+    j["anni_aggiunti"] = e.aggiornamento.anniAggiunti;
+    j["ultima"] = e.aggiornamento.ultimaData;
     j["estrazioni"] = gioco == m::Gioco::Lotto ? archivio.NumeroEstrazioni() : archivio.NumeroEstrazioniSuper();
     Stampa(ctx, j, e.messaggio.testo);
 }

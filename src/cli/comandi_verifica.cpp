@@ -4,7 +4,10 @@
 #include <fmt/format.h>
 #include <iostream>
 
+#include "builder/chiavi.h"
+#include "builder/previsioni.h"
 #include "builder/report.h"
+#include "builder/riepilogo.h"
 #include "builder/verifica.h"
 #include "cli/contesto.h"
 #include "cli/parametri_ricerca.h"
@@ -58,10 +61,8 @@ Preparati Prepara(const Contesto& ctx, const ArgomentiVerifica& a) {
     const config::FileIni ini(ctx.FileImpostazioni().string());
     builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
     p.colpiDaGiocare = a.colpiDaGiocare;
-    builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
     // The period and the spy are refused as the search refuses them.
-    const builder::RicercaValidata v = builder::ValidaRicerca(p, *cc.storia);
-    if (!v.errore.vuoto()) throw Rifiuto{v.errore};
+    builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
     for (const std::string& k : a.chiavi) ControllaChiave(k, p, cc);
     return {std::move(archivio), p, std::move(cc)};
 }

@@ -138,11 +138,9 @@ builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio,
                                              const ArgomentiRicerca& a, const builder::ParametriRicerca& p) {
     builder::ContestoCostruttore cc = builder::PreparaCostruttore(
         archivio.Storia(), ini, archivio.PercorsoProgramma(), a.terzine.empty() ? std::nullopt : std::optional(a.terzine));
-    if (p.tipoRicerca == builder::TipoRicerca::Codici && !cc.terzine.valido)
-        throw Rifiuto{cc.terzine.messaggio.vuoto()
-                          ? archives::Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " + cc.fileTerzine,
-                                      "Errore", archives::Icona::Esclamazione}
-                          : cc.terzine.messaggio};
+    if (const builder::RicercaValidata v = builder::ValidaRicerca(p, *cc.storia, &cc.terzine, cc.fileTerzine);
+        !v.errore.vuoto())
+        throw Rifiuto{v.errore};
     return cc;
 }
 

@@ -26,7 +26,8 @@ void AggiungiOpzioniRicerca(CLI::App* comando, ArgomentiRicerca& a);
 // not hold (an unknown wheel, a position outside 1..5, a malformed ambo or month index).
 builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const config::FileIni& ini);
 
-// The builder's context for a search of that kind; refuses the codes without their file.
+// The builder's context for a search, with the parameters validated against it (the codes
+// without their file included); a refusal is thrown as the search gives it.
 builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio, const config::FileIni& ini,
                                              const ArgomentiRicerca& a, const builder::ParametriRicerca& p);
 

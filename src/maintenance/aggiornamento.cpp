@@ -1,12 +1,10 @@
 #include "maintenance/aggiornamento.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <fstream>
-#include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
 
@@ -15,78 +13,6 @@ namespace gorgo::maintenance {
 namespace fs = std::filesystem;
 
 namespace {
-
-// An archive file opened on its own descriptor: the writers append whole blocks and flush,
-// without going through the record-at-a-time path of Archivio.
-class FileDiretto {
-public:
-    FileDiretto(fs::path percorso, int flags) : percorso_(std::move(percorso)) {
-        do {
-            fd_ = ::open(percorso_.c_str(), flags | O_CLOEXEC, 0644);
-        } while (fd_ < 0 && errno == EINTR);
-        if (fd_ < 0) Errore("aprire");
-    }
-    ~FileDiretto() {
-        if (fd_ >= 0) ::close(fd_);
-    }
-    FileDiretto(const FileDiretto&) = delete;
-    FileDiretto& operator=(const FileDiretto&) = delete;
-
-    uint64_t lunghezza() const {
-        struct stat st {};
-        if (::fstat(fd_, &st) != 0) Errore("leggere la lunghezza di");
-        return static_cast<uint64_t>(st.st_size);
-    }
-    std::string leggi(uint64_t offset, size_t n) const {
-        std::string s(n, '\0');
-        size_t fatto = 0;
-        while (fatto < n) {
-            const ssize_t r = ::pread(fd_, s.data() + fatto, n - fatto, static_cast<off_t>(offset + fatto));
-            if (r < 0 && errno == EINTR) continue;
-            if (r < 0) Errore("leggere");
-            if (r == 0) break;
-            fatto += static_cast<size_t>(r);
-        }
-        s.resize(fatto);
-        return s;
-    }
-    void scrivi(uint64_t offset, std::string_view dati) {
-        size_t fatto = 0;
-        while (fatto < dati.size()) {
-            const ssize_t r =
-                ::pwrite(fd_, dati.data() + fatto, dati.size() - fatto, static_cast<off_t>(offset + fatto));
-            if (r < 0 && errno == EINTR) continue;
-            if (r <= 0) Errore("scrivere");
-            fatto += static_cast<size_t>(r);
-        }
-    }
-    void sincronizza() {
-        if (::fdatasync(fd_) != 0) Errore("scrivere");
-    }
-    void tronca(uint64_t lunghezza) {
-        if (::ftruncate(fd_, static_cast<off_t>(lunghezza)) != 0) Errore("troncare");
-        sincronizza();
-    }
-    // Puts the file back to `lunghezza` bytes ending with `coda` (a partial record that an
-    // append had overwritten); never throws, since it runs while another error is on its way.
-    void ripristina(uint64_t lunghezza, const std::string& coda) noexcept {
-        try {
-            tronca(lunghezza - coda.size());
-            if (!coda.empty()) scrivi(lunghezza - coda.size(), coda);
-            sincronizza();
-        } catch (...) {
-        }
-    }
-
-private:
-    [[noreturn]] void Errore(const char* azione) const {
-        throw archives::ErroreArchivio(fmt::format("Impossibile {} il file {} : {}", azione, percorso_.string(),
-                                         std::strerror(errno)));
-    }
-
-    fs::path percorso_;
-    int fd_ = -1;
-};
 
 template <typename Record>
 std::string_view Byte(const Record& r) {
@@ -314,16 +240,13 @@ EsitoAggiornamento ApplicaFileAggiornamento(archives::Archivio& archivio, const 
 int32_t AccodaEstrazioni(archives::Archivio& archivio, std::span<const archives::RecordEstrazione> nuove) {
     if (nuove.empty()) return 0;
     const fs::path cartella = archivio.CartellaArchivi();
-    FileDiretto estrazioni(cartella / "Estrazioni.ind", O_RDWR);
-    FileDiretto anni(cartella / "anni.ind", O_RDWR);
+    archives::FileRecord estrazioni(cartella / "Estrazioni.ind", O_RDWR);
+    archives::FileRecord anni(cartella / "anni.ind", O_RDWR);
 
-    // A partial trailing record is overwritten, as the system's append does; keep it to put
-    // it back should the write fail.
+    // A partial trailing record is overwritten, as the system's append does.
     const uint64_t lunghezzaE = estrazioni.lunghezza(), lunghezzaA = anni.lunghezza();
     const uint64_t baseE = lunghezzaE / archives::LunghezzaRecordEstrazione * archives::LunghezzaRecordEstrazione;
     const uint64_t baseA = lunghezzaA / archives::LunghezzaRecordAnno * archives::LunghezzaRecordAnno;
-    const std::string codaE = estrazioni.leggi(baseE, static_cast<size_t>(lunghezzaE - baseE));
-    const std::string codaA = anni.leggi(baseA, static_cast<size_t>(lunghezzaA - baseA));
 
     const int32_t primo = static_cast<int32_t>(baseE / archives::LunghezzaRecordEstrazione) + 1;
     std::vector<archives::RecordAnno> nuoviAnni;
@@ -347,8 +270,8 @@ int32_t AccodaEstrazioni(archives::Archivio& archivio, std::span<const archives:
                 throw archives::ErroreArchivio("La lunghezza di anni.ind dopo la scrittura non è quella attesa");
         }
     } catch (...) {
-        anni.ripristina(lunghezzaA, codaA);
-        estrazioni.ripristina(lunghezzaE, codaE);
+        anni.ripristina(lunghezzaA, archives::LunghezzaRecordAnno);
+        estrazioni.ripristina(lunghezzaE, archives::LunghezzaRecordEstrazione);
         archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
         throw;
     }
@@ -358,17 +281,16 @@ int32_t AccodaEstrazioni(archives::Archivio& archivio, std::span<const archives:
 
 void AccodaEstrazioniSuper(archives::Archivio& archivio, std::span<const archives::RecordSuperEnalotto> nuove) {
     if (nuove.empty()) return;
-    FileDiretto super(archivio.CartellaArchivi() / "SuperEnalotto.ind", O_RDWR);
+    archives::FileRecord super(archivio.CartellaArchivi() / "SuperEnalotto.ind", O_RDWR);
     const uint64_t lunghezza = super.lunghezza();
     const uint64_t base = lunghezza / archives::LunghezzaRecordSuper * archives::LunghezzaRecordSuper;
-    const std::string coda = super.leggi(base, static_cast<size_t>(lunghezza - base));
     try {
         super.scrivi(base, Byte(nuove));
         super.sincronizza();
         if (super.lunghezza() != base + nuove.size_bytes())
             throw archives::ErroreArchivio("La lunghezza di SuperEnalotto.ind dopo la scrittura non è quella attesa");
     } catch (...) {
-        super.ripristina(lunghezza, coda);
+        super.ripristina(lunghezza, archives::LunghezzaRecordSuper);
         archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
         throw;
     }
@@ -381,7 +303,7 @@ void ScriviFileSostituendo(const fs::path& file, std::string_view contenuto) {
         cartella / fmt::format(".{}.{}.tmp", file.filename().string(), static_cast<long>(::getpid()));
     try {
         {
-            FileDiretto f(temporaneo, O_WRONLY | O_CREAT | O_TRUNC);
+            archives::FileRecord f(temporaneo, O_WRONLY | O_CREAT | O_TRUNC);
             f.scrivi(0, contenuto);
             f.sincronizza();
         }
@@ -447,7 +369,7 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         if (!fs::exists(p, ec)) return 0;
         const uint64_t l = lunghezza(p);
         if (l % dimensione == 0) return 0;
-        FileDiretto f(p, O_RDWR);
+        archives::FileRecord f(p, O_RDWR);
         f.tronca(l - l % dimensione);
         return l % dimensione;
     };
@@ -459,7 +381,7 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         const int32_t n = static_cast<int32_t>(lunghezza(pE) / archives::LunghezzaRecordEstrazione);
         std::vector<archives::RecordAnno> anni(lunghezza(pA) / archives::LunghezzaRecordAnno);
         if (!anni.empty()) {
-            const std::string b = FileDiretto(pA, O_RDONLY).leggi(0, anni.size() * sizeof(archives::RecordAnno));
+            const std::string b = archives::FileRecord(pA, O_RDONLY).leggi(0, anni.size() * sizeof(archives::RecordAnno));
             std::memcpy(anni.data(), b.data(), b.size());
         }
         // Years that point past the draws: the draws of an interrupted write were taken back.
@@ -477,7 +399,7 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         }
         std::vector<archives::RecordAnno> aggiunti;
         if (n >= da) {
-            FileDiretto f(pE, O_RDONLY);
+            archives::FileRecord f(pE, O_RDONLY);
             const std::string b = f.leggi(static_cast<uint64_t>(da - 1) * archives::LunghezzaRecordEstrazione,
                                           static_cast<size_t>(n - da + 1) * archives::LunghezzaRecordEstrazione);
             for (int32_t i = da; i <= n && coerente; ++i) {
@@ -497,7 +419,7 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         }
         if (!coerente) aggiunti.clear();
         if (validi < anni.size() || !aggiunti.empty()) {
-            FileDiretto f(pA, O_RDWR);
+            archives::FileRecord f(pA, O_RDWR);
             if (validi < anni.size()) {
                 r.byteTroncatiAnni += (anni.size() - validi) * sizeof(archives::RecordAnno);
                 f.tronca(validi * sizeof(archives::RecordAnno));

@@ -215,6 +215,67 @@ ControlloStorico ControllaScaricamentoStorico(const Scaricamento& s) {
     return c;
 }
 
+EsitoInternet AggiornamentoInternet(archives::Archivio& archivio, const Scaricamento& s, Gioco gioco,
+                                    const fs::path& copiaLocale, RispostaAllineamento risposta) {
+    EsitoInternet e;
+    e.scaricamento = ValutaScaricamento(s, gioco, copiaLocale);
+    // The copy is replaced before any message, as the system does: a refused page stays on
+    // disk until the next download.
+    if (e.scaricamento.scriviCopiaLocale) {
+        e.erroreCopia = ScriviCopiaLocale(copiaLocale, s.corpo);
+        if (e.erroreCopia) {
+            e.messaggio = MessaggioCopiaLocale(copiaLocale, e.erroreCopia);
+            return e;
+        }
+    }
+    if (e.scaricamento.esito != EsitoScaricamento::Pronto) {
+        e.testoStato = e.scaricamento.stato;
+        e.messaggio = e.scaricamento.messaggio;
+        e.dettaglio = e.scaricamento.dettaglio;
+        return e;
+    }
+    const std::string_view dati(reinterpret_cast<const char*>(s.corpo.data()), s.corpo.size());
+    EsitoInternet d = AggiornamentoDaCopiaLocale(archivio, dati, gioco, copiaLocale, risposta);
+    d.scaricamento = std::move(e.scaricamento);
+    return d;
+}
+
+EsitoInternet AggiornamentoDaCopiaLocale(archives::Archivio& archivio, std::string_view dati, Gioco gioco,
+                                         const fs::path& copiaLocale, RispostaAllineamento risposta) {
+    EsitoInternet e;
+    e.scaricamento.esito = EsitoScaricamento::Pronto;
+    e.testoStato = testi::FineConnessione;
+    e.controllo = ControllaAggiornamento(archivio, dati, gioco, copiaLocale.string());
+    switch (e.controllo.stato) {
+        case StatoAggiornamento::Pronto: break;
+        case StatoAggiornamento::NienteDiNuovo:
+            e.stato = StatoInternet::NienteDiNuovo;
+            e.messaggio = MessaggioNienteDiNuovo();
+            return e;
+        default:
+            e.messaggio = e.controllo.messaggio;
+            e.dettaglio = e.controllo.dettaglio;
+            return e;
+    }
+    if (risposta == RispostaAllineamento::DaChiedere) {
+        e.stato = StatoInternet::Domanda;
+        e.messaggio = DomandaAllineamento(gioco, e.controllo.ultimaData);
+        return e;
+    }
+    if (risposta == RispostaAllineamento::No) {
+        e.stato = StatoInternet::NonConfermato;
+        return e;
+    }
+    e.aggiornamento = ApplicaAggiornamento(archivio, dati, gioco, copiaLocale.string());
+    e.messaggio = e.aggiornamento.messaggio;
+    if (!e.aggiornamento.riuscito) {
+        e.dettaglio = e.aggiornamento.controllo.dettaglio;
+        return e;
+    }
+    e.stato = StatoInternet::Aggiornato;
+    return e;
+}
+
 std::string MessaggioErroreSuper(int numero, std::string_view testo, int passaggio, const fs::path& copiaLocale,
                                  std::uintmax_t dimensione) {
     return fmt::format(

@@ -141,6 +141,46 @@ inline constexpr std::string_view TitoloStorico = "Archivio storico";
 inline constexpr std::string_view TestoStoricoNonImpostato =
     "L'indirizzo dell'archivio storico (UrlStorico) non è impostato";
 
+// ---- the sequence after the fetch, shared by the screens and the command line ----
+
+// The answer to DomandaAllineamento: not asked yet, Yes, No.
+enum class RispostaAllineamento { DaChiedere, Si, No };
+
+enum class StatoInternet {
+    Rifiutato,      // stopped before the archive: `testoStato`, `messaggio` and `dettaglio` say why
+    NienteDiNuovo,  // the copy ends at or before the archive's last draw: `messaggio`
+    Domanda,        // `messaggio` is DomandaAllineamento (Yes/No): call again with the answer
+    NonConfermato,  // answered No: nothing written
+    Aggiornato,     // `aggiornamento` holds what was appended; `messaggio` its end message
+};
+
+struct EsitoInternet {
+    StatoInternet stato = StatoInternet::Rifiutato;
+    // The check of the download; esito Pronto when the body went on to the dates.
+    ValutazioneScaricamento scaricamento;
+    // The local copy could not be written (nothing else was done): MessaggioCopiaLocale.
+    std::error_code erroreCopia;
+    ControlloAggiornamento controllo;  // the date checks of the copy
+    EsitoAggiornamento aggiornamento;  // with Aggiornato, or a refusal of the update itself
+    // The new text of lblStatus, empty to leave it; what to show; what failed, in detail.
+    std::string testoStato;
+    archives::Messaggio messaggio;
+    std::string dettaglio;
+};
+
+// The Internet update after the fetch, in the system's order: a body too short is a failed
+// connection; otherwise the local copy is replaced by the body, then the sieve, the status of
+// the answer and the record size decide; the copy goes on to the date checks (discontinuity,
+// nothing new), the question, and on Yes the update. Throws ErroreArchivio on an
+// input/output failure of the archive.
+EsitoInternet AggiornamentoInternet(archives::Archivio& archivio, const Scaricamento& s, Gioco gioco,
+                                    const std::filesystem::path& copiaLocale,
+                                    RispostaAllineamento risposta = RispostaAllineamento::DaChiedere);
+// The same from the date checks on, for the bytes of the local copy (cmdApri).
+EsitoInternet AggiornamentoDaCopiaLocale(archives::Archivio& archivio, std::string_view dati, Gioco gioco,
+                                         const std::filesystem::path& copiaLocale,
+                                         RispostaAllineamento risposta = RispostaAllineamento::DaChiedere);
+
 // An error while fetching on the SuperEnalotto screen: its number and text, the step
 // reached, the local copy and its size.
 std::string MessaggioErroreSuper(int numero, std::string_view testo, int passaggio,

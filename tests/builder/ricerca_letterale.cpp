@@ -17,6 +17,9 @@
 #include <fmt/format.h>
 
 #include "archives/record.h"
+#include "builder/chiavi.h"
+#include "builder/indice_mensile.h"
+#include "builder/terzine.h"
 #include "config/restrizioni.h"
 
 namespace gorgo::builder {

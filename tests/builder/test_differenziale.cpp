@@ -8,7 +8,9 @@
 
 #include "archives/archivio.h"
 #include "archives/demo.h"
+#include "builder/indice_mensile.h"
 #include "builder/ricerca.h"
+#include "builder/terzine.h"
 #include "ricerca_letterale.h"
 #include "support/archivi_reali.h"
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "archives/storia.h"
+#include "builder/indice_mensile.h"
 #include "builder/modello.h"
 #include "builder/parametri.h"
 #include "ricerca_letterale.h"

@@ -4,7 +4,9 @@
 #include <random>
 #include <set>
 
+#include "builder/chiavi.h"
 #include "builder/modello.h"
+#include "builder/terzine.h"
 #include "support/cartelle.h"
 
 namespace gorgo::builder {

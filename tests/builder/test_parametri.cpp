@@ -4,7 +4,9 @@
 
 #include "archives/demo.h"
 #include "archives/regole.h"
+#include "builder/indice_mensile.h"
 #include "builder/parametri.h"
+#include "builder/terzine.h"
 
 namespace gorgo::builder {
 namespace {
@@ -117,6 +119,33 @@ TEST(ParametriValidazione, OrdineDeiPassi) {
         guasta(q);
         EXPECT_EQ(ValidaRicerca(q, s).errore.testo, "Parametri di ricerca non validi !");
     }
+}
+
+// The codes without their triples are refused before every other step, whatever the spy, with
+// the load's own message when it gave one; a caller that judges no file is not refused.
+TEST(ParametriValidazione, CodiciSenzaTerzine) {
+    const archives::StoriaLotto& s = Demo();
+    ParametriRicerca p;
+    p.tipoRicerca = TipoRicerca::Codici;
+    p.colpi = 0;  // a later step that fails too
+    EsitoTerzine mancante;
+    for (TipoSpia spia : {TipoSpia::Numero, TipoSpia::Ambo}) {
+        p.tipoSpia = spia;
+        const auto r = ValidaRicerca(p, s, &mancante, "/x/Terzine.txt");
+        EXPECT_EQ(r.errore.testo, "Codici non disponibili: manca il file delle terzine ridotte /x/Terzine.txt");
+        EXPECT_EQ(r.errore.titolo, "Errore");
+        EXPECT_EQ(r.errore.icona, archives::Icona::Esclamazione);
+    }
+    p.tipoSpia = TipoSpia::Numero;
+    EsitoTerzine guasto;
+    guasto.messaggio = {" File terzine non valido!", "", archives::Icona::Stop};
+    EXPECT_EQ(ValidaRicerca(p, s, &guasto, "t.txt").errore.testo, " File terzine non valido!");
+    EXPECT_EQ(ValidaRicerca(p, s).errore.testo, "Inserire il n. di colpi di gioco !");
+    EsitoTerzine buono;
+    buono.valido = true;
+    EXPECT_EQ(ValidaRicerca(p, s, &buono, "t.txt").errore.testo, "Inserire il n. di colpi di gioco !");
+    p.tipoRicerca = TipoRicerca::TerzineTerno;
+    EXPECT_EQ(ValidaRicerca(p, s, &mancante, "t.txt").errore.testo, "Inserire il n. di colpi di gioco !");
 }
 
 TEST(ParametriValidazione, PeriodoDateEUltimeEstrazioni) {

@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "archives/demo.h"
+#include "builder/indice_mensile.h"
 #include "builder/ricerca.h"
 
 namespace gorgo::builder {

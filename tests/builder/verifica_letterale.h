@@ -7,6 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "builder/riepilogo.h"
+#include "builder/statistiche.h"
 #include "builder/verifica.h"
 
 namespace gorgo::builder::letterale {

@@ -292,6 +292,47 @@ TEST_F(Internet, CopiaLocaleSostituitaPerIntero) {
               "internet!\nNome file: /g/AggiornamentoSuperEnalotto.bin\nDimensioni file: 4000");
 }
 
+// The engine of both faces: the question comes back as a result; No writes nothing, Yes
+// appends; a refused page replaces the local copy all the same.
+TEST_F(Internet, LaDomandaTornaComeRisultatoEPoiLaRisposta) {
+    const auto reale = test::CartellaReale();
+    agg_ = Aggiornamenti();
+    if (!reale || !agg_) GTEST_SKIP() << "archivi reali assenti";
+    cartella_ = c_ / "motore";
+    test::CopiaArchiviReali(*reale, cartella_);
+    const fs::path copia = CopiaLocale(cartella_, Gioco::Lotto);
+    const std::string buono = LeggiFile(*agg_ / "AggiornamentoPz.bin");
+    const std::string prima = Archivi(cartella_);
+    archives::Archivio a = archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura);
+
+    const std::string pagina = "<html>404</html>" + Riempimento(200);
+    EsitoInternet e = AggiornamentoInternet(a, Completo(pagina), Gioco::Lotto, copia, RispostaAllineamento::Si);
+    EXPECT_EQ(e.stato, StatoInternet::Rifiutato);
+    EXPECT_EQ(e.messaggio.testo, testi::NonTrovatoSulServer);
+    EXPECT_EQ(LeggiFile(copia), pagina);
+    e = AggiornamentoInternet(a, Completo(Riempimento(100)), Gioco::Lotto, copia);
+    EXPECT_EQ(e.testoStato, testi::ErroreConnessione);
+    EXPECT_EQ(LeggiFile(copia), pagina);
+
+    e = AggiornamentoInternet(a, Completo(buono), Gioco::Lotto, copia);
+    ASSERT_EQ(e.stato, StatoInternet::Domanda) << e.messaggio.testo;
+    EXPECT_EQ(e.messaggio.testo, DomandaAllineamento(Gioco::Lotto, "21/08/2026").testo);
+    EXPECT_EQ(e.testoStato, testi::FineConnessione);
+    EXPECT_EQ(LeggiFile(copia), buono);
+    EXPECT_EQ(AggiornamentoInternet(a, Completo(buono), Gioco::Lotto, copia, RispostaAllineamento::No).stato,
+              StatoInternet::NonConfermato);
+    EXPECT_EQ(Archivi(cartella_), prima);
+
+    e = AggiornamentoDaCopiaLocale(a, buono, Gioco::Lotto, copia, RispostaAllineamento::Si);
+    ASSERT_EQ(e.stato, StatoInternet::Aggiornato) << e.messaggio.testo;
+    EXPECT_EQ(e.aggiornamento.aggiunte, 134);
+    EXPECT_EQ(e.messaggio.testo, "Aggiornamento archivi al 21/08/2026 effettuato");
+    EXPECT_EQ(a.NumeroEstrazioni(), 10913);
+    e = AggiornamentoInternet(a, Completo(buono), Gioco::Lotto, copia);
+    EXPECT_EQ(e.stato, StatoInternet::NienteDiNuovo);
+    EXPECT_EQ(e.messaggio.testo, TestoNienteDiNuovo);
+}
+
 TEST_F(Internet, ControlloDellArchivioStoricoScaricato) {
     CartellaTemporanea c;
     const std::string testo = "2026/01/02\tBA\t1\t2\t3\t4\t5\n";
@@ -494,13 +535,21 @@ TEST_F(Internet, ScaricaRifiutiLascianoLArchivioComEraPoiIlFileBuonoAggiorna) {
     for (const Caso& c : casi) {
         server_.Imposta(c.percorso + "AggiornamentoPz.bin", c.risposta);
         Url("Url", server_.Indirizzo(c.percorso));
+        fs::remove(cartella_ / "AggiornamentoPz.bin");
         const Esito e = Su({"scarica"});
         EXPECT_EQ(e.codice, 2) << c.percorso << "\n" << e.out << e.err;
         EXPECT_NE(e.err.find(c.messaggio), std::string::npos) << c.percorso << ": " << e.err;
         EXPECT_NE(e.err.find(c.dettaglio), std::string::npos) << c.percorso << ": " << e.err;
         EXPECT_EQ(Archivi(cartella_), prima) << c.percorso;
-        // A refused download leaves no local copy either.
-        EXPECT_FALSE(fs::exists(cartella_ / "AggiornamentoPz.bin")) << c.percorso;
+        // Any whole body long enough replaces the local copy before the sieve, as on the screen;
+        // one cut short or too short leaves none.
+        const bool copia = c.percorso != "/troncato/" && c.percorso != "/corto/";
+        EXPECT_EQ(fs::exists(cartella_ / "AggiornamentoPz.bin"), copia) << c.percorso;
+        if (copia) {
+            EXPECT_EQ(LeggiFile(cartella_ / "AggiornamentoPz.bin"),
+                      c.risposta.dati.substr(c.risposta.dati.find("\r\n\r\n") + 4))
+                << c.percorso;
+        }
     }
     // The same refusal as JSON for scripts.
     Url("Url", server_.Indirizzo("/manca/"));

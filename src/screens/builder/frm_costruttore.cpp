@@ -576,19 +576,10 @@ void FrmCostruttore::SvuotaRisultati() {
 
 void FrmCostruttore::Calcola() {
     if (elaborazione_) return;
-    if (contesto_->terzine.valido == false && Parametri().tipoRicerca == builder::TipoRicerca::Codici &&
-        Parametri().tipoSpia != builder::TipoSpia::Ambo) {
-        MostraMessaggio(this, contesto_->terzine.messaggio.vuoto()
-                                  ? archives::Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " +
-                                                  contesto_->fileTerzine,
-                                              "Errore", archives::Icona::Esclamazione}
-                                  : contesto_->terzine.messaggio);
-        return;
-    }
     SvuotaRisultati();
     const builder::ParametriRicerca p = Parametri();
     // Validation first, on this thread: a refusal shows its message and focuses its control.
-    const builder::RicercaValidata v = builder::ValidaRicerca(p, *contesto_->storia);
+    const builder::RicercaValidata v = builder::ValidaRicerca(p, *contesto_->storia, &contesto_->terzine, contesto_->fileTerzine);
     if (!v.errore.vuoto()) {
         MostraMessaggio(this, v.errore);
         if (QWidget* w = findChild<QWidget*>(QString::fromStdString(v.focus))) w->setFocus();

@@ -7,6 +7,7 @@
 #include <QWidget>
 #include <vector>
 
+#include "builder/previsioni.h"
 #include "builder/verifica.h"
 #include "config/report_testo.h"
 

@@ -190,24 +190,35 @@ void FrmAggiornaInternetBase::FineScaricamento() {
     const network::RisultatoScaricamento& r = scaricatore_->Risultato();
     const m::Scaricamento s = r.PerIlNucleo();
     const std::filesystem::path copia = CopiaLocale();
-    const m::ValutazioneScaricamento v = m::ValutaScaricamento(s, gioco_, copia);
-    if (v.scriviCopiaLocale) {
-        if (const std::error_code e = m::ScriviCopiaLocale(copia, s.corpo)) {
+    archives::Archivio* a = Ambiente().archivio.get();
+    try {
+        if (!a) throw archives::ErroreArchivio("archivio non aperto");
+        const auto passo = [&](m::RispostaAllineamento risposta) {
+            return m::AggiornamentoInternet(*a, s, gioco_, copia, risposta);
+        };
+        const m::EsitoInternet e = passo(m::RispostaAllineamento::DaChiedere);
+        if (e.erroreCopia) {
             if (gioco_ == m::Gioco::SuperEnalotto)
-                MostraMessaggio(this, {m::MessaggioErroreSuper(e.value(), "Impossibile scrivere il file", 7, copia,
-                                                               static_cast<std::uintmax_t>(s.corpo.size())),
+                MostraMessaggio(this, {m::MessaggioErroreSuper(e.erroreCopia.value(), "Impossibile scrivere il file", 7,
+                                                               copia, static_cast<std::uintmax_t>(s.corpo.size())),
                                        "Errore", archives::Icona::Stop});
             else
-                MostraMessaggio(this, m::MessaggioCopiaLocale(copia, e));
+                MostraMessaggio(this, e.messaggio);
             return;
         }
+        if (e.scaricamento.esito != m::EsitoScaricamento::Pronto) {
+            if (!e.testoStato.empty())
+                ImpostaStato(e.testoStato, e.dettaglio);
+            else
+                lblStatus_->setToolTip(Q(e.dettaglio));
+            if (!e.messaggio.vuoto()) MostraMessaggio(this, e.messaggio);
+            return;
+        }
+        Prosegui(e, passo);
+    } catch (const std::exception&) {
+        ImpostaStato(std::string(m::testi::ErroreAperturaStato));
+        MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", archives::Icona::Stop});
     }
-    if (!v.stato.empty())
-        ImpostaStato(v.stato, v.dettaglio);
-    else
-        lblStatus_->setToolTip(Q(v.dettaglio));
-    if (!v.messaggio.vuoto()) MostraMessaggio(this, v.messaggio);
-    if (v.esito == m::EsitoScaricamento::Pronto) Apri();
 }
 
 void FrmAggiornaInternetBase::Apri() {
@@ -222,25 +233,47 @@ void FrmAggiornaInternetBase::Apri() {
             MostraMessaggio(this, m::ErrFile(copia.string()));
             return;
         }
-        const archives::Archivio* a = Ambiente().archivio.get();
+        archives::Archivio* a = Ambiente().archivio.get();
         if (!a) throw archives::ErroreArchivio("archivio non aperto");
-        const m::ControlloAggiornamento c = m::ControllaAggiornamento(*a, *dati, gioco_, copia.string());
-        switch (c.stato) {
-            case m::StatoAggiornamento::Pronto: break;
-            case m::StatoAggiornamento::NienteDiNuovo: MostraMessaggio(this, m::MessaggioNienteDiNuovo()); return;
-            default: MostraMessaggio(this, c.messaggio); return;
-        }
-        cmdAggiorna_->setEnabled(true);
-        if (Chiedi(this, m::DomandaAllineamento(gioco_, c.ultimaData), QMessageBox::Yes | QMessageBox::No,
-                   QMessageBox::Yes) != QMessageBox::Yes)
-            return;
-        ImpostaStato(std::string(m::testi::FineConnessione));
+        const auto passo = [&](m::RispostaAllineamento risposta) {
+            return m::AggiornamentoDaCopiaLocale(*a, *dati, gioco_, copia, risposta);
+        };
+        Prosegui(passo(m::RispostaAllineamento::DaChiedere), passo);
     } catch (const std::exception&) {
         ImpostaStato(std::string(m::testi::ErroreAperturaStato));
         MostraMessaggio(this, {std::string(m::testi::ErroreApertura), "Errore", archives::Icona::Stop});
-        return;
     }
-    Aggiorna();
+}
+
+template <typename Ancora>
+void FrmAggiornaInternetBase::Prosegui(m::EsitoInternet e, Ancora ancora) {
+    ImpostaStato(e.testoStato);
+    if (e.stato == m::StatoInternet::Domanda) {
+        cmdAggiorna_->setEnabled(true);
+        const bool si = Chiedi(this, e.messaggio, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;
+        if (si) ImpostaStato(std::string(m::testi::FineConnessione));
+        try {
+            e = ancora(si ? m::RispostaAllineamento::Si : m::RispostaAllineamento::No);
+        } catch (...) {
+            cmdAggiorna_->setEnabled(false);
+            throw;
+        }
+    }
+    switch (e.stato) {
+        case m::StatoInternet::Domanda:
+        case m::StatoInternet::NonConfermato: return;
+        case m::StatoInternet::NienteDiNuovo: MostraMessaggio(this, e.messaggio); return;
+        case m::StatoInternet::Rifiutato:
+            // A refusal of the update itself, after the Yes, takes the button back.
+            if (!e.aggiornamento.messaggio.vuoto()) cmdAggiorna_->setEnabled(false);
+            MostraMessaggio(this, e.messaggio);
+            return;
+        case m::StatoInternet::Aggiornato: break;
+    }
+    MostraUltima();
+    if (e.aggiornamento.aggiunte > 0) emit archivioAggiornato();
+    MostraMessaggio(this, e.messaggio);
+    close();
 }
 
 void FrmAggiornaInternetBase::Aggiorna() {

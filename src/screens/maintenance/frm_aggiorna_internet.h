@@ -11,6 +11,7 @@
 #include <string>
 
 #include "maintenance/aggiornamento.h"
+#include "maintenance/internet.h"
 
 namespace gorgo::network {
 class Scaricatore;
@@ -43,6 +44,10 @@ private:
     void FineScaricamento();
     void MostraUltima();
     void ImpostaStato(const std::string& testo, const std::string& dettaglio = {});
+    // Shows what the update's engine returned from the date checks on; asks its question and
+    // calls it again with the answer through `ancora`.
+    template <typename Ancora>
+    void Prosegui(maintenance::EsitoInternet e, Ancora ancora);
     std::filesystem::path CopiaLocale() const;
 
     maintenance::Gioco gioco_;
