@@ -12,8 +12,8 @@
 #include <fmt/format.h>
 
 #include "builder/report.h"
+#include "archives/archivio.h"
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
 #include "screens/common/twips.h"
 #include "screens/builder/satelliti.h"
 #include "screens/common/elaborazioni.h"
@@ -49,18 +49,18 @@ constexpr const char* kTipiRicercaAmbo[] = {"Ambate", "Ambi (posiz. q.e.)"};
 
 }  // namespace
 
-FrmCostruttore::FrmCostruttore(QWidget* parent) : QWidget(parent, Qt::Window) {
+FrmCostruttore::FrmCostruttore(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent)
+    : QWidget(parent, Qt::Window), sessione_(sessione) {
     setObjectName("frmCostruttore");
     setWindowTitle(QStringLiteral("Gorgo 2 - Ideato da Sergio Tordelli"));
     setAttribute(Qt::WA_DeleteOnClose);
-    AmbienteApp& a = Ambiente();
     contesto_ = std::make_unique<builder::ContestoCostruttore>(
-        builder::PreparaCostruttore(a.archivio->Storia(), a.ini, a.PercorsoProgramma));
+        builder::PreparaCostruttore(archivio.Storia(), sessione_.ini, sessione_.PercorsoProgramma));
     CreaControlli();
     AggiornaPerSpia();
     AggiornaPerTipoRicerca();
-    ApplicaStile(this, a.ini);
-    RipristinaPosizione(this, "GorgoLeft", "GorgoTop");
+    ApplicaStile(this, sessione_.ini);
+    RipristinaPosizione(this, sessione_.ini, "GorgoLeft", "GorgoTop");
 }
 
 FrmCostruttore::~FrmCostruttore() = default;
@@ -68,7 +68,6 @@ FrmCostruttore::~FrmCostruttore() = default;
 bool FrmCostruttore::InElaborazione() const { return elaborazione_; }
 
 void FrmCostruttore::CreaControlli() {
-    const AmbienteApp& a = Ambiente();
     const archives::StoriaLotto& storia = *contesto_->storia;
     auto* principale = new QHBoxLayout(this);
     auto* sinistra = new QVBoxLayout;
@@ -190,9 +189,9 @@ void FrmCostruttore::CreaControlli() {
     fraRuote->setObjectName("fraRuote");
     auto* gr = new QGridLayout(fraRuote);
     const config::CaselleRuote ricerca = config::CaricaRuoteConNz(config::LeggiImpostazione(
-        a.ini, config::sezioni::Settings, "RuoteConNz", config::Predefinito(config::sezioni::Settings, "RuoteConNz")));
+        sessione_.ini, config::sezioni::Settings, "RuoteConNz", config::Predefinito(config::sezioni::Settings, "RuoteConNz")));
     const config::CaselleRuote gioco = config::CaricaRuoteGioco(config::LeggiImpostazione(
-        a.ini, config::sezioni::Settings, "RuoteConNzGioco",
+        sessione_.ini, config::sezioni::Settings, "RuoteConNzGioco",
         config::Predefinito(config::sezioni::Settings, "RuoteConNzGioco")));
     caricamento_ = true;
     for (int w = 0; w <= 11; ++w) {
@@ -553,7 +552,7 @@ void FrmCostruttore::ClicRuota(int indice, bool gioco) {
     caricamento_ = true;
     for (int w = 0; w <= 11; ++w) caselle[static_cast<size_t>(w)]->setChecked(stato[static_cast<size_t>(w)]);
     caricamento_ = false;
-    config::ScriviImpostazione(Ambiente().ini, config::sezioni::Settings, gioco ? "RuoteConNzGioco" : "RuoteConNz",
+    config::ScriviImpostazione(sessione_.ini, config::sezioni::Settings, gioco ? "RuoteConNzGioco" : "RuoteConNz",
                                lettere);
     SvuotaRisultati();
 }
@@ -600,7 +599,7 @@ void FrmCostruttore::Calcola() {
     const bool seleziona = chkSeleziona_->isChecked();
     parametriEsito_ = p;
     Elaborazione::Avvia(
-        this, QStringLiteral("Analisi algoritmi..."),
+        this, sessione_, QStringLiteral("Analisi algoritmi..."),
         [p, ctx, seleziona, risultato](std::stop_token stop, const Progresso& progresso) {
             builder::Avanzamento av{stop, progresso};
             *risultato = builder::CercaAlgoritmi(p, ctx, av, seleziona);
@@ -651,7 +650,7 @@ void FrmCostruttore::closeEvent(QCloseEvent* e) {
         e->ignore();
         return;
     }
-    SalvaPosizione(this, "GorgoLeft", "GorgoTop");
+    SalvaPosizione(this, sessione_.ini, "GorgoLeft", "GorgoTop");
     e->accept();
 }
 
@@ -670,7 +669,7 @@ void FrmCostruttore::StampaAlgoritmi() {
 void FrmCostruttore::FileAlgoritmi() {
     if (esito_.righe.empty()) return;
     const config::ReportTesto r = builder::ReportAlgoritmi(parametriEsito_, esito_, *contesto_->storia);
-    SalvaReportSuFile(this, r.righe(), Q(builder::NomeReportAlgoritmi), DomandaFile::InCalce);
+    SalvaReportSuFile(this, sessione_, r.righe(), Q(builder::NomeReportAlgoritmi), DomandaFile::InCalce);
 }
 
 namespace {
@@ -753,7 +752,7 @@ void FrmCostruttore::Riepilogo() {
     }
     std::vector<std::string> righe = r.testa;
     righe.insert(righe.end(), r.righe.begin(), r.righe.end());
-    auto* f = new FrmReportGorgo(this, righe);
+    auto* f = new FrmReportGorgo(sessione_, this, righe);
     f->show();
 }
 
@@ -776,14 +775,14 @@ void FrmCostruttore::CalcolaPrevisioni() {
         return;
     }
     if (!e.aperta) return;
-    auto* f = new FrmAlgoritmiCalcolati(this, e, builder::StampaPrevisioniRighe(p, e, *contesto_->storia),
+    auto* f = new FrmAlgoritmiCalcolati(sessione_, this, e, builder::StampaPrevisioniRighe(p, e, *contesto_->storia),
                                         builder::ReportPrevisioni(p, e, *contesto_->storia));
     f->show();
 }
 
 void FrmCostruttore::ListaSortite() {
     if (esito_.casi.empty()) return;
-    auto* f = new FrmListaSortite(this, esito_.casi, TestaSpia());
+    auto* f = new FrmListaSortite(sessione_.ini, this, esito_.casi, TestaSpia());
     f->show();
 }
 
@@ -802,7 +801,8 @@ void FrmCostruttore::StampaVerifica() {
 void FrmCostruttore::FileVerifica() {
     if (verifica_.righe.empty() || rigaAperta_ < 0) return;
     const builder::RigaAlgoritmo& riga = esito_.righe[static_cast<size_t>(rigaAperta_)];
-    SalvaReportSuFile(this, builder::ReportVerifica(parametriEsito_, verifica_, riga.descrizione, *contesto_->storia).righe(),
+    SalvaReportSuFile(this, sessione_,
+                      builder::ReportVerifica(parametriEsito_, verifica_, riga.descrizione, *contesto_->storia).righe(),
                       QStringLiteral("RisultatiAlgoritmo"), DomandaFile::InCalce);
 }
 

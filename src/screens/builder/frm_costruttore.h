@@ -18,13 +18,18 @@
 #include "builder/contesto.h"
 #include "builder/ricerca.h"
 #include "builder/verifica.h"
+#include "screens/common/sessione.h"
+
+namespace gorgo::archives {
+class Archivio;
+}
 
 namespace gorgo::screens {
 
 class FrmCostruttore : public QWidget {
     Q_OBJECT
 public:
-    explicit FrmCostruttore(QWidget* parent = nullptr);
+    FrmCostruttore(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent = nullptr);
     ~FrmCostruttore() override;
 
     // The parameter record as the controls set it.
@@ -57,6 +62,7 @@ private:
     void FileVerifica();
     QString TestaSpia() const;
 
+    Sessione& sessione_;
     std::unique_ptr<builder::ContestoCostruttore> contesto_;
     builder::EsitoRicerca esito_;
     builder::ParametriRicerca parametriEsito_;  // the parameters the shown results belong to

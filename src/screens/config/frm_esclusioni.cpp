@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
 
@@ -19,7 +19,7 @@ namespace {
 
 }  // namespace
 
-FrmEsclusioni::FrmEsclusioni(QWidget* parent) : QDialog(parent) {
+FrmEsclusioni::FrmEsclusioni(config::FileIni& ini, QWidget* parent) : QDialog(parent), ini_(ini) {
     setObjectName("frmEsclusioni");
     setWindowTitle(QStringLiteral("Opzioni"));
     setModal(true);
@@ -43,10 +43,10 @@ FrmEsclusioni::FrmEsclusioni(QWidget* parent) : QDialog(parent) {
     connect(cmdOk, &QPushButton::clicked, this, &FrmEsclusioni::Conferma);
     connect(cmdAnnulla, &QPushButton::clicked, this, &FrmEsclusioni::reject);
 
-    const auto s = config::CaricaGiorniEstrazione(Ambiente().ini);
+    const auto s = config::CaricaGiorniEstrazione(ini_);
     for (std::size_t g = 1; g <= 7; ++g) chkDay_[g]->setChecked(s.chkDay[g]);
     chkLoadTipsAtStartup_->setChecked(s.chkLoadTipsAtStartup);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, ini_);
 }
 
 config::ScelteEsclusioni FrmEsclusioni::Scelte() const {
@@ -57,7 +57,7 @@ config::ScelteEsclusioni FrmEsclusioni::Scelte() const {
 }
 
 void FrmEsclusioni::Conferma() {
-    const archives::Messaggio errore = config::SalvaGiorniEstrazione(Ambiente().ini, Scelte());
+    const archives::Messaggio errore = config::SalvaGiorniEstrazione(ini_, Scelte());
     if (!errore.vuoto()) {
         MostraMessaggio(this, errore);
         return;

@@ -13,7 +13,7 @@
 #include <string>
 
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/twips.h"
 #include "screens/common/caselle.h"
 #include "screens/common/aiuto.h"
@@ -29,7 +29,7 @@ constexpr std::string_view Schermo = "frmOpzioni";
 
 }  // namespace
 
-FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
+FrmOpzioni::FrmOpzioni(config::FileIni& ini, QWidget* parent) : QDialog(parent), ini_(ini) {
     setObjectName(QString::fromLatin1(Schermo.data(), static_cast<qsizetype>(Schermo.size())));
     setWindowTitle(QStringLiteral("Restrizioni di ricerca"));
     setModal(true);
@@ -90,12 +90,12 @@ FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
     connect(chkPeriodo_, &QCheckBox::toggled, this, &FrmOpzioni::AggiornaGruppi);
     connect(cmdOk, &QPushButton::clicked, this, &FrmOpzioni::Conferma);
     connect(cmdAnnulla, &QPushButton::clicked, this, &FrmOpzioni::reject);
-    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoOpzioni); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, ini_, AiutoOpzioni); });
 
-    Carica(config::CaricaScelteRestrizioni(Ambiente().ini));
-    ApplicaStile(this, Ambiente().ini);
+    Carica(config::CaricaScelteRestrizioni(ini_));
+    ApplicaStile(this, ini_);
 
-    RipristinaPosizione(this, "OpzioniLeft", "OpzioniTop");
+    RipristinaPosizione(this, ini_, "OpzioniLeft", "OpzioniTop");
 }
 
 config::ScelteRestrizioni FrmOpzioni::Scelte() const {
@@ -135,7 +135,7 @@ void FrmOpzioni::AggiornaGruppi() {
 }
 
 void FrmOpzioni::Conferma() {
-    const auto esito = config::SalvaRestrizioni(Ambiente().ini, Scelte());
+    const auto esito = config::SalvaRestrizioni(ini_, Scelte());
     for (std::size_t i = 0; i < 2; ++i)
         if (esito.cboGiorno[i] >= 1 && esito.cboGiorno[i] <= 31) cboGiorno_[i]->setCurrentIndex(esito.cboGiorno[i] - 1);
     if (!esito.errore.vuoto()) {
@@ -147,7 +147,7 @@ void FrmOpzioni::Conferma() {
 }
 
 void FrmOpzioni::done(int risultato) {
-    SalvaPosizione(this, "OpzioniLeft", "OpzioniTop");
+    SalvaPosizione(this, ini_, "OpzioniLeft", "OpzioniTop");
     QDialog::done(risultato);
 }
 

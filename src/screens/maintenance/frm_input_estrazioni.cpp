@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/twips.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/messaggi.h"
@@ -43,14 +43,16 @@ QLineEdit* CasellaData(QWidget* parent, const char* nome, const char* suggerimen
 
 }  // namespace
 
-FrmInputEstrazioni::FrmInputEstrazioni(QWidget* parent, GiocoInserimento gioco) : QWidget(parent, Qt::Window) {
+FrmInputEstrazioni::FrmInputEstrazioni(Sessione& sessione, archives::Archivio& archivio, QWidget* parent,
+                                       GiocoInserimento gioco)
+    : QWidget(parent, Qt::Window), sessione_(sessione) {
     const bool lotto = gioco == GiocoInserimento::Lotto;
     setObjectName(lotto ? "frmInputEstrazioni" : "frmInputEstrazioniSuperEnalotto");
     setWindowTitle(Q(lotto ? maintenance::CaptionInserimento : maintenance::CaptionInserimentoSuper));
     setAttribute(Qt::WA_DeleteOnClose);
-    motore_ = std::make_unique<maintenance::Inserimento>(*Ambiente().archivio, gioco);
+    motore_ = std::make_unique<maintenance::Inserimento>(archivio, gioco);
     CreaControlli();
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
     MostraStato();
 }
 
@@ -233,7 +235,7 @@ void FrmInputEstrazioni::CreaControlli() {
         MostraStato();
     });
     connect(cmdEsci_, &QPushButton::clicked, this, [this] { close(); });
-    connect(cmdAiuto_, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoInserimento); });
+    connect(cmdAiuto_, &QPushButton::clicked, this, [this] { HelpContext(this, sessione_.ini, AiutoInserimento); });
 }
 
 void FrmInputEstrazioni::MostraStato() {
@@ -275,7 +277,7 @@ void FrmInputEstrazioni::MostraStato() {
 
 void FrmInputEstrazioni::Nuova() {
     const std::string giorni =
-        config::LeggiImpostazione(Ambiente().ini, config::sezioni::Options, "Giorni estrazione",
+        config::LeggiImpostazione(sessione_.ini, config::sezioni::Options, "Giorni estrazione",
                                   config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
     if (archives::Messaggio m = motore_->Nuova(giorni); !m.vuoto()) {
         MostraMessaggio(this, m);
@@ -378,7 +380,7 @@ void FrmInputEstrazioni::closeEvent(QCloseEvent* e) {
 }
 
 void FrmInputEstrazioni::changeEvent(QEvent* e) {
-    if (e->type() == QEvent::ActivationChange && isActiveWindow()) Ambiente().FormCorrente = this;
+    if (e->type() == QEvent::ActivationChange && isActiveWindow()) sessione_.FormCorrente = this;
     QWidget::changeEvent(e);
 }
 
