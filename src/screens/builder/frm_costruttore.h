@@ -20,6 +20,10 @@
 #include "builder/verifica.h"
 #include "screens/common/sessione.h"
 
+class QGridLayout;
+class QGroupBox;
+class QVBoxLayout;
+
 namespace gorgo::archives {
 class Archivio;
 }
@@ -45,7 +49,15 @@ protected:
     void closeEvent(QCloseEvent* e) override;
 
 private:
+    // The controls, frame by frame.
     void CreaControlli();
+    QGroupBox* CreaFrameSpia();
+    QGroupBox* CreaFramePeriodo();
+    QGroupBox* CreaFrameRuote();
+    QGroupBox* CreaFrameGioco();
+    void CreaRisultati(QVBoxLayout* destra);
+    QGridLayout* CreaComandi();
+    void CollegaSvuotamento();
     void AggiornaPerTipoRicerca();
     void AggiornaPerSpia();
     void SvuotaRisultati();

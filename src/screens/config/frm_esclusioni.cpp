@@ -25,7 +25,8 @@ FrmEsclusioni::FrmEsclusioni(config::FileIni& ini, QWidget* parent) : QDialog(pa
     setModal(true);
 
     auto* principale = new QVBoxLayout(this);
-    principale->addLayout(CreaCaselle(this, QStringLiteral("chkDay"), NomiGiorniCaselle(), 4, chkDay_));
+    principale->addLayout(CreaCaselle<QCheckBox>(this, new QGridLayout, {.perRiga = 4}, QStringLiteral("chkDay"), 1,
+                                                 NomiGiorniCaselle(), std::span(chkDay_).subspan(1)));
     chkLoadTipsAtStartup_ = new QCheckBox(QStringLiteral("&Mostra i suggerimenti all'avvio"), this);
     chkLoadTipsAtStartup_->setObjectName("chkLoadTipsAtStartup");
     principale->addWidget(chkLoadTipsAtStartup_);

@@ -41,13 +41,15 @@ FrmOpzioni::FrmOpzioni(config::FileIni& ini, QWidget* parent) : QDialog(parent),
     chkGiorni_->setToolTip(
         QStringLiteral("Inserisce un periodo di indagine limitato ai giorni della settimana indicati"));
     principale->addWidget(chkGiorni_);
-    principale->addLayout(CreaCaselle(this, QStringLiteral("chkDay"), NomiGiorniCaselle(), 4, chkDay_));
+    principale->addLayout(CreaCaselle<QCheckBox>(this, new QGridLayout, {.perRiga = 4}, QStringLiteral("chkDay"), 1,
+                                                 NomiGiorniCaselle(), std::span(chkDay_).subspan(1)));
 
     chkMesi_ = new QCheckBox(QStringLiteral("Considera solo estrazioni\navvenute nei seguenti mesi:"), this);
     chkMesi_->setObjectName("chkMesi");
     chkMesi_->setToolTip(QStringLiteral("Inserisce un periodo di indagine limitato ai mesi indicati"));
     principale->addWidget(chkMesi_);
-    principale->addLayout(CreaCaselle(this, QStringLiteral("chkMese"), NomiMesiCaselle(), 4, chkMese_));
+    principale->addLayout(CreaCaselle<QCheckBox>(this, new QGridLayout, {.perRiga = 4}, QStringLiteral("chkMese"), 1,
+                                                 NomiMesiCaselle(), std::span(chkMese_).subspan(1)));
 
     chkPeriodo_ = new QCheckBox(QStringLiteral("Considera solo estrazioni avvenute nel seguente periodo:"), this);
     chkPeriodo_->setObjectName("chkPeriodo");

@@ -15,6 +15,9 @@
 #include "maintenance/inserimento.h"
 #include "screens/common/sessione.h"
 
+class QGroupBox;
+class QHBoxLayout;
+
 namespace gorgo::screens {
 
 class FrmInputEstrazioni : public QWidget {
@@ -40,7 +43,14 @@ protected:
     void showEvent(QShowEvent* e) override;
 
 private:
+    // The controls, frame by frame.
     void CreaControlli();
+    QGroupBox* CreaFrameData();
+    QHBoxLayout* CreaScorrimento();
+    QGroupBox* CreaFrameNumeri();
+    QGroupBox* CreaFrameTesto();
+    QHBoxLayout* CreaComandi();
+    void Collega();
     // The engine's state into the controls, with their change handlers silent.
     void MostraStato();
     void Nuova();
