@@ -7,7 +7,7 @@
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
 #include "maintenance/aggiornamento.h"
-#include "screens/common/ambiente.h"
+#include "app/programma.h"
 #include "screens/common/messaggi.h"
 
 namespace gorgo::screens {
@@ -33,9 +33,7 @@ std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorso) 
 }
 
 std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorso, std::unique_ptr<QLockFile>& blocco) {
-    AmbienteApp& a = Ambiente();
-    a.PercorsoProgramma = percorso;
-    a.ini.SetFileName((percorso / "Gorgo.ini").string());
+    auto programma = std::make_unique<Programma>(percorso);
 
     blocco = BloccaIstanza(percorso);
     if (!blocco) {
@@ -48,20 +46,20 @@ std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorso, s
             const maintenance::EsitoRiparazione r = maintenance::RiparaCartellaArchivi(percorso / "Archivi");
             if (r.riparato()) MostraMessaggio(nullptr, {r.descrizione, "Gorgo 2", archives::Icona::Informazione});
         }
-        a.archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(percorso, archives::ModoApertura::Scrittura));
+        programma->archivio =
+            std::make_unique<archives::Archivio>(archives::Archivio::Apri(percorso, archives::ModoApertura::Scrittura));
     } catch (const archives::ErroreArchivio& e) {
         MostraMessaggio(nullptr, {e.what(), "Errore", archives::Icona::Stop});
         return nullptr;
     }
-    if (archives::Messaggio m = archives::ControllaPresenzaArchivi(*a.archivio); !m.vuoto()) {
+    if (archives::Messaggio m = archives::ControllaPresenzaArchivi(*programma->archivio); !m.vuoto()) {
         MostraMessaggio(nullptr, m);
-        a.archivio.reset();
         return nullptr;
     }
-    a.demo = archives::CartellaDemo(percorso);
+    programma->demo = archives::CartellaDemo(percorso);
     // Read at start-up and kept as a key only.
-    (void)config::LeggiBooleano(a.ini, config::sezioni::Settings, "Minimizza", false);
-    return std::make_unique<FrmMain>();
+    (void)config::LeggiBooleano(programma->ini, config::sezioni::Settings, "Minimizza", false);
+    return std::make_unique<FrmMain>(std::move(programma));
 }
 
 }  // namespace gorgo::screens

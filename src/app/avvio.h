@@ -16,8 +16,9 @@ inline constexpr const char* MessaggioIstanzaUnica = "Non è possible avviare pi
 // it. A lock left by a run that crashed does not count.
 std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorsoProgramma);
 
-// Runs the start-up on a program folder. On a refusal the message has been shown and the
-// result is null: the program ends.
+// Runs the start-up on a program folder: the main window it gives owns the settings and
+// the archives for the run. On a refusal the message has been shown and the result is
+// null: the program ends.
 std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorsoProgramma,
                                         std::unique_ptr<QLockFile>& blocco);
 

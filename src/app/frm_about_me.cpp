@@ -7,16 +7,14 @@
 #include <QVBoxLayout>
 #include <fmt/format.h>
 
-#include "screens/common/ambiente.h"
 #include "screens/common/messaggi.h"
 
 namespace gorgo::screens {
 
-QString TestoInfoSistema() {
-    const AmbienteApp& a = Ambiente();
+QString TestoInfoSistema(const Programma& a) {
     std::string testo = fmt::format("Sistema operativo: {}\nQt: {}\nProcessori: {}\nCartella del programma: {}\n",
                                     QSysInfo::prettyProductName().toStdString(), qVersion(),
-                                    QThread::idealThreadCount(), a.PercorsoProgramma.string());
+                                    QThread::idealThreadCount(), a.sessione.PercorsoProgramma.string());
     if (a.archivio) {
         testo += fmt::format("Estrazioni.ind: {} estrazioni ({} byte)\nanni.ind: {} anni ({} byte)\n"
                              "SuperEnalotto.ind: {} estrazioni ({} byte)",
@@ -27,7 +25,7 @@ QString TestoInfoSistema() {
     return QString::fromStdString(testo);
 }
 
-FrmAboutMe::FrmAboutMe(QWidget* parent) : QDialog(parent) {
+FrmAboutMe::FrmAboutMe(const Programma& programma, QWidget* parent) : QDialog(parent) {
     setObjectName("frmAboutMe");
     setWindowTitle(QStringLiteral("Informazioni su Gorgo 2"));
     auto* l = new QVBoxLayout(this);
@@ -51,8 +49,9 @@ FrmAboutMe::FrmAboutMe(QWidget* parent) : QDialog(parent) {
     riga->addWidget(ok);
     l->addLayout(riga);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);
-    connect(info, &QPushButton::clicked, this,
-            [this] { MostraMessaggio(this, {TestoInfoSistema().toStdString(), "Info sistema", archives::Icona::Informazione}); });
+    connect(info, &QPushButton::clicked, this, [this, p = &programma] {
+        MostraMessaggio(this, {TestoInfoSistema(*p).toStdString(), "Info sistema", archives::Icona::Informazione});
+    });
 }
 
 }  // namespace gorgo::screens

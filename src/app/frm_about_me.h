@@ -3,15 +3,17 @@
 
 #include <QDialog>
 
+#include "app/programma.h"
+
 namespace gorgo::screens {
 
 class FrmAboutMe : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmAboutMe(QWidget* parent = nullptr);
+    explicit FrmAboutMe(const Programma& programma, QWidget* parent = nullptr);
 };
 
 // The facts shown by "Info sistema...": system, Qt, cores, program folder, archives.
-QString TestoInfoSistema();
+QString TestoInfoSistema(const Programma& programma);
 
 }  // namespace gorgo::screens

@@ -13,7 +13,6 @@
 
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
-#include "screens/common/ambiente.h"
 #include "app/frm_about_me.h"
 #include "maintenance/importazione.h"
 #include "screens/common/twips.h"
@@ -47,10 +46,12 @@ QString TestoUltima(int numeroAnno, const std::string& data) {
 
 }  // namespace
 
-FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
+FrmMain::FrmMain(std::unique_ptr<Programma> programma, QWidget* parent)
+    : QMainWindow(parent), programma_(std::move(programma)), sessione_(programma_->sessione),
+      archivio_(*programma_->archivio) {
     setObjectName("frmMain");
     QString titolo = QString::fromUtf8(CaptionPrincipale);
-    if (Ambiente().demo) titolo += QStringLiteral(" - ARCHIVIO DIMOSTRATIVO");
+    if (programma_->demo) titolo += QStringLiteral(" - ARCHIVIO DIMOSTRATIVO");
     setWindowTitle(titolo);
     CreaMenu();
     CreaPannello();
@@ -58,11 +59,11 @@ FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
     auto* barra = new QStatusBar(this);
     barra->setObjectName("sbStatusBar");
     setStatusBar(barra);
-    if (Ambiente().demo)
+    if (programma_->demo)
         barra->showMessage(QStringLiteral("Archivio dimostrativo: estrazioni sintetiche, non reali - ") +
-                           QString::fromStdString(Ambiente().PercorsoProgramma.string()));
+                           QString::fromStdString(sessione_.PercorsoProgramma.string()));
     else
-        barra->showMessage(QString::fromStdString(Ambiente().PercorsoProgramma.string()));
+        barra->showMessage(QString::fromStdString(sessione_.PercorsoProgramma.string()));
 
     const QScreen* s = screen();
     setMinimumSize(PixelDaTwips(kLarghezzaMinima, s), PixelDaTwips(kAltezzaMinima, s));
@@ -70,8 +71,14 @@ FrmMain::FrmMain(QWidget* parent) : QMainWindow(parent) {
 
     AggiornaUltimeEstrazioni();
     MostraRestrizioni();
-    ApplicaStile(this, Ambiente().ini);
-    RipristinaPosizione(this, "MainLeft", "MainTop");
+    ApplicaStile(this, sessione_.ini);
+    RipristinaPosizione(this, sessione_.ini, "MainLeft", "MainTop");
+}
+
+FrmMain::~FrmMain() {
+    // The windows opened from this one use the session and the archives it owns: they go first.
+    for (QWidget* w : findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if (w->isWindow()) delete w;
 }
 
 QPushButton* FrmMain::Pulsante(const char* nome, const QString& testo) {
@@ -103,13 +110,13 @@ void FrmMain::CreaMenu() {
          [this] { ApriEstrazioni(FinestraEstrazioni::Inserisci); });
     voce(lotto, "mnuEstrazioniConsulta", QStringLiteral("Consulta"), nullptr);
     voce(lotto, "mnuEstrazioniAggiorna", QStringLiteral("Aggiorna da file..."),
-         [this] { ApriDialogoArchivio(new FrmAggiornamenti(this)); });
+         [this] { ApriDialogoArchivio(new FrmAggiornamenti(sessione_, archivio_, this)); });
     voce(lotto, "mnuEstrazioniAggiornaInt", QStringLiteral("Aggiorna archivi Lotto da Internet..."),
          [this] { ApriAggiornaInternet(false); });
     voce(lotto, "mnuEstrazioniScaricaStorico", QStringLiteral("Scarica archivio storico da Internet..."),
          [this] { ApriScaricaStorico(); });
     voce(lotto, "mnuEstrazioniEsporta", QStringLiteral("Esporta archivio lotto..."),
-         [this] { ApriDialogoArchivio(new FrmEsportazione(this)); });
+         [this] { ApriDialogoArchivio(new FrmEsportazione(sessione_, archivio_, this)); });
     voce(lotto, "mnuEstrazioniImporta", QStringLiteral("Importa archivio da file di testo..."),
          [this] { ImportaArchivioTesto(); });
     voce(lotto, "mnuEstrazioniStampa", QStringLiteral("Stampa..."), [this] { ApriEstrazioni(FinestraEstrazioni::Stampa); });
@@ -124,7 +131,7 @@ void FrmMain::CreaMenu() {
          [this] { ApriEstrazioni(FinestraEstrazioni::InserisciSuper); });
     voce(super, "mnuEstrazioniConsultaSuper", QStringLiteral("Consulta"), nullptr);
     voce(super, "mnuEstrazioniAggiornaSuper", QStringLiteral("Aggiorna da file..."),
-         [this] { ApriDialogoArchivio(new FrmAggiornamentiSuper(this)); });
+         [this] { ApriDialogoArchivio(new FrmAggiornamentiSuper(sessione_, archivio_, this)); });
     voce(super, "mnuEstrazioniAggiornaIntSuper", QStringLiteral("Aggiorna archivi SuperEnalotto da Internet..."),
          [this] { ApriAggiornaInternet(true); });
     voce(super, "mnuEstrazioniStampaSuper", QStringLiteral("Stampa..."),
@@ -254,20 +261,19 @@ void FrmMain::CreaPannello() {
 }
 
 void FrmMain::AggiornaUltimeEstrazioni() {
-    archives::Archivio* a = Ambiente().archivio.get();
-    if (!a) return;
-    if (a->NumeroEstrazioni() > 0) {
-        const archives::RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+    const archives::Archivio& a = archivio_;
+    if (a.NumeroEstrazioni() > 0) {
+        const archives::RecordEstrazione r = a.LeggiEstrazione(a.NumeroEstrazioni());
         lblUltimaEstrazione_[0]->setText(TestoUltima(r.NumeroAnno, r.dataTesto()));
     }
-    if (a->NumeroEstrazioniSuper() > 0) {
-        const archives::RecordSuperEnalotto s = a->LeggiRecordSuper(a->NumeroEstrazioniSuper());
+    if (a.NumeroEstrazioniSuper() > 0) {
+        const archives::RecordSuperEnalotto s = a.LeggiRecordSuper(a.NumeroEstrazioniSuper());
         lblUltimaEstrazione_[1]->setText(TestoUltima(s.NumeroAnno, s.dataTesto()));
     }
 }
 
 void FrmMain::MostraRestrizioni() {
-    const config::StatoPannelloRestrizioni p = config::PannelloRestrizioni(Ambiente().ini);
+    const config::StatoPannelloRestrizioni p = config::PannelloRestrizioni(sessione_.ini);
     lblNessuna_->setVisible(p.nessuna);
     for (size_t i = 0; i < lblRestrizioni_.size(); ++i) lblRestrizioni_[i]->setVisible(p.visibile[i]);
 }
@@ -289,49 +295,49 @@ void FrmMain::changeEvent(QEvent* e) {
     if (e->type() == QEvent::ActivationChange && isActiveWindow()) {
         // An update made in another window shows as soon as the user comes back.
         AggiornaUltimeEstrazioni();
-        Ambiente().FormCorrente = this;
-        ApplicaStile(this, Ambiente().ini);
+        sessione_.FormCorrente = this;
+        ApplicaStile(this, sessione_.ini);
     }
     QMainWindow::changeEvent(e);
 }
 
 void FrmMain::closeEvent(QCloseEvent* e) {
-    if (Ambiente().ElaborazioneInCorso) {
+    if (sessione_.ElaborazioneInCorso) {
         e->ignore();
         return;
     }
     const QWidgetList finestre = QApplication::topLevelWidgets();
     for (auto it = finestre.rbegin(); it != finestre.rend(); ++it)
         if (*it != this && (*it)->isVisible()) (*it)->close();
-    SalvaPosizione(this, "MainLeft", "MainTop");
+    SalvaPosizione(this, sessione_.ini, "MainLeft", "MainTop");
     e->accept();
 }
 
 void FrmMain::ApriOpzioni() {
-    FrmOpzioni dlg(this);
+    FrmOpzioni dlg(sessione_.ini, this);
     connect(&dlg, &FrmOpzioni::restrizioniCambiate, this, [this] { MostraRestrizioni(); });
     dlg.exec();
 }
 
 void FrmMain::ApriEsclusioni() {
-    FrmEsclusioni dlg(this);
+    FrmEsclusioni dlg(sessione_.ini, this);
     dlg.exec();
 }
 
 void FrmMain::ApriColori() {
-    auto* dlg = new FrmColori(this);
+    auto* dlg = new FrmColori(sessione_, &archivio_, this);
     dlg->setAttribute(Qt::WA_DeleteOnClose);
     dlg->show();
 }
 
 void FrmMain::ApriUrl() {
-    FrmUrl dlg(this);
+    FrmUrl dlg(sessione_.ini, this);
     dlg.exec();
 }
 
 void FrmMain::ApriSitoWeb() {
     ApriBrowser(QString::fromStdString(config::LeggiImpostazione(
-        Ambiente().ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
+        sessione_.ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
 }
 
 void FrmMain::ApriCostruttore() {
@@ -342,7 +348,7 @@ void FrmMain::ApriCostruttore() {
         costruttore_->activateWindow();
         return;
     }
-    auto* f = new FrmCostruttore(this);
+    auto* f = new FrmCostruttore(sessione_, archivio_, this);
     costruttore_ = f;
     f->show();
 }
@@ -355,8 +361,9 @@ void FrmMain::ApriAggiornaInternet(bool super) {
         aperta->activateWindow();
         return;
     }
-    FrmAggiornaInternetBase* f = super ? static_cast<FrmAggiornaInternetBase*>(new FrmAggiornaSuperInternet(this))
-                                       : new FrmAggiornaInternet(this);
+    FrmAggiornaInternetBase* f =
+        super ? static_cast<FrmAggiornaInternetBase*>(new FrmAggiornaSuperInternet(sessione_, archivio_, this))
+              : new FrmAggiornaInternet(sessione_, archivio_, this);
     f->setAttribute(Qt::WA_DeleteOnClose);
     connect(f, &FrmAggiornaInternetBase::archivioAggiornato, this, [this] { AggiornaUltimeEstrazioni(); });
     aperta = f;
@@ -370,7 +377,7 @@ void FrmMain::ApriScaricaStorico() {
         scaricaStorico_->activateWindow();
         return;
     }
-    auto* f = new FrmScaricaStorico(this);
+    auto* f = new FrmScaricaStorico(sessione_, archivio_, this);
     f->setAttribute(Qt::WA_DeleteOnClose);
     connect(f, &FrmScaricaStorico::archivioAggiornato, this, [this] { AggiornaUltimeEstrazioni(); });
     scaricaStorico_ = f;
@@ -389,11 +396,11 @@ void FrmMain::ImportaArchivioTesto() {
     const QString file = ScegliFileManutenzione(
         this, ModoSceltaFile::Apri, QStringLiteral("Importa archivio da file di testo"),
         QStringLiteral("Archivio storico (*.txt *.zip)|*.txt;*.zip|Tutti i file (*.*)|*.*"),
-        QString::fromStdString(Ambiente().PercorsoProgramma.string()));
+        QString::fromStdString(sessione_.PercorsoProgramma.string()));
     if (file.isEmpty()) return;
     CMouse mouse;
     const maintenance::EsitoImportazione e =
-        maintenance::ImportaFile(*Ambiente().archivio, file.toStdString(), maintenance::Gioco::Lotto);
+        maintenance::ImportaFile(archivio_, file.toStdString(), maintenance::Gioco::Lotto);
     MostraMessaggio(this, e.messaggio);
     AggiornaUltimeEstrazioni();
 }
@@ -410,20 +417,21 @@ void FrmMain::ApriEstrazioni(FinestraEstrazioni quale) {
     switch (quale) {
         case FinestraEstrazioni::Inserisci:
         case FinestraEstrazioni::InserisciSuper: {
-            auto* input = quale == FinestraEstrazioni::Inserisci ? new FrmInputEstrazioni(this)
-                                                                  : new FrmInputEstrazioniSuperEnalotto(this);
+            auto* input = quale == FinestraEstrazioni::Inserisci
+                              ? new FrmInputEstrazioni(sessione_, archivio_, this)
+                              : new FrmInputEstrazioniSuperEnalotto(sessione_, archivio_, this);
             connect(input, &FrmInputEstrazioni::estrazioneMemorizzata, this, [this] { AggiornaUltimeEstrazioni(); });
             f = input;
             break;
         }
         case FinestraEstrazioni::Stampa:
-            f = new FrmStampaEstrazioni(this);
+            f = new FrmStampaEstrazioni(sessione_, archivio_, this);
             break;
         case FinestraEstrazioni::StampaSuper:
-            f = new FrmStampaEstrazioniSuperEnalotto(this);
+            f = new FrmStampaEstrazioniSuperEnalotto(sessione_, archivio_, this);
             break;
         case FinestraEstrazioni::Stampa10eLotto:
-            f = new FrmStampaEstrazioni10eLotto(this);
+            f = new FrmStampaEstrazioni10eLotto(sessione_, archivio_, this);
             break;
     }
     aperta = f;
@@ -431,7 +439,7 @@ void FrmMain::ApriEstrazioni(FinestraEstrazioni quale) {
 }
 
 void FrmMain::ApriInformazioni() {
-    FrmAboutMe dlg(this);
+    FrmAboutMe dlg(*programma_, this);
     dlg.exec();
 }
 

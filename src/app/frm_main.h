@@ -8,13 +8,20 @@
 #include <QPointer>
 #include <QPushButton>
 #include <array>
+#include <memory>
+
+#include "app/programma.h"
 
 namespace gorgo::screens {
 
 class FrmMain : public QMainWindow {
     Q_OBJECT
 public:
-    explicit FrmMain(QWidget* parent = nullptr);
+    explicit FrmMain(std::unique_ptr<Programma> programma, QWidget* parent = nullptr);
+    ~FrmMain() override;
+
+    // What the program holds for the run: its windows are handed the parts they use.
+    Programma& programma() { return *programma_; }
 
     // Reads the last record of both archives into lblUltimaEstrazione(0) and (1).
     void AggiornaUltimeEstrazioni();
@@ -48,6 +55,9 @@ private:
     void ApriAggiornaInternet(bool super);
     void ApriScaricaStorico();
 
+    std::unique_ptr<Programma> programma_;
+    Sessione& sessione_;
+    archives::Archivio& archivio_;
     std::array<QLabel*, 2> lblUltimaEstrazione_{};
     QPointer<QWidget> costruttore_;
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;

@@ -10,11 +10,13 @@
 #include <fstream>
 #include <gtest/gtest.h>
 
-#include "screens/common/ambiente.h"
+#include "archives/archivio.h"
+#include "config/ini.h"
 #include "screens/common/messaggi.h"
 #include "screens/maintenance/frm_aggiornamenti.h"
 #include "screens/maintenance/frm_esportazione.h"
 #include "screens/common/scelta_file.h"
+#include "screens/common/sessione.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
@@ -44,13 +46,8 @@ protected:
         if (!reale) GTEST_SKIP() << "archivi reali assenti";
         aggiornamenti_ = reale->parent_path() / "aggiornamenti";
         if (!fs::exists(aggiornamenti_ / "AggiornamentoPz.bin")) GTEST_SKIP() << "AggiornamentoPz.bin assente";
-        cartella_ = c_.percorso() / "gorgo";
         test::CopiaArchiviReali(*reale, cartella_);
-        percorsoPrima_ = Ambiente().PercorsoProgramma;
-        iniPrima_ = Ambiente().ini.FileName();
-        Ambiente().PercorsoProgramma = cartella_;
-        Ambiente().ini.SetFileName((cartella_ / "Gorgo.ini").string());
-        Ambiente().archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
+        archivio_ = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
         gestorePrima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
             messaggi_.push_back(m);
             return QMessageBox::Ok;
@@ -67,9 +64,7 @@ protected:
         if (!pronto_) return;
         ScegliFileManutenzione = sceltaPrima_;
         ImpostaGestoreMessaggi(gestorePrima_);
-        Ambiente().archivio.reset();
-        Ambiente().PercorsoProgramma = percorsoPrima_;
-        Ambiente().ini.SetFileName(iniPrima_);
+        archivio_.reset();
         for (QWidget* w : QApplication::topLevelWidgets())
             if (w->objectName() == "frmAiuto") w->close();
     }
@@ -82,8 +77,11 @@ protected:
         QString titolo, filtro;
     };
     CartellaTemporanea c_;
-    fs::path cartella_, aggiornamenti_, percorsoPrima_;
-    std::string iniPrima_;
+    fs::path cartella_ = c_ / "gorgo", aggiornamenti_;
+    // The running program's settings, session and archives, as the main window would hand them.
+    config::FileIni ini_{(cartella_ / "Gorgo.ini").string()};
+    Sessione sessione_{ini_, cartella_};
+    std::unique_ptr<archives::Archivio> archivio_;
     GestoreMessaggi gestorePrima_;
     SceltaFileManutenzione sceltaPrima_;
     QString risposta_;
@@ -93,7 +91,7 @@ protected:
 };
 
 TEST_F(Aggiornamenti, FileCorrottoLacunaNienteDiNuovoEPoiLAggiornamento) {
-    QPointer<FrmAggiornamenti> f = new FrmAggiornamenti;
+    QPointer<FrmAggiornamenti> f = new FrmAggiornamenti(sessione_, *archivio_);
     f->show();
     EXPECT_EQ(f->objectName(), "frmAggiornamenti");
     EXPECT_EQ(f->windowTitle(), "Aggiormanemto estrazioni da file");
@@ -161,9 +159,9 @@ TEST_F(Aggiornamenti, FileCorrottoLacunaNienteDiNuovoEPoiLAggiornamento) {
     EXPECT_EQ(messaggi_[2].titolo, "Aggiornamento archivi");
     EXPECT_EQ(messaggi_[2].icona, archives::Icona::Informazione);
     EXPECT_EQ(segnali, 1);
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10913);
-    EXPECT_EQ(Ambiente().archivio->DataEstrazione(10913), "21/08/2026");
-    EXPECT_TRUE(archives::VerificaIntegrita(*Ambiente().archivio).vuoto());
+    EXPECT_EQ(archivio_->NumeroEstrazioni(), 10913);
+    EXPECT_EQ(archivio_->DataEstrazione(10913), "21/08/2026");
+    EXPECT_TRUE(archives::VerificaIntegrita(*archivio_).vuoto());
     if (f) {
         EXPECT_EQ(Trova<QLabel>(f, "lblAggiunte")->text(), "Estrazioni aggiunte: 134");
         EXPECT_EQ(Trova<QLabel>(f, "lblNumero")->text(), "134");
@@ -174,11 +172,11 @@ TEST_F(Aggiornamenti, FileCorrottoLacunaNienteDiNuovoEPoiLAggiornamento) {
 }
 
 TEST_F(Aggiornamenti, IlPulsanteAggiornaSpentoNonFaNulla) {
-    QPointer<FrmAggiornamenti> f = new FrmAggiornamenti;
+    QPointer<FrmAggiornamenti> f = new FrmAggiornamenti(sessione_, *archivio_);
     QPushButton* cmdAggiorna = Trova<QPushButton>(f, "cmdAggiorna");
     QMetaObject::invokeMethod(cmdAggiorna, "click");  // disabled: no effect
     EXPECT_TRUE(messaggi_.empty());
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10779);
+    EXPECT_EQ(archivio_->NumeroEstrazioni(), 10779);
     // A good file, then a bad one: the good one is forgotten.
     Rispondi(File("AggiornamentoPz.bin"));
     QTest::mouseClick(Trova<QPushButton>(f, "cmdApri"), Qt::LeftButton);
@@ -188,21 +186,21 @@ TEST_F(Aggiornamenti, IlPulsanteAggiornaSpentoNonFaNulla) {
     EXPECT_FALSE(cmdAggiorna->isEnabled());
     ASSERT_EQ(messaggi_.size(), 1u);
     EXPECT_EQ(messaggi_[0].testo, (c_ / "manca.bin").string() + " corrotto o mancante !");
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10779);
+    EXPECT_EQ(archivio_->NumeroEstrazioni(), 10779);
     delete f;
 }
 
 TEST_F(Aggiornamenti, SuperEnalottoConIlSuoFiltroIlSuoMessaggioEIlSuoAiuto) {
     const std::string super = LeggiFile(cartella_ / "Archivi/SuperEnalotto.ind");
-    Ambiente().archivio.reset();
+    archivio_.reset();
     fs::resize_file(cartella_ / "Archivi/SuperEnalotto.ind", super.size() - 3 * 20);
-    Ambiente().archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
+    archivio_ = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
     Scrivi(c_ / "super.bin", super.substr(super.size() - 10 * 20));
 
-    QPointer<FrmAggiornamentiSuper> f = new FrmAggiornamentiSuper;
+    QPointer<FrmAggiornamentiSuper> f = new FrmAggiornamentiSuper(sessione_, *archivio_);
     f->show();
     EXPECT_EQ(f->objectName(), "frmAggiornamentiSuper");
-    const archives::RecordSuperEnalotto ultima = Ambiente().archivio->LeggiRecordSuper(Ambiente().archivio->NumeroEstrazioniSuper());
+    const archives::RecordSuperEnalotto ultima = archivio_->LeggiRecordSuper(archivio_->NumeroEstrazioniSuper());
     EXPECT_EQ(Trova<QLabel>(f, "lblUltima")->text().toStdString(), ultima.dataTesto());
     EXPECT_EQ(Trova<QLabel>(f, "lblNumero")->text().toInt(), ultima.NumeroAnno);
 
@@ -219,20 +217,20 @@ TEST_F(Aggiornamenti, SuperEnalottoConIlSuoFiltroIlSuoMessaggioEIlSuoAiuto) {
     EXPECT_TRUE(f.isNull());
 
     // The help button opens its topic.
-    QPointer<FrmAggiornamentiSuper> g = new FrmAggiornamentiSuper;
+    QPointer<FrmAggiornamentiSuper> g = new FrmAggiornamentiSuper(sessione_, *archivio_);
     QTest::mouseClick(Trova<QPushButton>(g, "cmdHelp"), Qt::LeftButton);
     bool aiuto = false;
     for (QWidget* w : QApplication::topLevelWidgets())
         if (w->objectName() == "frmAiuto" && w->isVisible()) aiuto = true;
     EXPECT_TRUE(aiuto);
     // The Lotto screen has no help button, as the system gives none.
-    FrmAggiornamenti lotto;
+    FrmAggiornamenti lotto(sessione_, *archivio_);
     EXPECT_EQ(lotto.findChild<QPushButton*>("cmdHelp"), nullptr);
     delete g;
 }
 
 TEST_F(Aggiornamenti, EsportazioneDalProgressivo7773ODaUnaData) {
-    QPointer<FrmEsportazione> f = new FrmEsportazione;
+    QPointer<FrmEsportazione> f = new FrmEsportazione(sessione_, *archivio_);
     f->show();
     EXPECT_EQ(f->windowTitle(), "Esportazione archivio lotto");
     EXPECT_EQ(Trova<QLabel>(f, "lblNumero")->text(), "208");
@@ -240,7 +238,7 @@ TEST_F(Aggiornamenti, EsportazioneDalProgressivo7773ODaUnaData) {
     EXPECT_EQ(Trova<QLabel>(f, "lblUltima")->text(), "30/12/2025");
     EXPECT_EQ(Trova<QPushButton>(f, "cmdEsporta")->toolTip(), "Salva il file delle estrazioni");
     QLineEdit* txtDataInizio = Trova<QLineEdit>(f, "txtDataInizio");
-    EXPECT_EQ(txtDataInizio->text().toStdString(), Ambiente().archivio->DataEstrazione(7773));
+    EXPECT_EQ(txtDataInizio->text().toStdString(), archivio_->DataEstrazione(7773));
     const std::string estrazioni = LeggiFile(cartella_ / "Archivi/Estrazioni.ind");
 
     // Cancel; a date that is no date.
@@ -269,7 +267,7 @@ TEST_F(Aggiornamenti, EsportazioneDalProgressivo7773ODaUnaData) {
     EXPECT_TRUE(f.isNull());
 
     // The default start.
-    QPointer<FrmEsportazione> g = new FrmEsportazione;
+    QPointer<FrmEsportazione> g = new FrmEsportazione(sessione_, *archivio_);
     Rispondi(c_ / "tutto.alb");
     QTest::mouseClick(Trova<QPushButton>(g, "cmdEsporta"), Qt::LeftButton);
     EXPECT_EQ(LeggiFile(c_ / "tutto.alb"), estrazioni.substr(7772 * 66));

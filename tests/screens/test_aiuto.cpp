@@ -17,8 +17,9 @@
 #include <vector>
 
 #include "config/cp1252.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/aiuto.h"
+#include "screens/common/sessione.h"
 #include "screens/common/stampa.h"
 #include "support/cartelle.h"
 
@@ -93,20 +94,16 @@ void Scrivi(const fs::path& file, const std::string& byte) {
 
 class Aiuto : public ::testing::Test {
 protected:
-    void SetUp() override {
-        ChiudiTutte();
-        vecchioPercorso_ = gs::Ambiente().PercorsoProgramma;
-        gs::Ambiente().PercorsoProgramma = cartella_.percorso();
-    }
+    void SetUp() override { ChiudiTutte(); }
     void TearDown() override {
         ChiudiTutte();
-        gs::Ambiente().PercorsoProgramma = vecchioPercorso_;
         gs::ScegliFileReport = gs::SceltaFileReportPredefinita();
         gs::ChiediReport = gs::DomandaReportPredefinita();
     }
 
     gorgo::test::CartellaTemporanea cartella_;
-    fs::path vecchioPercorso_;
+    gorgo::config::FileIni ini_;
+    gs::Sessione sessione_{ini_, cartella_.percorso()};
 };
 
 const std::vector<std::string> SezioniSpedite = {gs::SezioneAmboEnucleato, gs::SezioneUtility,
@@ -118,7 +115,7 @@ TEST_F(Aiuto, OgniSezioneSpeditaSiApreConLeSueRighe) {
     ASSERT_TRUE(fs::exists(spedito));
     for (const auto& titolo : SezioniSpedite) {
         SCOPED_TRACE(titolo);
-        gs::MostraAiuto(nullptr, QString::fromStdString(titolo));
+        gs::MostraAiuto(nullptr, sessione_, QString::fromStdString(titolo));
         QWidget* frm = Finestra("frmHelp");
         ASSERT_NE(frm, nullptr);
         QString atteso = QString::fromStdString(titolo);
@@ -139,9 +136,9 @@ TEST_F(Aiuto, OgniSezioneSpeditaSiApreConLeSueRighe) {
 }
 
 TEST_F(Aiuto, UnTitoloCheNonCeNonMostraNulla) {
-    gs::MostraAiuto(nullptr, QStringLiteral("[Sezione inesistente]"));
+    gs::MostraAiuto(nullptr, sessione_, QStringLiteral("[Sezione inesistente]"));
     EXPECT_EQ(Finestra("frmHelp"), nullptr);
-    gs::MostraAiuto(nullptr, QString());
+    gs::MostraAiuto(nullptr, sessione_, QString());
     EXPECT_EQ(Finestra("frmHelp"), nullptr);
 }
 
@@ -158,24 +155,24 @@ TEST_F(Aiuto, IlFileDelProgrammaVincePrimaDiQuelloSpedito) {
            "quattro\r\n"
            "cinque [tra parentesi]\r\n"
            "sei\r\n");
-    gs::MostraAiuto(nullptr, QStringLiteral("[Prima]"));
+    gs::MostraAiuto(nullptr, sessione_, QStringLiteral("[Prima]"));
     QWidget* frm = Finestra("frmHelp");
     ASSERT_NE(frm, nullptr);
     EXPECT_EQ(frm->windowTitle(), "Prima ");
     EXPECT_EQ(VociLista(frm), (QStringList{"uno", "", "  due, con spazi"}));
 
     // The last section goes to the end of the file, whole.
-    gs::MostraAiuto(nullptr, QStringLiteral("[Ultima]"));
+    gs::MostraAiuto(nullptr, sessione_, QStringLiteral("[Ultima]"));
     EXPECT_EQ(VociLista(frm), (QStringList{"quattro", "cinque [tra parentesi]", "sei"}));
 
     // A section of the shipped file is not looked for once the program folder has its own.
-    gs::MostraAiuto(nullptr, QString::fromStdString(gs::SezioneUtility));
+    gs::MostraAiuto(nullptr, sessione_, QString::fromStdString(gs::SezioneUtility));
     EXPECT_EQ(frm->windowTitle(), "Ultima ");
 }
 
 TEST_F(Aiuto, UnFileInWindows1252SiLeggeComeTale) {
     Scrivi(cartella_ / "HelpUtility.txt", gorgo::config::Utf8InCp1252("[Città]\nperché è così: 90°\n"));
-    gs::MostraAiuto(nullptr, QStringLiteral("[Città]"));
+    gs::MostraAiuto(nullptr, sessione_, QStringLiteral("[Città]"));
     QWidget* frm = Finestra("frmHelp");
     ASSERT_NE(frm, nullptr);
     EXPECT_EQ(frm->windowTitle(), QStringLiteral("Città "));
@@ -188,7 +185,7 @@ TEST_F(Aiuto, UnFileInWindows1252SiLeggeComeTale) {
 
 TEST_F(Aiuto, ConLaListaVuotaNonCeNullaDaStampare) {
     Scrivi(cartella_ / "HelpUtility.txt", "[Vuota]\n[Altra]\nriga\n");
-    gs::MostraAiuto(nullptr, QStringLiteral("[Vuota]"));
+    gs::MostraAiuto(nullptr, sessione_, QStringLiteral("[Vuota]"));
     QWidget* frm = Finestra("frmHelp");
     ASSERT_NE(frm, nullptr);
     EXPECT_TRUE(VociLista(frm).isEmpty());
@@ -206,7 +203,7 @@ TEST_F(Aiuto, ConLaListaVuotaNonCeNullaDaStampare) {
 }
 
 TEST_F(Aiuto, StampaApreIlDialogoDiStampa) {
-    gs::MostraAiuto(nullptr, QString::fromStdString(gs::SezioneUtility));
+    gs::MostraAiuto(nullptr, sessione_, QString::fromStdString(gs::SezioneUtility));
     QWidget* frm = Finestra("frmHelp");
     ASSERT_NE(frm, nullptr);
     const Aperta aperta = FinestraDopoClick(frm->findChild<QPushButton*>("cmdStampaRisultati"));
@@ -215,7 +212,7 @@ TEST_F(Aiuto, StampaApreIlDialogoDiStampa) {
 }
 
 TEST_F(Aiuto, SuFileScriveHelpTxt) {
-    gs::MostraAiuto(nullptr, QString::fromStdString(gs::SezionePuntiIncogniti));
+    gs::MostraAiuto(nullptr, sessione_, QString::fromStdString(gs::SezionePuntiIncogniti));
     QWidget* frm = Finestra("frmHelp");
     ASSERT_NE(frm, nullptr);
     const fs::path file = cartella_ / "Help.txt";
@@ -249,7 +246,7 @@ TEST_F(Aiuto, SuFileScriveHelpTxt) {
 }
 
 TEST_F(Aiuto, Command1ChiudeELaListaSegueLaFinestra) {
-    gs::MostraAiuto(nullptr, QString::fromStdString(gs::SezioneAmboEnucleato));
+    gs::MostraAiuto(nullptr, sessione_, QString::fromStdString(gs::SezioneAmboEnucleato));
     QWidget* frm = Finestra("frmHelp");
     ASSERT_NE(frm, nullptr);
     auto* lista = frm->findChild<QListWidget*>("lstHelp");
@@ -273,7 +270,7 @@ const std::vector<int> Contesti = {gs::AiutoInserimento,         gs::AiutoConsul
 TEST_F(Aiuto, HelpContextApreLArgomentoDiOgniNumero) {
     for (int n : Contesti) {
         SCOPED_TRACE(n);
-        gs::HelpContext(nullptr, n);
+        gs::HelpContext(nullptr, ini_, n);
         QWidget* frm = Finestra("frmAiuto");
         ASSERT_NE(frm, nullptr);
         auto* testo = frm->findChild<QTextBrowser*>("txtAiuto");
@@ -287,9 +284,9 @@ TEST_F(Aiuto, HelpContextApreLArgomentoDiOgniNumero) {
 }
 
 TEST_F(Aiuto, UnNumeroSenzaArgomentoNonMostraNulla) {
-    gs::HelpContext(nullptr, 4242);
+    gs::HelpContext(nullptr, ini_, 4242);
     EXPECT_EQ(Finestra("frmAiuto"), nullptr);
-    gs::HelpContext(nullptr, 0);
+    gs::HelpContext(nullptr, ini_, 0);
     EXPECT_EQ(Finestra("frmAiuto"), nullptr);
 }
 
@@ -315,7 +312,7 @@ TEST_F(Aiuto, LIndiceRimandaATuttiGliArgomenti) {
     }
 
     // The index button of the window goes back to it.
-    gs::HelpContext(nullptr, gs::AiutoOpzioni);
+    gs::HelpContext(nullptr, ini_, gs::AiutoOpzioni);
     QWidget* frm = Finestra("frmAiuto");
     ASSERT_NE(frm, nullptr);
     QTest::mouseClick(frm->findChild<QPushButton*>("cmdIndice"), Qt::LeftButton);

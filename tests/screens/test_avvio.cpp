@@ -14,7 +14,6 @@
 #include <thread>
 
 #include "archives/demo.h"
-#include "screens/common/ambiente.h"
 #include "app/avvio.h"
 #include "screens/common/elaborazioni.h"
 #include "screens/common/messaggi.h"
@@ -38,12 +37,6 @@ struct Messaggi {
     }
     ~Messaggi() { ImpostaGestoreMessaggi(prima); }
 };
-
-void Azzera() {
-    Ambiente().archivio.reset();
-    Ambiente().ElaborazioneInCorso = false;
-    Ambiente().demo = false;
-}
 
 template <typename T>
 T* Trova(QWidget* w, const char* nome) {
@@ -75,7 +68,6 @@ TEST(Avvio, UltimeEstrazioniDegliArchiviReali) {
     EXPECT_EQ(Trova<QPushButton>(principale.get(), "cmdCambiaImpostazioniRestrizione")->toolTip(),
               "Permette di impostare i parametri di esclusione per le ricerche statistiche");
     principale.reset();
-    Azzera();
 }
 
 TEST(Avvio, ArchiviMancantiFinisconoIlProgramma) {
@@ -90,7 +82,6 @@ TEST(Avvio, ArchiviMancantiFinisconoIlProgramma) {
               "Archivi Estrazioni.ind  Anni.ind  mancanti! " + (c / "Archivi/SuperEnalotto.ind").string());
     EXPECT_EQ(m.visti[0].titolo, "Errore");
     EXPECT_EQ(m.visti[0].icona, archives::Icona::Stop);
-    Azzera();
 }
 
 TEST(Avvio, UnaSolaIstanza) {
@@ -105,7 +96,6 @@ TEST(Avvio, UnaSolaIstanza) {
     EXPECT_EQ(m.visti[0].testo, MessaggioIstanzaUnica);
     principale.reset();
     primo.reset();
-    Azzera();
 
     // The lock of a run that crashed (its process is gone) does not block the next start.
     {
@@ -115,7 +105,6 @@ TEST(Avvio, UnaSolaIstanza) {
     std::unique_ptr<QLockFile> terzo;
     EXPECT_NE(AvviaProgramma(c.percorso(), terzo), nullptr);
     EXPECT_EQ(m.visti.size(), 1u);
-    Azzera();
 }
 
 // "Cambia..." opens the restrictions; their confirm shows in the panel at once.
@@ -142,7 +131,6 @@ TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
     EXPECT_FALSE(Trova<QLabel>(principale.get(), "lblRestrizioni_2")->isHidden());
     EXPECT_NE(test::LeggiFile(c / "Gorgo.ini").find("Mesi=YYYYYYYNYYYY"), std::string::npos);
     principale.reset();
-    Azzera();
 }
 
 // A write cut short (the year index behind the draws, half a record at the end) is repaired
@@ -160,9 +148,8 @@ TEST(Avvio, ArchiviRiparatiAllApertura) {
     ASSERT_EQ(m.visti.size(), 1u);
     EXPECT_EQ(m.visti[0].icona, archives::Icona::Informazione);
     EXPECT_EQ(test::LeggiFile(c / "Archivi/anni.ind"), anni);
-    EXPECT_TRUE(archives::VerificaIntegrita(*Ambiente().archivio).vuoto());
+    EXPECT_TRUE(archives::VerificaIntegrita(*principale->programma().archivio).vuoto());
     principale.reset();
-    Azzera();
 }
 
 TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
@@ -181,7 +168,6 @@ TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
     const std::string ini = test::LeggiFile(c / "Gorgo.ini");
     EXPECT_EQ(ini.find("MainLeft=99999999"), std::string::npos) << ini;
     principale.reset();
-    Azzera();
 }
 
 // A long job on the worker thread: the computing window shows, refuses to close, the main
@@ -194,11 +180,12 @@ TEST(Elaborazioni, StopDiUnLavoroInCorso) {
     auto principale = AvviaProgramma(c.percorso(), blocco);
     ASSERT_NE(principale, nullptr);
     principale->show();
+    Sessione& sessione = principale->programma().sessione;
 
     std::atomic<bool> partito{false};
     bool finito = false, fermato = false;
     Elaborazione* e = Elaborazione::Avvia(
-        principale.get(), "Analisi algoritmi...",
+        principale.get(), sessione, "Analisi algoritmi...",
         [&](std::stop_token stop, const Progresso& progresso) {
             partito = true;
             for (int i = 0; !stop.stop_requested(); ++i) {
@@ -213,7 +200,7 @@ TEST(Elaborazioni, StopDiUnLavoroInCorso) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return partito.load(); }, 2000));
     FrmElaborazioni* finestra = e->finestra();
     ASSERT_NE(finestra, nullptr);
-    EXPECT_TRUE(Ambiente().ElaborazioneInCorso);
+    EXPECT_TRUE(sessione.ElaborazioneInCorso);
     EXPECT_NE(QApplication::overrideCursor(), nullptr);
     finestra->close();
     EXPECT_TRUE(finestra->isVisible());
@@ -228,12 +215,11 @@ TEST(Elaborazioni, StopDiUnLavoroInCorso) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return finito; }, 2000));
     EXPECT_LT(t.elapsed(), 1000);
     EXPECT_TRUE(fermato);
-    EXPECT_FALSE(Ambiente().ElaborazioneInCorso);
+    EXPECT_FALSE(sessione.ElaborazioneInCorso);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     principale->close();
     EXPECT_FALSE(principale->isVisible());
     principale.reset();
-    Azzera();
 }
 
 }  // namespace

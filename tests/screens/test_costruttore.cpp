@@ -18,7 +18,6 @@
 #include <QTreeWidget>
 
 #include "builder/report.h"
-#include "screens/common/ambiente.h"
 #include "app/avvio.h"
 #include "screens/builder/frm_costruttore.h"
 #include "screens/common/messaggi.h"
@@ -59,7 +58,6 @@ protected:
     void TearDown() override {
         principale_.reset();
         blocco_.reset();
-        Ambiente().archivio.reset();
         ImpostaGestoreMessaggi(prima_);
     }
     // Spy 27, search and play on all wheels, every month index, the last ten years.
@@ -182,11 +180,12 @@ TEST_F(Costruttore, ControlliPerTipoDiRicerca) {
 TEST_F(Costruttore, ListaStampataComeIlFile) {
     Imposta();
     ASSERT_TRUE(Cerca());
+    const Programma& programma = principale_->programma();
     const builder::EsitoRicerca e =
-        builder::CercaAlgoritmi(f_->Parametri(), builder::PreparaCostruttore(Ambiente().archivio->Storia(), Ambiente().ini,
+        builder::CercaAlgoritmi(f_->Parametri(), builder::PreparaCostruttore(programma.archivio->Storia(), programma.ini,
                                                                              c_.percorso())
                                                      .Contesto());
-    const config::ReportTesto r = builder::ReportAlgoritmi(f_->Parametri(), e, *Ambiente().archivio->Storia());
+    const config::ReportTesto r = builder::ReportAlgoritmi(f_->Parametri(), e, *programma.archivio->Storia());
     const QString pdf = QString::fromStdString((c_ / "lista.pdf").string());
     OpzioniStampa o;
     o.titolo1 = QStringLiteral("Gorgo 2 - Ideato da Sergio Tordelli");

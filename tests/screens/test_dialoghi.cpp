@@ -21,15 +21,17 @@
 #include <string>
 #include <vector>
 
+#include "archives/archivio.h"
 #include "config/impostazioni.h"
+#include "config/ini.h"
 #include "config/restrizioni.h"
-#include "screens/common/ambiente.h"
 #include "screens/common/browser.h"
 #include "screens/config/frm_colori.h"
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/sessione.h"
 #include "screens/common/stile.h"
 #include "support/cartelle.h"
 
@@ -39,14 +41,10 @@ namespace {
 using test::CartellaTemporanea;
 using test::LeggiFile;
 
-// A program folder of its own, and the messages collected instead of shown.
+// A program folder of its own, its settings, and the messages collected instead of shown.
 class Dialoghi : public ::testing::Test {
 protected:
     void SetUp() override {
-        percorsoPrima_ = Ambiente().PercorsoProgramma;
-        iniPrima_ = Ambiente().ini.FileName();
-        Ambiente().PercorsoProgramma = cartella_.percorso();
-        Ambiente().ini.SetFileName(FileIni().string());
         gestorePrima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
             messaggi_.push_back(m.testo);
             return QMessageBox::Ok;
@@ -54,14 +52,12 @@ protected:
     }
     void TearDown() override {
         ImpostaGestoreMessaggi(gestorePrima_);
-        Ambiente().PercorsoProgramma = percorsoPrima_;
-        Ambiente().ini.SetFileName(iniPrima_);
     }
 
     std::filesystem::path FileIni() const { return cartella_ / "Gorgo.ini"; }
     void ScriviIni(const std::string& testo) const { std::ofstream(FileIni(), std::ios::binary) << testo; }
     std::string Chiave(std::string_view sezione, std::string_view chiave) const {
-        return Ambiente().ini.Leggi(sezione, chiave, "<assente>");
+        return ini_.Leggi(sezione, chiave, "<assente>");
     }
 
     template <class T>
@@ -79,11 +75,11 @@ protected:
     }
 
     CartellaTemporanea cartella_;
+    config::FileIni ini_{FileIni().string()};
+    Sessione sessione_{ini_, cartella_.percorso()};
     std::vector<std::string> messaggi_;
 
 private:
-    std::filesystem::path percorsoPrima_;
-    std::string iniPrima_;
     GestoreMessaggi gestorePrima_;
 };
 
@@ -100,7 +96,7 @@ TEST_F(DialoghiOpzioni, SiCaricaDalleChiavi) {
     ScriviIni(
         "[Restrizioni]\nGiorno=Y\nGiorni=NYNYNYN\nMese=N\nMesi=YNYNYNYNYNYN\nPeriodo=Y\n"
         "Dal=15dicembre\nAl=15gennaio\n");
-    FrmOpzioni f;
+    FrmOpzioni f(ini_);
     EXPECT_EQ(f.windowTitle(), "Restrizioni di ricerca");
     EXPECT_TRUE(Controllo<QCheckBox>(&f, "chkGiorni")->isChecked());
     EXPECT_FALSE(Controllo<QCheckBox>(&f, "chkMesi")->isChecked());
@@ -127,7 +123,7 @@ TEST_F(DialoghiOpzioni, SiCaricaDalleChiavi) {
 }
 
 TEST_F(DialoghiOpzioni, OkScriveLeChiaviEIlPannello) {
-    FrmOpzioni f;
+    FrmOpzioni f(ini_);
     QSignalSpy cambiate(&f, &FrmOpzioni::restrizioniCambiate);
     Mostra(&f);
     Clic(&f, "chkGiorni");
@@ -156,7 +152,7 @@ TEST_F(DialoghiOpzioni, OkScriveLeChiaviEIlPannello) {
     EXPECT_EQ(Chiave(R, "Numero"), "");
     EXPECT_EQ(Chiave(R, "Numeri"), "");
 
-    const auto p = config::PannelloRestrizioni(Ambiente().ini);
+    const auto p = config::PannelloRestrizioni(ini_);
     EXPECT_FALSE(p.nessuna);
     EXPECT_FALSE(p.visibile[0]);
     EXPECT_TRUE(p.visibile[1] && p.visibile[2] && p.visibile[3]);
@@ -166,7 +162,7 @@ TEST_F(DialoghiOpzioni, OkScriveLeChiaviEIlPannello) {
 }
 
 TEST_F(DialoghiOpzioni, GiorniOltreIlMeseSiCorreggono) {
-    FrmOpzioni f;
+    FrmOpzioni f(ini_);
     Mostra(&f);
     Clic(&f, "chkPeriodo");
     Controllo<QComboBox>(&f, "cboGiorno_0")->setCurrentText("31");
@@ -183,7 +179,7 @@ TEST_F(DialoghiOpzioni, GiorniOltreIlMeseSiCorreggono) {
 TEST_F(DialoghiOpzioni, AnnullaNonScriveNulla) {
     ScriviIni("; mio\n[Restrizioni]\nGiorno=N\nGiorni=YYYYYYY\n[Options]\nUrl=http://esempio.it/\n");
     const std::string prima = LeggiFile(FileIni());
-    FrmOpzioni f;
+    FrmOpzioni f(ini_);
     QSignalSpy cambiate(&f, &FrmOpzioni::restrizioniCambiate);
     Mostra(&f);
     Clic(&f, "chkGiorni");
@@ -197,7 +193,7 @@ TEST_F(DialoghiOpzioni, AnnullaNonScriveNulla) {
 
 TEST_F(DialoghiOpzioni, RicordaIlPostoInTwip) {
     ScriviIni("[Forms]\nOpzioniLeft=1500\nOpzioniTop=3000\n");
-    FrmOpzioni f;
+    FrmOpzioni f(ini_);
     const double px = f.screen()->logicalDotsPerInchX() / 1440.0, py = f.screen()->logicalDotsPerInchY() / 1440.0;
     EXPECT_EQ(f.pos(), QPoint(static_cast<int>(std::lround(1500 * px)), static_cast<int>(std::lround(3000 * py))));
     f.move(300, 150);
@@ -210,7 +206,7 @@ TEST_F(DialoghiOpzioni, RicordaIlPostoInTwip) {
 // ---- frmEsclusioni --------------------------------------------------------------------
 
 TEST_F(DialoghiEsclusioni, SenzaGiorniRestaAperto) {
-    FrmEsclusioni f;
+    FrmEsclusioni f(ini_);
     EXPECT_EQ(f.windowTitle(), "Opzioni");
     Mostra(&f);
     // The default drawing days are Tuesday, Thursday and Saturday.
@@ -233,7 +229,7 @@ TEST_F(DialoghiEsclusioni, SenzaGiorniRestaAperto) {
 }
 
 TEST_F(DialoghiEsclusioni, AnnullaChiude) {
-    FrmEsclusioni f;
+    FrmEsclusioni f(ini_);
     Mostra(&f);
     Clic(&f, "chkDay_2");
     Clic(&f, "cmdAnnulla");
@@ -246,7 +242,7 @@ TEST_F(DialoghiEsclusioni, AnnullaChiude) {
 TEST_F(DialoghiUrl, TreLettereNonBastano) {
     ScriviIni("[Options]\nUrl=http://vecchio.it/\n");
     const std::string prima = LeggiFile(FileIni());
-    FrmUrl f;
+    FrmUrl f(ini_);
     EXPECT_EQ(f.windowTitle(), "Url");
     Mostra(&f);
     auto* txt = Controllo<QLineEdit>(&f, "txtUrl");
@@ -267,7 +263,7 @@ TEST_F(DialoghiUrl, TreLettereNonBastano) {
 }
 
 TEST_F(DialoghiUrl, DodiciCaratteriBastano) {
-    FrmUrl f;
+    FrmUrl f(ini_);
     Mostra(&f);
     auto* txt = Controllo<QLineEdit>(&f, "txtUrl");
     txt->setText("https://x.i");  // 11 characters, and it already starts with "http"
@@ -284,7 +280,7 @@ TEST_F(DialoghiUrl, DodiciCaratteriBastano) {
 TEST_F(DialoghiColori, DefaultPoiEsciNonCambiaNulla) {
     ScriviIni("[Settings]\nColoreForm=255\nColoreEtichette=65280\nColoreListe=16711680\n");
     const std::string prima = LeggiFile(FileIni());
-    FrmColori f;
+    FrmColori f(sessione_, nullptr);
     EXPECT_EQ(f.windowTitle(), "Colori");
     EXPECT_EQ(f.Colore(0), QColor(255, 0, 0));
     EXPECT_EQ(f.Colore(1), QColor(0, 255, 0));
@@ -307,7 +303,7 @@ TEST_F(DialoghiColori, OkScriveERicoloraLeFinestre) {
     auto* lista = new QLineEdit(&aperta);
     Mostra(&aperta);
 
-    FrmColori f;
+    FrmColori f(sessione_, nullptr);
     QSignalSpy cambiati(&f, &FrmColori::coloriCambiati);
     QColor proposto;
     f.sceltaColore = [&](QWidget*, const QColor& iniziale) {
@@ -334,18 +330,16 @@ TEST_F(DialoghiColori, OkScriveERicoloraLeFinestre) {
 
 TEST_F(DialoghiColori, DoppioClicDiagnostico) {
     test::CreaArchivioDemo(cartella_.percorso());
-    auto archivioPrima =
-        std::exchange(Ambiente().archivio, std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_.percorso())));
-    const int32_t n = Ambiente().archivio->NumeroEstrazioni();
-    const std::string data = Ambiente().archivio->DataEstrazione(n);
+    const archives::Archivio archivio = archives::Archivio::Apri(cartella_.percorso());
+    const int32_t n = archivio.NumeroEstrazioni();
+    const std::string data = archivio.DataEstrazione(n);
     {
-        FrmColori f;
+        FrmColori f(sessione_, &archivio);
         Mostra(&f);
         QTest::mouseDClick(Controllo<QLabel>(&f, "lblColore_1"), Qt::LeftButton);
         QTest::mouseDClick(Controllo<QLabel>(&f, "lblColore_2"), Qt::LeftButton);
         QTest::mouseDClick(Controllo<QLabel>(&f, "lblColore_0"), Qt::LeftButton);
     }
-    Ambiente().archivio = std::move(archivioPrima);
     EXPECT_EQ(messaggi_, (std::vector<std::string>{data + " - " + std::to_string(n),
                                                    "Path applicazione = " + cartella_.percorso().string()}));
 }
@@ -385,7 +379,7 @@ const QColor Rosso(255, 0, 0), Verde(0, 255, 0), Blu(0, 0, 255);
 TEST_F(DialoghiStile, ColoriPerTipoDiControllo) {
     ScriviIni("[Settings]\nColoreForm=255\nColoreEtichette=65280\nColoreListe=16711680\n");
     FinestraDiProva p("frmProva");
-    ApplicaStile(&p.finestra, Ambiente().ini);
+    ApplicaStile(&p.finestra, ini_);
     EXPECT_EQ(p.finestra.palette().color(QPalette::Window), Rosso);
     EXPECT_EQ(p.etichetta->palette().color(QPalette::Window), Verde);
     EXPECT_TRUE(p.etichetta->autoFillBackground());
@@ -409,14 +403,14 @@ TEST_F(DialoghiStile, ColoriPerTipoDiControllo) {
 TEST_F(DialoghiStile, PredefinitiEDueVolteSenzaAccumulo) {
     ScriviIni("[Settings]\nColoreForm=rosso\n");
     FinestraDiProva p("frmProva");
-    ApplicaStile(&p.finestra, Ambiente().ini);
+    ApplicaStile(&p.finestra, ini_);
     EXPECT_EQ(p.finestra.palette().color(QPalette::Window), QColor(0xBF, 0xBF, 0xBF));
     EXPECT_EQ(p.etichetta->palette().color(QPalette::Window), QColor(0xEF, 0xEF, 0xEF));
     EXPECT_EQ(p.testo->palette().color(QPalette::Base), QColor(0xFA, 0xD8, 0x89));
     const auto figli = p.finestra.findChildren<QObject*>().size();
 
     ScriviIni("[Settings]\nColoreEtichette=255\n");
-    ApplicaStile(&p.finestra, Ambiente().ini);
+    ApplicaStile(&p.finestra, ini_);
     EXPECT_EQ(p.finestra.findChildren<QObject*>().size(), figli);
     EXPECT_EQ(p.etichetta->palette().color(QPalette::Window), Rosso);
     EXPECT_EQ(p.etichetta->styleSheet(), "");
@@ -426,7 +420,7 @@ TEST_F(DialoghiStile, PredefinitiEDueVolteSenzaAccumulo) {
 TEST_F(DialoghiStile, EtichetteProprieRestanoComeSono) {
     ScriviIni("[Settings]\nColoreForm=255\nColoreEtichette=65280\nColoreListe=16711680\n");
     FinestraDiProva p("frmConsultaEstrazioni");
-    ApplicaStile(&p.finestra, Ambiente().ini);
+    ApplicaStile(&p.finestra, ini_);
     EXPECT_FALSE(p.etichetta->autoFillBackground());
     EXPECT_NE(p.etichetta->palette().color(QPalette::Window), Verde);
     EXPECT_NE(p.interna->palette().color(QPalette::Window), Verde);

@@ -20,7 +20,6 @@
 
 #include "archives/archivio.h"
 #include "archives/demo.h"
-#include "screens/common/ambiente.h"
 #include "app/avvio.h"
 #include "screens/common/messaggi.h"
 #include "screens/maintenance/frm_input_estrazioni.h"
@@ -76,9 +75,9 @@ protected:
     void TearDown() override {
         principale_.reset();
         blocco_.reset();
-        Ambiente().archivio.reset();
-        Ambiente().demo = false;
     }
+    // The archives of the running program.
+    archives::Archivio& Archivio() { return *principale_->programma().archivio; }
     QWidget* Apri(const char* voce, const char* finestra) {
         QAction* a = principale_->findChild<QAction*>(voce);
         EXPECT_NE(a, nullptr) << voce;
@@ -112,7 +111,7 @@ TEST_F(InserimentoSchermo, ModiDellaFinestra) {
     Apri("mnuEstrazioniInserisci", "frmInputEstrazioni");
     EXPECT_EQ(Aperte("frmInputEstrazioni"), 1);
 
-    const int32_t n = Ambiente().archivio->NumeroEstrazioni();
+    const int32_t n = Archivio().NumeroEstrazioni();
     auto attivo = [&](const char* nome) { return Trova<QWidget>(f, nome)->isEnabled(); };
     // Browse.
     EXPECT_TRUE(attivo("cmdNuova"));
@@ -177,19 +176,19 @@ TEST_F(InserimentoSchermo, ModiDellaFinestra) {
     EXPECT_EQ(m.visti.back().testo, "Salvare i dati prima di chiudere?");
     EXPECT_EQ(m.visti.back().titolo, "Input estrazioni");
     // No closes without writing.
-    const uint64_t lunghezza = Ambiente().archivio->LunghezzaEstrazioni();
+    const uint64_t lunghezza = Archivio().LunghezzaEstrazioni();
     m.risposta = [](const archives::Messaggio&) { return QMessageBox::No; };
     f->close();
     QApplication::processEvents();
     EXPECT_EQ(Aperte("frmInputEstrazioni"), 0);
-    EXPECT_EQ(Ambiente().archivio->LunghezzaEstrazioni(), lunghezza);
+    EXPECT_EQ(Archivio().LunghezzaEstrazioni(), lunghezza);
 }
 
 TEST_F(InserimentoSchermo, IncollaEMemorizzaConDomanda) {
     Messaggi m;
     QWidget* f = Apri("mnuEstrazioniInserisci", "frmInputEstrazioni");
     ASSERT_NE(f, nullptr);
-    const int32_t n = Ambiente().archivio->NumeroEstrazioni();
+    const int32_t n = Archivio().NumeroEstrazioni();
     Clic(f, "cmdNuova");
 
     // A paste that stops on a value out of range.
@@ -218,7 +217,7 @@ TEST_F(InserimentoSchermo, IncollaEMemorizzaConDomanda) {
     Clic(f, "cmdMemorizza");
     EXPECT_EQ(m.visti.back().testo, "Manca 1 numero. Memorizzi ugualmente ?");
     EXPECT_EQ(m.visti.back().titolo, "Conferma");
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), n);
+    EXPECT_EQ(Archivio().NumeroEstrazioni(), n);
     EXPECT_TRUE(Trova<QWidget>(f, "cmdMemorizza")->isEnabled());
     EXPECT_FALSE(segnale);
 
@@ -226,13 +225,13 @@ TEST_F(InserimentoSchermo, IncollaEMemorizzaConDomanda) {
     m.risposta = [](const archives::Messaggio&) { return QMessageBox::Yes; };
     Clic(f, "cmdMemorizza");
     EXPECT_TRUE(segnale);
-    ASSERT_EQ(Ambiente().archivio->NumeroEstrazioni(), n + 1);
-    const archives::RecordEstrazione r = Ambiente().archivio->LeggiEstrazione(n + 1);
+    ASSERT_EQ(Archivio().NumeroEstrazioni(), n + 1);
+    const archives::RecordEstrazione r = Archivio().LeggiEstrazione(n + 1);
     EXPECT_EQ(r.dataTesto(), "01/01/2026");
     EXPECT_EQ(r.Numero(4, 5), 0);
     EXPECT_EQ(r.Numero(11, 5), 55);
-    EXPECT_EQ(Ambiente().archivio->LeggiAnno(Ambiente().archivio->NumeroAnni()).anno(), 2026);
-    EXPECT_TRUE(archives::VerificaIntegrita(*Ambiente().archivio).vuoto());
+    EXPECT_EQ(Archivio().LeggiAnno(Archivio().NumeroAnni()).anno(), 2026);
+    EXPECT_TRUE(archives::VerificaIntegrita(Archivio()).vuoto());
     EXPECT_TRUE(Trova<QWidget>(f, "cmdNuova")->isEnabled());
     EXPECT_TRUE(Casella(f, 1)->isReadOnly());
     EXPECT_EQ(Trova<QLabel>(f, "lblTotaleEstrazioni")->text(), QString::number(n + 1));
@@ -245,8 +244,8 @@ TEST_F(InserimentoSchermo, IncollaEMemorizzaConDomanda) {
     EXPECT_FALSE(Trova<QWidget>(f, "cmdInserisci")->isEnabled());
     Casella(f, 20)->setText("77");
     Clic(f, "cmdMemorizza");
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), n + 1);
-    EXPECT_EQ(Ambiente().archivio->LeggiEstrazione(n + 1).Numero(4, 5), 77);
+    EXPECT_EQ(Archivio().NumeroEstrazioni(), n + 1);
+    EXPECT_EQ(Archivio().LeggiEstrazione(n + 1).Numero(4, 5), 77);
     // Closing in browse asks nothing.
     const size_t visti = m.visti.size();
     f->close();
@@ -259,13 +258,13 @@ TEST_F(InserimentoSchermo, SuperEnalottoMemorizzaDopoLaChiusura) {
     ASSERT_NE(f, nullptr);
     EXPECT_EQ(f->windowTitle(), "Inserimento estrazioni Superenalotto");
     EXPECT_EQ(f->findChild<QLineEdit*>("txtEstratto_9"), nullptr);
-    const int32_t n = Ambiente().archivio->NumeroEstrazioniSuper();
+    const int32_t n = Archivio().NumeroEstrazioniSuper();
     Clic(f, "cmdNuova");
     Trova<QPlainTextEdit>(f, "Text1")->setPlainText("3 14 15 92");
     // Straight to the store: the paste is decoded first, and stops on 92.
     Clic(f, "cmdMemorizza");
     EXPECT_EQ(m.visti.back().testo, "Valori incongruenti - Non è possibile decodificare  (tutto o in parte) il testo copiato !");
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioniSuper(), n);
+    EXPECT_EQ(Archivio().NumeroEstrazioniSuper(), n);
     Trova<QPlainTextEdit>(f, "Text1")->setPlainText("3 14 15 22 65 35 - 8, 9");
     Clic(f, "cmdInserisci");
     // Yes to "save before closing" stores and closes.
@@ -273,8 +272,8 @@ TEST_F(InserimentoSchermo, SuperEnalottoMemorizzaDopoLaChiusura) {
     f->close();
     QApplication::processEvents();
     EXPECT_EQ(Aperte("frmInputEstrazioniSuperEnalotto"), 0);
-    ASSERT_EQ(Ambiente().archivio->NumeroEstrazioniSuper(), n + 1);
-    const archives::RecordSuperEnalotto r = Ambiente().archivio->LeggiRecordSuper(n + 1);
+    ASSERT_EQ(Archivio().NumeroEstrazioniSuper(), n + 1);
+    const archives::RecordSuperEnalotto r = Archivio().LeggiRecordSuper(n + 1);
     EXPECT_EQ(r.Sestina[5], 35);
     EXPECT_EQ(r.Jolly, 8);
     EXPECT_EQ(r.SuperStar, 9);
@@ -328,7 +327,7 @@ TEST_F(InserimentoSchermo, StampaDiOgniLayoutInPdf) {
     EXPECT_FALSE(QFileInfo::exists(cartella + "/x.pdf"));
     // A start that is no draw date moves to the next draw.
     EXPECT_EQ(Trova<QLineEdit>(lotto, "txtDataInizio")->text().toStdString(),
-              Ambiente().archivio->DataEstrazione(Ambiente().archivio->CercaIndice({1, 10, 2025}, false)->IndiceTrovato));
+              Archivio().DataEstrazione(Archivio().CercaIndice({1, 10, 2025}, false)->IndiceTrovato));
 
     struct Caso {
         const char* nome;

@@ -15,12 +15,13 @@
 
 #include "archives/archivio.h"
 #include "config/impostazioni.h"
+#include "config/ini.h"
 #include "maintenance/aggiornamento.h"
 #include "maintenance/server_locale.h"
 #include "network/scaricatore.h"
-#include "screens/common/ambiente.h"
 #include "app/avvio.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/sessione.h"
 #include "screens/maintenance/frm_aggiorna_internet.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
@@ -65,9 +66,7 @@ protected:
         aggiornamenti_ = reale->parent_path() / "aggiornamenti";
         buono_ = LeggiFile(aggiornamenti_ / "AggiornamentoPz.bin");
         test::CopiaArchiviReali(*reale, c_.percorso());
-        Ambiente().PercorsoProgramma = c_.percorso();
-        Ambiente().ini.SetFileName((c_ / "Gorgo.ini").string());
-        Ambiente().archivio = std::make_unique<archives::Archivio>(archives::Archivio::Apri(c_.percorso(), archives::ModoApertura::Scrittura));
+        archivio_ = std::make_unique<archives::Archivio>(archives::Archivio::Apri(c_.percorso(), archives::ModoApertura::Scrittura));
         prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons b) {
             if (b & QMessageBox::Yes) {
                 domande_.push_back(m);
@@ -81,10 +80,10 @@ protected:
     void TearDown() override {
         if (!impostato_) return;
         ImpostaGestoreMessaggi(prima_);
-        Ambiente().archivio.reset();
+        archivio_.reset();
     }
     void Url(const std::string& chiave, const std::string& valore) {
-        ASSERT_TRUE(config::ScriviImpostazione(Ambiente().ini, config::sezioni::Options, chiave, valore));
+        ASSERT_TRUE(config::ScriviImpostazione(ini_, config::sezioni::Options, chiave, valore));
     }
     // The texts lblStatus takes, one for each state the client reports.
     void SeguiStati(FrmAggiornaInternetBase& f) {
@@ -106,6 +105,10 @@ protected:
 
     test::ServerLocale server_{24, std::chrono::seconds(120)};
     CartellaTemporanea c_;
+    // The running program's settings, session and archives, as the main window would hand them.
+    config::FileIni ini_{(c_ / "Gorgo.ini").string()};
+    Sessione sessione_{ini_, c_.percorso()};
+    std::unique_ptr<archives::Archivio> archivio_;
     fs::path aggiornamenti_;
     std::string buono_;
     std::vector<archives::Messaggio> messaggi_, domande_;
@@ -118,7 +121,7 @@ protected:
 TEST_F(AggiornaInternet, StatiDomandaEAggiornamento) {
     server_.Imposta("/agg/AggiornamentoPz.bin", Risposta(200, "OK", buono_));
     Url("Url", server_.Indirizzo("/agg/"));
-    FrmAggiornaInternet f;
+    FrmAggiornaInternet f(sessione_, *archivio_);
     f.show();
     EXPECT_EQ(f.objectName(), "frmAggiornaInternet");
     EXPECT_EQ(f.windowTitle(), "Aggiormanemto estrazioni lotto da Internet");
@@ -146,14 +149,14 @@ TEST_F(AggiornaInternet, StatiDomandaEAggiornamento) {
     EXPECT_EQ(domande_[0].titolo, "Aggiornamento estrazioni");
     ASSERT_EQ(messaggi_.size(), 1u);
     EXPECT_EQ(messaggi_[0].testo, "Aggiornamento archivi al 21/08/2026 effettuato");
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10913);
+    EXPECT_EQ(archivio_->NumeroEstrazioni(), 10913);
     EXPECT_EQ(archives::Archivio::Apri(c_.percorso()).NumeroEstrazioni(), 10913);
     EXPECT_EQ(LeggiFile(c_ / "AggiornamentoPz.bin"), buono_) << "the local copy stays";
     EXPECT_EQ(aggiornato.count(), 1);
     EXPECT_FALSE(f.isVisible()) << "the screen closes after the update";
 
     // A second download has nothing new.
-    FrmAggiornaInternet g;
+    FrmAggiornaInternet g(sessione_, *archivio_);
     g.show();
     messaggi_.clear();
     const std::string dopo = Archivi(c_.percorso());
@@ -168,7 +171,7 @@ TEST_F(AggiornaInternet, RispostaNoPoiCmdAggiorna) {
     server_.Imposta("/AggiornamentoPz.bin", Risposta(200, "OK", buono_));
     Url("Url", server_.Indirizzo("/"));
     const std::string prima = Archivi(c_.percorso());
-    FrmAggiornaInternet f;
+    FrmAggiornaInternet f(sessione_, *archivio_);
     f.show();
     QPushButton* aggiorna = Trova<QPushButton>(&f, "cmdAggiorna");
     EXPECT_FALSE(aggiorna->isEnabled());
@@ -182,7 +185,7 @@ TEST_F(AggiornaInternet, RispostaNoPoiCmdAggiorna) {
 
     QTest::mouseClick(aggiorna, Qt::LeftButton);
     EXPECT_EQ(TestiMessaggi(), std::vector<std::string>{"Aggiornamento archivi al 21/08/2026 effettuato"});
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10913);
+    EXPECT_EQ(archivio_->NumeroEstrazioni(), 10913);
     EXPECT_FALSE(f.isVisible());
 }
 
@@ -216,7 +219,7 @@ TEST_F(AggiornaInternet, RifiutiDelSetaccioEDellaConnessione) {
         messaggi_.clear();
         server_.Imposta(c.percorso + "AggiornamentoPz.bin", c.risposta);
         Url("Url", server_.Indirizzo(c.percorso));
-        FrmAggiornaInternet f;
+        FrmAggiornaInternet f(sessione_, *archivio_);
         f.show();
         Scarica(f, f.scaricatore());
         if (c.messaggio.empty())
@@ -235,7 +238,7 @@ TEST_F(AggiornaInternet, RifiutiDelSetaccioEDellaConnessione) {
         EXPECT_EQ(Archivi(c_.percorso()), prima) << c.percorso;
     }
     // The page stays on disk as the local copy, and opening it refuses it.
-    FrmAggiornaInternet f;
+    FrmAggiornaInternet f(sessione_, *archivio_);
     messaggi_.clear();
     QTest::mouseClick(Trova<QPushButton>(&f, "cmdApri"), Qt::LeftButton);
     ASSERT_EQ(messaggi_.size(), 1u);
@@ -247,7 +250,7 @@ TEST_F(AggiornaInternet, AnnullaDuranteLoScaricamento) {
     server_.Imposta("/AggiornamentoPz.bin", test::RispostaSospesa(buono_, 660));
     Url("Url", server_.Indirizzo("/"));
     const std::string prima = Archivi(c_.percorso());
-    FrmAggiornaInternet f;
+    FrmAggiornaInternet f(sessione_, *archivio_);
     f.show();
     SeguiStati(f);
     QTest::mouseClick(Trova<QPushButton>(&f, "cmdScarica"), Qt::LeftButton);
@@ -274,7 +277,7 @@ TEST_F(AggiornaInternet, ErroreDiConnessioneNelloStato) {
         porta = chiuso.porta();
     }
     Url("Url", fmt::format("http://127.0.0.1:{}/", porta));
-    FrmAggiornaInternet f;
+    FrmAggiornaInternet f(sessione_, *archivio_);
     f.show();
     SeguiStati(f);
     Scarica(f, f.scaricatore());
@@ -294,7 +297,7 @@ TEST_F(AggiornaInternet, IlGemelloSuperEnalotto) {
     server_.Imposta("/AggiornamentoSuperEnalotto.bin",
                     Risposta(200, "OK", "Proxy 407 " + Riempimento(190)));
     Url("Url", server_.Indirizzo("/"));
-    FrmAggiornaSuperInternet f;
+    FrmAggiornaSuperInternet f(sessione_, *archivio_);
     f.show();
     EXPECT_EQ(f.objectName(), "frmAggiornaSuperInternet");
     EXPECT_EQ(Trova<QLabel>(&f, "lblNumero")->text(), "55");
@@ -325,7 +328,7 @@ TEST_F(AggiornaInternet, ScaricaStorico) {
     server_.Imposta("/storico.zip", Risposta(200, "OK", zip));
     const std::string prima = Archivi(c_.percorso());
 
-    FrmScaricaStorico f;
+    FrmScaricaStorico f(sessione_, *archivio_);
     f.show();
     EXPECT_EQ(f.objectName(), "frmScaricaStorico");
     QLineEdit* url = Trova<QLineEdit>(&f, "txtUrlStorico");
@@ -349,14 +352,14 @@ TEST_F(AggiornaInternet, ScaricaStorico) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !messaggi_.empty(); }, 10000));
     ASSERT_EQ(domande_.size(), 1u);
     EXPECT_NE(domande_[0].testo.find("134 estrazioni nuove, fino al 21/08/2026"), std::string::npos) << domande_[0].testo;
-    EXPECT_EQ(Ambiente().archivio->NumeroEstrazioni(), 10913);
+    EXPECT_EQ(archivio_->NumeroEstrazioni(), 10913);
     EXPECT_EQ(aggiornato.count(), 1);
     // The address is kept for the next time.
-    EXPECT_EQ(Ambiente().ini.Leggi("Options", "UrlStorico", ""), server_.Indirizzo("/storico.zip"));
+    EXPECT_EQ(ini_.Leggi("Options", "UrlStorico", ""), server_.Indirizzo("/storico.zip"));
 }
 
 TEST_F(AggiornaInternet, PulsantiEVociDelMenu) {
-    Ambiente().archivio.reset();
+    archivio_.reset();
     std::unique_ptr<QLockFile> blocco;
     auto principale = AvviaProgramma(c_.percorso(), blocco);
     ASSERT_NE(principale, nullptr);
@@ -412,7 +415,7 @@ TEST_F(AggiornaInternet, PulsantiEVociDelMenu) {
 TEST_F(AggiornaInternet, IlPannelloPrincipaleMostraLUltimaDopoLAggiornamento) {
     server_.Imposta("/AggiornamentoPz.bin", Risposta(200, "OK", buono_));
     Url("Url", server_.Indirizzo("/"));
-    Ambiente().archivio.reset();
+    archivio_.reset();
     std::unique_ptr<QLockFile> blocco;
     auto principale = AvviaProgramma(c_.percorso(), blocco);
     ASSERT_NE(principale, nullptr);
@@ -424,7 +427,7 @@ TEST_F(AggiornaInternet, IlPannelloPrincipaleMostraLUltimaDopoLAggiornamento) {
     ASSERT_NE(f, nullptr);
     QTest::mouseClick(Trova<QPushButton>(f, "cmdScarica"), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !messaggi_.empty(); }, 10000));
-    const archives::RecordEstrazione r = Ambiente().archivio->LeggiEstrazione(10913);
+    const archives::RecordEstrazione r = principale->programma().archivio->LeggiEstrazione(10913);
     EXPECT_EQ(ultima->text().toStdString(), fmt::format("n.{} del 21/08/2026", r.NumeroAnno));
     principale->close();
     principale.reset();

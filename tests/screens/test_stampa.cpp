@@ -16,8 +16,9 @@
 #include <vector>
 
 #include "config/cp1252.h"
+#include "config/ini.h"
 #include "config/report_testo.h"
-#include "screens/common/ambiente.h"
+#include "screens/common/sessione.h"
 #include "screens/common/stampa.h"
 #include "support/cartelle.h"
 
@@ -238,18 +239,14 @@ int PagineAttese(const std::vector<RigaTesto>& righe, int perPagina) {
 
 class Stampa : public ::testing::Test {
 protected:
-    void SetUp() override {
-        vecchioPercorso_ = gs::Ambiente().PercorsoProgramma;
-        gs::Ambiente().PercorsoProgramma = cartella_.percorso();
-    }
     void TearDown() override {
-        gs::Ambiente().PercorsoProgramma = vecchioPercorso_;
         gs::ScegliFileReport = gs::SceltaFileReportPredefinita();
         gs::ChiediReport = gs::DomandaReportPredefinita();
     }
 
     gorgo::test::CartellaTemporanea cartella_;
-    fs::path vecchioPercorso_;
+    gc::FileIni ini_;
+    gs::Sessione sessione_{ini_, cartella_.percorso()};
 };
 
 TEST_F(Stampa, IlPdfHaLeRigheDelFileInOrdine) {
@@ -497,7 +494,6 @@ struct Domanda {
 class StampaSuFile : public Stampa {
 protected:
     void SetUp() override {
-        Stampa::SetUp();
         gs::ScegliFileReport = [this](QWidget*, const QString& titolo, const QString& proposto, const QString& filtro) {
             ++dialogo_.chiamate;
             dialogo_.titolo = titolo;
@@ -525,7 +521,7 @@ protected:
 TEST_F(StampaSuFile, NuovoFileNelFolderDelProgramma) {
     const fs::path file = cartella_ / "Risultati.Txt";
     dialogo_.risposta = Q(file);
-    EXPECT_TRUE(gs::SalvaReportSuFile(nullptr, primo_, QStringLiteral("Risultati"), gs::DomandaFile::InCalce));
+    EXPECT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, QStringLiteral("Risultati"), gs::DomandaFile::InCalce));
     EXPECT_EQ(dialogo_.chiamate, 1);
     EXPECT_EQ(dialogo_.titolo, "Salva risultati su file");
     EXPECT_EQ(dialogo_.proposto, Q(cartella_ / "Risultati.Txt"));
@@ -537,9 +533,9 @@ TEST_F(StampaSuFile, NuovoFileNelFolderDelProgramma) {
 TEST_F(StampaSuFile, InCalceConSi) {
     const fs::path file = cartella_ / "r.Txt";
     dialogo_.risposta = Q(file);
-    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, primo_, "r.Txt", gs::DomandaFile::InCalce));
+    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, "r.Txt", gs::DomandaFile::InCalce));
     domanda_.risposta = QMessageBox::Yes;
-    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, secondo_, "r.Txt", gs::DomandaFile::InCalce));
+    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, secondo_, "r.Txt", gs::DomandaFile::InCalce));
     EXPECT_EQ(domanda_.chiamate, 1);
     EXPECT_EQ(domanda_.testo, "Il file " + file.string() + " è già esistente. Le informazioni vanno aggiunte in calce ?");
     EXPECT_EQ(domanda_.titolo, "Conferma");
@@ -553,20 +549,20 @@ TEST_F(StampaSuFile, InCalceConSi) {
 TEST_F(StampaSuFile, InCalceConNoSovrascrive) {
     const fs::path file = cartella_ / "r.Txt";
     dialogo_.risposta = Q(file);
-    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, primo_, "r", gs::DomandaFile::InCalce));
+    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, "r", gs::DomandaFile::InCalce));
     domanda_.risposta = QMessageBox::No;
-    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, secondo_, "r", gs::DomandaFile::InCalce));
+    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, secondo_, "r", gs::DomandaFile::InCalce));
     EXPECT_EQ(RigheDelFile(file), (std::vector<std::string>{"Seconda parte", "ultima riga"}));
 }
 
 TEST_F(StampaSuFile, InCalceConAnnullaLasciaIlFile) {
     const fs::path file = cartella_ / "r.Txt";
     dialogo_.risposta = Q(file);
-    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, primo_, "r", gs::DomandaFile::InCalce));
+    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, "r", gs::DomandaFile::InCalce));
     const std::string prima = gorgo::test::LeggiFile(file);
     const auto tempo = fs::last_write_time(file);
     domanda_.risposta = QMessageBox::Cancel;
-    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, secondo_, "r", gs::DomandaFile::InCalce));
+    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, sessione_, secondo_, "r", gs::DomandaFile::InCalce));
     EXPECT_EQ(gorgo::test::LeggiFile(file), prima);
     EXPECT_EQ(fs::last_write_time(file), tempo);
 }
@@ -574,21 +570,21 @@ TEST_F(StampaSuFile, InCalceConAnnullaLasciaIlFile) {
 TEST_F(StampaSuFile, SovrascriviSiENo) {
     const fs::path file = cartella_ / "Help.txt";
     dialogo_.risposta = Q(file);
-    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, primo_, "Help.txt", gs::DomandaFile::Sovrascrivi));
+    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, "Help.txt", gs::DomandaFile::Sovrascrivi));
     domanda_.risposta = QMessageBox::No;
-    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, secondo_, "Help.txt", gs::DomandaFile::Sovrascrivi));
+    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, sessione_, secondo_, "Help.txt", gs::DomandaFile::Sovrascrivi));
     EXPECT_EQ(domanda_.testo, "Il file " + file.string() + " è già esistente. Sovrascrivi ?");
     EXPECT_EQ(domanda_.pulsanti, QMessageBox::Yes | QMessageBox::No);
     EXPECT_EQ(domanda_.predefinito, QMessageBox::No);
     EXPECT_EQ(RigheDelFile(file).size(), 3u);
     domanda_.risposta = QMessageBox::Yes;
-    EXPECT_TRUE(gs::SalvaReportSuFile(nullptr, secondo_, "Help.txt", gs::DomandaFile::Sovrascrivi));
+    EXPECT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, secondo_, "Help.txt", gs::DomandaFile::Sovrascrivi));
     EXPECT_EQ(RigheDelFile(file), (std::vector<std::string>{"Seconda parte", "ultima riga"}));
 }
 
 TEST_F(StampaSuFile, AnnullaNelDialogoNonScriveNulla) {
     dialogo_.risposta.clear();
-    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, primo_, "r", gs::DomandaFile::InCalce));
+    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, "r", gs::DomandaFile::InCalce));
     EXPECT_EQ(dialogo_.chiamate, 1);
     EXPECT_EQ(domanda_.chiamate, 0);
     EXPECT_TRUE(fs::is_empty(cartella_.percorso()));
@@ -596,7 +592,7 @@ TEST_F(StampaSuFile, AnnullaNelDialogoNonScriveNulla) {
 
 TEST_F(StampaSuFile, ReportVuotoNienteDialogoNienteFile) {
     dialogo_.risposta = Q(cartella_ / "r.Txt");
-    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, {}, "r", gs::DomandaFile::InCalce));
+    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, sessione_, {}, "r", gs::DomandaFile::InCalce));
     EXPECT_EQ(dialogo_.chiamate, 0);
     EXPECT_TRUE(fs::is_empty(cartella_.percorso()));
 }
@@ -605,14 +601,14 @@ TEST_F(StampaSuFile, UltimaCartellaEEstensione) {
     const fs::path sotto = cartella_ / "sotto";
     fs::create_directories(sotto);
     dialogo_.risposta = Q(sotto / "scelto");  // no extension: the filter's one is added
-    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, primo_, "Primo", gs::DomandaFile::InCalce,
+    ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, "Primo", gs::DomandaFile::InCalce,
                                       QString::fromUtf8(gc::FiltroFileTestoMinuscolo.data())));
     EXPECT_EQ(dialogo_.proposto, Q(cartella_ / "Primo.txt"));
     EXPECT_EQ(dialogo_.filtro, "File di testo (*.txt)");
     EXPECT_TRUE(fs::exists(sotto / "scelto.txt"));
     // The next report is proposed in the folder chosen last.
     dialogo_.risposta.clear();
-    gs::SalvaReportSuFile(nullptr, primo_, "Secondo.Txt", gs::DomandaFile::InCalce);
+    gs::SalvaReportSuFile(nullptr, sessione_, primo_, "Secondo.Txt", gs::DomandaFile::InCalce);
     EXPECT_EQ(dialogo_.proposto, Q(sotto / "Secondo.Txt"));
 }
 
@@ -630,7 +626,7 @@ TEST_F(StampaSuFile, UnErroreDiScritturaMostraIlMessaggio) {
         }
     });
     chiudi.start();
-    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, primo_, "r", gs::DomandaFile::InCalce));
+    EXPECT_FALSE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, "r", gs::DomandaFile::InCalce));
     EXPECT_TRUE(testo.startsWith("Impossibile scrivere il file")) << testo.toStdString();
     EXPECT_EQ(titolo, "Errore");
     EXPECT_FALSE(fs::exists(cartella_ / "manca"));

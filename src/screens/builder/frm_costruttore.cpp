@@ -12,8 +12,9 @@
 #include <fmt/format.h>
 
 #include "builder/report.h"
+#include "archives/archivio.h"
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "screens/common/caselle.h"
 #include "screens/common/twips.h"
 #include "screens/builder/satelliti.h"
 #include "screens/common/elaborazioni.h"
@@ -44,23 +45,47 @@ QTreeWidget* Lista(QWidget* parent, const char* nome, const QStringList& teste) 
     return l;
 }
 
+QGroupBox* Riquadro(QWidget* parent, const char* nome, const QString& titolo) {
+    auto* r = new QGroupBox(titolo, parent);
+    r->setObjectName(nome);
+    return r;
+}
+
+QLabel* Etichetta(QWidget* parent, const char* nome) {
+    auto* l = new QLabel(parent);
+    l->setObjectName(nome);
+    return l;
+}
+
+// The span of play: three digits, 9 to begin with.
+QLineEdit* CasellaColpi(QWidget* parent, const char* nome) {
+    auto* t = new QLineEdit(QStringLiteral("9"), parent);
+    t->setObjectName(nome);
+    t->setMaxLength(3);
+    t->setValidator(new QIntValidator(0, 999, t));
+    t->setMaximumWidth(50);
+    return t;
+}
+
+QStringList NumeriPosizione() { return {"1", "2", "3", "4", "5"}; }
+
 constexpr const char* kTipiRicerca[] = {"Ambate", "Ambi", "Terzine x ambo", "Terzine x terno", "Codici Tordelli"};
 constexpr const char* kTipiRicercaAmbo[] = {"Ambate", "Ambi (posiz. q.e.)"};
 
 }  // namespace
 
-FrmCostruttore::FrmCostruttore(QWidget* parent) : QWidget(parent, Qt::Window) {
+FrmCostruttore::FrmCostruttore(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent)
+    : QWidget(parent, Qt::Window), sessione_(sessione) {
     setObjectName("frmCostruttore");
     setWindowTitle(QStringLiteral("Gorgo 2 - Ideato da Sergio Tordelli"));
     setAttribute(Qt::WA_DeleteOnClose);
-    AmbienteApp& a = Ambiente();
     contesto_ = std::make_unique<builder::ContestoCostruttore>(
-        builder::PreparaCostruttore(a.archivio->Storia(), a.ini, a.PercorsoProgramma));
+        builder::PreparaCostruttore(archivio.Storia(), sessione_.ini, sessione_.PercorsoProgramma));
     CreaControlli();
     AggiornaPerSpia();
     AggiornaPerTipoRicerca();
-    ApplicaStile(this, a.ini);
-    RipristinaPosizione(this, "GorgoLeft", "GorgoTop");
+    ApplicaStile(this, sessione_.ini);
+    RipristinaPosizione(this, sessione_.ini, "GorgoLeft", "GorgoTop");
 }
 
 FrmCostruttore::~FrmCostruttore() = default;
@@ -68,32 +93,36 @@ FrmCostruttore::~FrmCostruttore() = default;
 bool FrmCostruttore::InElaborazione() const { return elaborazione_; }
 
 void FrmCostruttore::CreaControlli() {
-    const AmbienteApp& a = Ambiente();
-    const archives::StoriaLotto& storia = *contesto_->storia;
     auto* principale = new QHBoxLayout(this);
     auto* sinistra = new QVBoxLayout;
     principale->addLayout(sinistra, 0);
+    sinistra->addWidget(CreaFrameSpia());
+    sinistra->addWidget(CreaFramePeriodo());
+    sinistra->addWidget(CreaFrameRuote());
+    sinistra->addWidget(CreaFrameGioco());
+    cmdCalcola_ = new QPushButton(QStringLiteral("Calcola"), this);
+    cmdCalcola_->setObjectName("cmdCalcola");
+    cmdCalcola_->setMinimumHeight(36);
+    connect(cmdCalcola_, &QPushButton::clicked, this, &FrmCostruttore::Calcola);
+    sinistra->addWidget(cmdCalcola_);
+    sinistra->addStretch();
 
-    // The spy.
-    auto* fraSpia = new QGroupBox(QStringLiteral("Spia"), this);
-    fraSpia->setObjectName("fraSpia");
+    auto* destra = new QVBoxLayout;
+    principale->addLayout(destra, 1);
+    CreaRisultati(destra);
+    destra->addLayout(CreaComandi());
+    CollegaSvuotamento();
+}
+
+// The spy: its kind, its value or the ambo, its positions.
+QGroupBox* FrmCostruttore::CreaFrameSpia() {
+    auto* fraSpia = Riquadro(this, "fraSpia", QStringLiteral("Spia"));
     auto* gs = new QGridLayout(fraSpia);
-    const char* spie[] = {"Numero spia", "Somma spia", "Differenza spia", "Ambo spia"};
-    auto* gruppoSpia = new QButtonGroup(this);
-    for (int i = 0; i < 4; ++i) {
-        optSpia_[static_cast<size_t>(i)] = new QRadioButton(Q(spie[i]), fraSpia);
-        optSpia_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("optSpia_%1").arg(i));
-        gruppoSpia->addButton(optSpia_[static_cast<size_t>(i)], i);
-        gs->addWidget(optSpia_[static_cast<size_t>(i)], i / 2, i % 2);
-    }
+    CreaCaselle<QRadioButton>(fraSpia, gs, {.perRiga = 2}, QStringLiteral("optSpia"), 0,
+                              {"Numero spia", "Somma spia", "Differenza spia", "Ambo spia"}, optSpia_);
     optSpia_[0]->setChecked(true);
-    auto* gruppoTipo = new QButtonGroup(this);
-    for (int i = 0; i < 3; ++i) {
-        optTipo_[static_cast<size_t>(i)] = new QRadioButton(fraSpia);
-        optTipo_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("optTipo_%1").arg(i));
-        gruppoTipo->addButton(optTipo_[static_cast<size_t>(i)], i);
-        gs->addWidget(optTipo_[static_cast<size_t>(i)], 2 + i, 0);
-    }
+    // Their texts follow the kind of spy (AggiornaPerSpia).
+    CreaCaselle<QRadioButton>(fraSpia, gs, {2, 0, 1}, QStringLiteral("optTipo"), 0, QStringList(3), optTipo_);
     optTipo_[0]->setChecked(true);
     cboNumero_ = new QComboBox(fraSpia);
     cboNumero_->setObjectName("cboNumero");
@@ -102,56 +131,36 @@ void FrmCostruttore::CreaControlli() {
     // The ambo spy's frame takes the place of the numeric one.
     auto* fraTipologiaAmbi = new QWidget(fraSpia);
     fraTipologiaAmbi->setObjectName("fraTipologiaAmbi");
-    auto* ga = new QHBoxLayout(fraTipologiaAmbi);
+    auto* ga = new QGridLayout(fraTipologiaAmbi);
     ga->setContentsMargins(0, 0, 0, 0);
-    for (int i = 1; i <= 2; ++i) {
-        txtAmbo_[static_cast<size_t>(i)] = new QLineEdit(fraTipologiaAmbi);
-        txtAmbo_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("txtAmbo_%1").arg(i));
-        txtAmbo_[static_cast<size_t>(i)]->setMaxLength(2);
-        txtAmbo_[static_cast<size_t>(i)]->setValidator(new QIntValidator(0, 99, txtAmbo_[static_cast<size_t>(i)]));
-        txtAmbo_[static_cast<size_t>(i)]->setMaximumWidth(40);
-        ga->addWidget(txtAmbo_[static_cast<size_t>(i)]);
+    CreaCaselle<QLineEdit>(fraTipologiaAmbi, ga, {}, QStringLiteral("txtAmbo"), 1, QStringList(2),
+                           std::span(txtAmbo_).subspan(1));
+    for (QLineEdit* t : {txtAmbo_[1], txtAmbo_[2]}) {
+        t->setMaxLength(2);
+        t->setValidator(new QIntValidator(0, 99, t));
+        t->setMaximumWidth(40);
     }
-    auto* gruppoAmbi = new QButtonGroup(this);
-    const char* ambi[] = {"Ambo fisso", "Tutti gli ambi"};
-    for (int i = 0; i < 2; ++i) {
-        optTipoAmbi_[static_cast<size_t>(i)] = new QRadioButton(Q(ambi[i]), fraTipologiaAmbi);
-        optTipoAmbi_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("optTipoAmbi_%1").arg(i));
-        gruppoAmbi->addButton(optTipoAmbi_[static_cast<size_t>(i)], i);
-        ga->addWidget(optTipoAmbi_[static_cast<size_t>(i)]);
-    }
+    CreaCaselle<QRadioButton>(fraTipologiaAmbi, ga, {0, 2}, QStringLiteral("optTipoAmbi"), 0,
+                              {"Ambo fisso", "Tutti gli ambi"}, optTipoAmbi_);
     optTipoAmbi_[0]->setChecked(true);
     gs->addWidget(fraTipologiaAmbi, 5, 0, 1, 2);
-    // Positions of the spy.
-    auto* gruppoPos = new QButtonGroup(this);
-    const char* posizioni[] = {"Tutte le posizioni", "Posizione determinata"};
-    auto* rigaPos = new QHBoxLayout;
-    for (int i = 0; i < 2; ++i) {
-        optPosizioni_[static_cast<size_t>(i)] = new QRadioButton(Q(posizioni[i]), fraSpia);
-        optPosizioni_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("optPosizioni_%1").arg(i));
-        gruppoPos->addButton(optPosizioni_[static_cast<size_t>(i)], i);
-        rigaPos->addWidget(optPosizioni_[static_cast<size_t>(i)]);
-    }
+    auto* rigaPos = new QGridLayout;
+    CreaCaselle<QRadioButton>(fraSpia, rigaPos, {}, QStringLiteral("optPosizioni"), 0,
+                              {"Tutte le posizioni", "Posizione determinata"}, optPosizioni_);
     optPosizioni_[0]->setChecked(true);
-    for (int p = 1; p <= 5; ++p) {
-        chkPosizione_[static_cast<size_t>(p)] = new QCheckBox(QString::number(p), fraSpia);
-        chkPosizione_[static_cast<size_t>(p)]->setObjectName(QStringLiteral("chkPosizione_%1").arg(p));
-        rigaPos->addWidget(chkPosizione_[static_cast<size_t>(p)]);
-    }
+    CreaCaselle<QCheckBox>(fraSpia, rigaPos, {0, 2}, QStringLiteral("chkPosizione"), 1, NumeriPosizione(),
+                           std::span(chkPosizione_).subspan(1));
     gs->addLayout(rigaPos, 6, 0, 1, 2);
-    sinistra->addWidget(fraSpia);
+    return fraSpia;
+}
 
-    // The period.
-    auto* fraPeriodo = new QGroupBox(QStringLiteral("Periodo"), this);
-    fraPeriodo->setObjectName("fraPeriodo");
+// The period: from a date to a date, or the last cases; the month index.
+QGroupBox* FrmCostruttore::CreaFramePeriodo() {
+    const archives::StoriaLotto& storia = *contesto_->storia;
+    auto* fraPeriodo = Riquadro(this, "fraPeriodo", QStringLiteral("Periodo"));
     auto* gp = new QGridLayout(fraPeriodo);
-    auto* gruppoPeriodo = new QButtonGroup(this);
-    optPeriodo_[0] = new QRadioButton(QStringLiteral("Dal"), fraPeriodo);
-    optPeriodo_[1] = new QRadioButton(QStringLiteral("Ultime sortite"), fraPeriodo);
-    for (int i = 0; i < 2; ++i) {
-        optPeriodo_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("optPeriodo_%1").arg(i));
-        gruppoPeriodo->addButton(optPeriodo_[static_cast<size_t>(i)], i);
-    }
+    CreaCaselle<QRadioButton>(fraPeriodo, gp, {.perRiga = 1}, QStringLiteral("optPeriodo"), 0,
+                              {"Dal", "Ultime sortite"}, optPeriodo_);
     optPeriodo_[0]->setChecked(true);
     DTPickerDa_ = new QDateEdit(DataQt(builder::DataDaPredefinita(storia)), fraPeriodo);
     DTPickerDa_->setObjectName("DTPickerDa");
@@ -167,11 +176,9 @@ void FrmCostruttore::CreaControlli() {
     cboSortite_->setObjectName("cboSortite");
     for (int n = 1; n <= 90; ++n) cboSortite_->addItem(QString::number(n));
     cboSortite_->setCurrentIndex(9);
-    gp->addWidget(optPeriodo_[0], 0, 0);
     gp->addWidget(DTPickerDa_, 0, 1);
     gp->addWidget(new QLabel(QStringLiteral("al"), fraPeriodo), 0, 2);
     gp->addWidget(DTPickerA_, 0, 3);
-    gp->addWidget(optPeriodo_[1], 1, 0);
     gp->addWidget(cboSortite_, 1, 1);
     cboIndice_ = new QComboBox(fraPeriodo);
     cboIndice_->setObjectName("cboIndice");
@@ -183,44 +190,39 @@ void FrmCostruttore::CreaControlli() {
     gp->addWidget(new QLabel(QStringLiteral("Indice mensile"), fraPeriodo), 2, 0);
     gp->addWidget(cboIndice_, 2, 1);
     gp->addWidget(chkTuttiGliIndici_, 2, 2, 1, 2);
-    sinistra->addWidget(fraPeriodo);
+    return fraPeriodo;
+}
 
-    // The wheels, of search and of play.
-    auto* fraRuote = new QGroupBox(QStringLiteral("Ruote di ricerca / di gioco"), this);
-    fraRuote->setObjectName("fraRuote");
+// The wheels of search and, below them, the wheels of play, as the settings keep them.
+QGroupBox* FrmCostruttore::CreaFrameRuote() {
+    auto* fraRuote = Riquadro(this, "fraRuote", QStringLiteral("Ruote di ricerca / di gioco"));
     auto* gr = new QGridLayout(fraRuote);
+    QStringList nomi = {QStringLiteral("Tutte")};
+    for (int w = 1; w <= 11; ++w) nomi << Q(archives::SigleRuota[static_cast<size_t>(w)]);
+    CreaCaselle<QCheckBox>(fraRuote, gr, {.perRiga = 6}, QStringLiteral("chkRuota"), 0, nomi, chkRuota_);
+    gr->addWidget(new QLabel(QStringLiteral("di gioco:"), fraRuote), 2, 0, 1, 6);
+    CreaCaselle<QCheckBox>(fraRuote, gr, {3, 0, 6}, QStringLiteral("chkRuotaG"), 0, nomi, chkRuotaG_);
     const config::CaselleRuote ricerca = config::CaricaRuoteConNz(config::LeggiImpostazione(
-        a.ini, config::sezioni::Settings, "RuoteConNz", config::Predefinito(config::sezioni::Settings, "RuoteConNz")));
+        sessione_.ini, config::sezioni::Settings, "RuoteConNz", config::Predefinito(config::sezioni::Settings, "RuoteConNz")));
     const config::CaselleRuote gioco = config::CaricaRuoteGioco(config::LeggiImpostazione(
-        a.ini, config::sezioni::Settings, "RuoteConNzGioco",
+        sessione_.ini, config::sezioni::Settings, "RuoteConNzGioco",
         config::Predefinito(config::sezioni::Settings, "RuoteConNzGioco")));
     caricamento_ = true;
     for (int w = 0; w <= 11; ++w) {
-        const QString nome = w == 0 ? QStringLiteral("Tutte") : Q(archives::SigleRuota[static_cast<size_t>(w)]);
-        chkRuota_[static_cast<size_t>(w)] = new QCheckBox(nome, fraRuote);
-        chkRuota_[static_cast<size_t>(w)]->setObjectName(QStringLiteral("chkRuota_%1").arg(w));
         chkRuota_[static_cast<size_t>(w)]->setChecked(ricerca[static_cast<size_t>(w)]);
-        chkRuotaG_[static_cast<size_t>(w)] = new QCheckBox(nome, fraRuote);
-        chkRuotaG_[static_cast<size_t>(w)]->setObjectName(QStringLiteral("chkRuotaG_%1").arg(w));
         chkRuotaG_[static_cast<size_t>(w)]->setChecked(gioco[static_cast<size_t>(w)]);
-        gr->addWidget(chkRuota_[static_cast<size_t>(w)], w / 6, w % 6);
-        gr->addWidget(chkRuotaG_[static_cast<size_t>(w)], 3 + w / 6, w % 6);
         connect(chkRuota_[static_cast<size_t>(w)], &QCheckBox::clicked, this, [this, w] { ClicRuota(w, false); });
         connect(chkRuotaG_[static_cast<size_t>(w)], &QCheckBox::clicked, this, [this, w] { ClicRuota(w, true); });
     }
     caricamento_ = false;
-    gr->addWidget(new QLabel(QStringLiteral("di gioco:"), fraRuote), 2, 0, 1, 6);
-    sinistra->addWidget(fraRuote);
+    return fraRuote;
+}
 
-    // The play and the kind of search.
-    auto* fraGioco = new QGroupBox(QStringLiteral("Gioco"), this);
-    fraGioco->setObjectName("fraGioco");
+// The play, the kind of search and the frames that go with each kind.
+QGroupBox* FrmCostruttore::CreaFrameGioco() {
+    auto* fraGioco = Riquadro(this, "fraGioco", QStringLiteral("Gioco"));
     auto* gg = new QGridLayout(fraGioco);
-    txtColpi_ = new QLineEdit(QStringLiteral("9"), fraGioco);
-    txtColpi_->setObjectName("txtColpi");
-    txtColpi_->setMaxLength(3);
-    txtColpi_->setValidator(new QIntValidator(0, 999, txtColpi_));
-    txtColpi_->setMaximumWidth(50);
+    txtColpi_ = CasellaColpi(fraGioco, "txtColpi");
     chkUltime_ = new QCheckBox(QStringLiteral("Controlla le ultime 9 estraz."), fraGioco);
     chkUltime_->setObjectName("chkUltime");
     chkUltime_->setChecked(true);
@@ -233,59 +235,33 @@ void FrmCostruttore::CreaControlli() {
     gg->addWidget(chkUltime_, 0, 2);
     gg->addWidget(cboTipoRicerca_, 1, 0, 1, 2);
     gg->addWidget(chkPosizionale_, 1, 2);
-    fraValidita_ = new QGroupBox(QStringLiteral("Validità algoritmo"), fraGioco);
-    fraValidita_->setObjectName("fraValidita");
-    auto* gv = new QHBoxLayout(fraValidita_);
-    gv->addWidget(new QLabel(QStringLiteral("Posizione definita dell'ambata"), fraValidita_));
-    for (int p = 1; p <= 5; ++p) {
-        chkPosizioneA_[static_cast<size_t>(p)] = new QCheckBox(QString::number(p), fraValidita_);
-        chkPosizioneA_[static_cast<size_t>(p)]->setObjectName(QStringLiteral("chkPosizioneA_%1").arg(p));
-        chkPosizioneA_[static_cast<size_t>(p)]->setChecked(true);
-        gv->addWidget(chkPosizioneA_[static_cast<size_t>(p)]);
-    }
+
+    fraValidita_ = Riquadro(fraGioco, "fraValidita", QStringLiteral("Validità algoritmo"));
+    auto* gv = new QGridLayout(fraValidita_);
+    gv->addWidget(new QLabel(QStringLiteral("Posizione definita dell'ambata"), fraValidita_), 0, 0);
+    CreaCaselle<QCheckBox>(fraValidita_, gv, {0, 1}, QStringLiteral("chkPosizioneA"), 1, NumeriPosizione(),
+                           std::span(chkPosizioneA_).subspan(1));
+    for (int p = 1; p <= 5; ++p) chkPosizioneA_[static_cast<size_t>(p)]->setChecked(true);
     gg->addWidget(fraValidita_, 2, 0, 1, 3);
-    fraCodici_ = new QGroupBox(QStringLiteral("Sorte"), fraGioco);
-    fraCodici_->setObjectName("fraCodici");
-    auto* gc = new QHBoxLayout(fraCodici_);
-    auto* gruppoSorte = new QButtonGroup(this);
-    const char* sorti[] = {"Ambi", "Terni"};
-    for (int i = 0; i < 2; ++i) {
-        optSorte_[static_cast<size_t>(i)] = new QRadioButton(Q(sorti[i]), fraCodici_);
-        optSorte_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("optSorte_%1").arg(i));
-        gruppoSorte->addButton(optSorte_[static_cast<size_t>(i)], i);
-        gc->addWidget(optSorte_[static_cast<size_t>(i)]);
-    }
+
+    fraCodici_ = Riquadro(fraGioco, "fraCodici", QStringLiteral("Sorte"));
+    CreaCaselle<QRadioButton>(fraCodici_, new QGridLayout(fraCodici_), {}, QStringLiteral("optSorte"), 0,
+                              {"Ambi", "Terni"}, optSorte_);
     optSorte_[0]->setChecked(true);
-    fraOperazioni_ = new QGroupBox(QStringLiteral("Operazioni"), fraGioco);
-    fraOperazioni_->setObjectName("fraOperazioni");
-    auto* go = new QHBoxLayout(fraOperazioni_);
-    const char* operazioni[] = {"+", "-", "x"};
-    for (int i = 0; i < 3; ++i) {
-        chkOper_[static_cast<size_t>(i)] = new QCheckBox(Q(operazioni[i]), fraOperazioni_);
-        chkOper_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("chkOper_%1").arg(i));
-        chkOper_[static_cast<size_t>(i)]->setChecked(true);
-        go->addWidget(chkOper_[static_cast<size_t>(i)]);
-    }
+    fraOperazioni_ = Riquadro(fraGioco, "fraOperazioni", QStringLiteral("Operazioni"));
+    CreaCaselle<QCheckBox>(fraOperazioni_, new QGridLayout(fraOperazioni_), {}, QStringLiteral("chkOper"), 0,
+                           {"+", "-", "x"}, chkOper_);
+    for (QCheckBox* c : chkOper_) c->setChecked(true);
     gg->addWidget(fraCodici_, 3, 0, 1, 2);
     gg->addWidget(fraOperazioni_, 3, 2);
-    sinistra->addWidget(fraGioco);
+    return fraGioco;
+}
 
-    cmdCalcola_ = new QPushButton(QStringLiteral("Calcola"), this);
-    cmdCalcola_->setObjectName("cmdCalcola");
-    cmdCalcola_->setMinimumHeight(36);
-    connect(cmdCalcola_, &QPushButton::clicked, this, &FrmCostruttore::Calcola);
-    sinistra->addWidget(cmdCalcola_);
-    sinistra->addStretch();
-
-    // The results.
-    auto* destra = new QVBoxLayout;
-    principale->addLayout(destra, 1);
-    lblDescriviRicerca_ = new QLabel(this);
-    lblDescriviRicerca_->setObjectName("lblDescriviRicerca");
-    lblSortite_ = new QLabel(this);
-    lblSortite_->setObjectName("lblSortite");
-    lblPrevisioni_ = new QLabel(this);
-    lblPrevisioni_->setObjectName("lblPrevisioni");
+// The description of the search, the three lists one over the other, the replay's line.
+void FrmCostruttore::CreaRisultati(QVBoxLayout* destra) {
+    lblDescriviRicerca_ = Etichetta(this, "lblDescriviRicerca");
+    lblSortite_ = Etichetta(this, "lblSortite");
+    lblPrevisioni_ = Etichetta(this, "lblPrevisioni");
     destra->addWidget(lblDescriviRicerca_);
     destra->addWidget(lblSortite_);
     destra->addWidget(lblPrevisioni_);
@@ -307,22 +283,27 @@ void FrmCostruttore::CreaControlli() {
     connect(ListaRisultati_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* r) { ApriAlgoritmo(r); });
 
     auto* rigaVerifica = new QHBoxLayout;
-    lblDescrizioneRisultatiOttenuti_ = new QLabel(this);
-    lblDescrizioneRisultatiOttenuti_->setObjectName("lblDescrizioneRisultatiOttenuti");
-    lblCapo_ = new QLabel(this);
-    lblCapo_->setObjectName("lblCapo");
+    lblDescrizioneRisultatiOttenuti_ = Etichetta(this, "lblDescrizioneRisultatiOttenuti");
+    lblCapo_ = Etichetta(this, "lblCapo");
     QFont grassetto = lblCapo_->font();
     grassetto.setBold(true);
     grassetto.setPointSize(grassetto.pointSize() + 2);
     lblCapo_->setFont(grassetto);
-    lblDataPrevisione_ = new QLabel(this);
-    lblDataPrevisione_->setObjectName("lblDataPrevisione");
+    lblDataPrevisione_ = Etichetta(this, "lblDataPrevisione");
     rigaVerifica->addWidget(lblDescrizioneRisultatiOttenuti_, 1);
     rigaVerifica->addWidget(lblDataPrevisione_);
     rigaVerifica->addWidget(lblCapo_);
     destra->addLayout(rigaVerifica);
+}
 
-    auto* comandi = new QGridLayout;
+// The commands on the results: selection, forecasts, recap, reports, list of cases.
+QGridLayout* FrmCostruttore::CreaComandi() {
+    auto pulsante = [this](const QString& nome, const QString& testo, void (FrmCostruttore::*azione)()) {
+        auto* b = new QPushButton(testo, this);
+        b->setObjectName(nome);
+        if (azione) connect(b, &QPushButton::clicked, this, azione);
+        return b;
+    };
     chkSeleziona_ = new QCheckBox(QStringLiteral("Seleziona tutti"), this);
     chkSeleziona_->setObjectName("chkSeleziona");
     connect(chkSeleziona_, &QCheckBox::clicked, this, [this](bool on) {
@@ -333,49 +314,40 @@ void FrmCostruttore::CreaControlli() {
     chkMigliore_->setObjectName("chkMigliore");
     chkRiepilogo_ = new QCheckBox(QStringLiteral("Vedi dettaglio"), this);
     chkRiepilogo_->setObjectName("chkRiepilogo");
-    txtColpiDaGiocare_ = new QLineEdit(QStringLiteral("9"), this);
-    txtColpiDaGiocare_->setObjectName("txtColpiDaGiocare");
-    txtColpiDaGiocare_->setMaxLength(3);
-    txtColpiDaGiocare_->setValidator(new QIntValidator(0, 999, txtColpiDaGiocare_));
-    txtColpiDaGiocare_->setMaximumWidth(50);
-    auto* selezionaInCorso = new QPushButton(QStringLiteral("Seleziona algoritmi in corso"), this);
-    selezionaInCorso->setObjectName("cmdSelezionaAlgoInCorso");
-    connect(selezionaInCorso, &QPushButton::clicked, this, &FrmCostruttore::SelezionaInCorso);
-    auto* previsioni = new QPushButton(QStringLiteral("Calcolo previsioni..."), this);
-    previsioni->setObjectName("cmdCalcoloPrevisioni");
-    connect(previsioni, &QPushButton::clicked, this, &FrmCostruttore::CalcolaPrevisioni);
+    txtColpiDaGiocare_ = CasellaColpi(this, "txtColpiDaGiocare");
+    auto* selezionaInCorso = pulsante("cmdSelezionaAlgoInCorso", QStringLiteral("Seleziona algoritmi in corso"),
+                                      &FrmCostruttore::SelezionaInCorso);
+    auto* previsioni = pulsante("cmdCalcoloPrevisioni", QStringLiteral("Calcolo previsioni..."),
+                                &FrmCostruttore::CalcolaPrevisioni);
     const char* report[] = {"Riepilogo della tecnica selezionata", "Dettaglio vincite", "Dettaglio vincite"};
     for (int i = 0; i < 3; ++i) {
-        cmdReport_[static_cast<size_t>(i)] = new QPushButton(Q(report[i]), this);
-        cmdReport_[static_cast<size_t>(i)]->setObjectName(QStringLiteral("cmdReport_%1").arg(i));
+        cmdReport_[static_cast<size_t>(i)] =
+            pulsante(QStringLiteral("cmdReport_%1").arg(i), Q(report[i]), nullptr);
         cmdReport_[static_cast<size_t>(i)]->setEnabled(false);
     }
     cmdReport_[1]->setToolTip(QString::fromUtf8("Disponibile in una prossima versione"));
     cmdReport_[2]->setVisible(false);
     connect(cmdReport_[0], &QPushButton::clicked, this, &FrmCostruttore::Riepilogo);
-    auto* listaSortite = new QPushButton(QStringLiteral("Dettaglio lista delle sortite"), this);
-    listaSortite->setObjectName("cmdListSortite");
-    connect(listaSortite, &QPushButton::clicked, this, &FrmCostruttore::ListaSortite);
-    auto* stampaAlgoritmi = new QPushButton(QStringLiteral("Stampa algoritmi"), this);
-    stampaAlgoritmi->setObjectName("cmdStampaRisultati_0");
-    connect(stampaAlgoritmi, &QPushButton::clicked, this, &FrmCostruttore::StampaAlgoritmi);
-    auto* fileAlgoritmi = new QPushButton(QStringLiteral("Algoritmi su file"), this);
-    fileAlgoritmi->setObjectName("cmdPrintToFileAlgoritmi");
-    connect(fileAlgoritmi, &QPushButton::clicked, this, &FrmCostruttore::FileAlgoritmi);
-    auto* stampaVerifica = new QPushButton(QStringLiteral("Stampa verifica"), this);
-    stampaVerifica->setObjectName("cmdStampaRisultati_1");
-    connect(stampaVerifica, &QPushButton::clicked, this, &FrmCostruttore::StampaVerifica);
-    auto* fileVerifica = new QPushButton(QStringLiteral("Verifica su file"), this);
-    fileVerifica->setObjectName("cmdPrintToFileRisultati");
-    connect(fileVerifica, &QPushButton::clicked, this, &FrmCostruttore::FileVerifica);
+    auto* listaSortite =
+        pulsante("cmdListSortite", QStringLiteral("Dettaglio lista delle sortite"), &FrmCostruttore::ListaSortite);
+    auto* stampaAlgoritmi =
+        pulsante("cmdStampaRisultati_0", QStringLiteral("Stampa algoritmi"), &FrmCostruttore::StampaAlgoritmi);
+    auto* fileAlgoritmi =
+        pulsante("cmdPrintToFileAlgoritmi", QStringLiteral("Algoritmi su file"), &FrmCostruttore::FileAlgoritmi);
+    auto* stampaVerifica =
+        pulsante("cmdStampaRisultati_1", QStringLiteral("Stampa verifica"), &FrmCostruttore::StampaVerifica);
+    auto* fileVerifica =
+        pulsante("cmdPrintToFileRisultati", QStringLiteral("Verifica su file"), &FrmCostruttore::FileVerifica);
     const char* coperture[] = {"cmdCoperturaTotale", "cmdCoperturaTotaleAmbo", "cmdCoperturaTotaleTerzine",
                                "cmdCoperturaTotaleCodici"};
     for (int i = 0; i < 4; ++i) {
-        cmdCopertura_[static_cast<size_t>(i)] = new QPushButton(QStringLiteral("Copertura..."), this);
-        cmdCopertura_[static_cast<size_t>(i)]->setObjectName(coperture[i]);
+        cmdCopertura_[static_cast<size_t>(i)] =
+            pulsante(QString::fromLatin1(coperture[i]), QStringLiteral("Copertura..."), nullptr);
         cmdCopertura_[static_cast<size_t>(i)]->setEnabled(false);
         cmdCopertura_[static_cast<size_t>(i)]->setToolTip(QString::fromUtf8("Disponibile in una prossima versione"));
     }
+
+    auto* comandi = new QGridLayout;
     auto* rigaSelezione = new QHBoxLayout;
     rigaSelezione->addWidget(chkSeleziona_);
     rigaSelezione->addWidget(chkMigliore_);
@@ -395,10 +367,12 @@ void FrmCostruttore::CreaControlli() {
     comandi->addWidget(fileVerifica, 2, 3);
     comandi->addWidget(listaSortite, 3, 0, 1, 2);
     for (int i = 0; i < 4; ++i) comandi->addWidget(cmdCopertura_[static_cast<size_t>(i)], 3, 2);
-    destra->addLayout(comandi);
+    return comandi;
+}
 
-    // Any change of a search control empties the results, so that none is read against
-    // other parameters than its own.
+// Any change of a search control empties the results, so that none is read against other
+// parameters than its own.
+void FrmCostruttore::CollegaSvuotamento() {
     auto svuota = [this] { SvuotaRisultati(); };
     for (auto* b : optSpia_) connect(b, &QRadioButton::toggled, this, [this, svuota](bool on) {
         if (on) {
@@ -553,7 +527,7 @@ void FrmCostruttore::ClicRuota(int indice, bool gioco) {
     caricamento_ = true;
     for (int w = 0; w <= 11; ++w) caselle[static_cast<size_t>(w)]->setChecked(stato[static_cast<size_t>(w)]);
     caricamento_ = false;
-    config::ScriviImpostazione(Ambiente().ini, config::sezioni::Settings, gioco ? "RuoteConNzGioco" : "RuoteConNz",
+    config::ScriviImpostazione(sessione_.ini, config::sezioni::Settings, gioco ? "RuoteConNzGioco" : "RuoteConNz",
                                lettere);
     SvuotaRisultati();
 }
@@ -591,7 +565,7 @@ void FrmCostruttore::Calcola() {
     const bool seleziona = chkSeleziona_->isChecked();
     parametriEsito_ = p;
     Elaborazione::Avvia(
-        this, QStringLiteral("Analisi algoritmi..."),
+        this, sessione_, QStringLiteral("Analisi algoritmi..."),
         [p, ctx, seleziona, risultato](std::stop_token stop, const Progresso& progresso) {
             builder::Avanzamento av{stop, progresso};
             *risultato = builder::CercaAlgoritmi(p, ctx, av, seleziona);
@@ -642,7 +616,7 @@ void FrmCostruttore::closeEvent(QCloseEvent* e) {
         e->ignore();
         return;
     }
-    SalvaPosizione(this, "GorgoLeft", "GorgoTop");
+    SalvaPosizione(this, sessione_.ini, "GorgoLeft", "GorgoTop");
     e->accept();
 }
 
@@ -661,7 +635,7 @@ void FrmCostruttore::StampaAlgoritmi() {
 void FrmCostruttore::FileAlgoritmi() {
     if (esito_.righe.empty()) return;
     const config::ReportTesto r = builder::ReportAlgoritmi(parametriEsito_, esito_, *contesto_->storia);
-    SalvaReportSuFile(this, r.righe(), Q(builder::NomeReportAlgoritmi), DomandaFile::InCalce);
+    SalvaReportSuFile(this, sessione_, r.righe(), Q(builder::NomeReportAlgoritmi), DomandaFile::InCalce);
 }
 
 namespace {
@@ -744,7 +718,7 @@ void FrmCostruttore::Riepilogo() {
     }
     std::vector<std::string> righe = r.testa;
     righe.insert(righe.end(), r.righe.begin(), r.righe.end());
-    auto* f = new FrmReportGorgo(this, righe);
+    auto* f = new FrmReportGorgo(sessione_, this, righe);
     f->show();
 }
 
@@ -767,14 +741,14 @@ void FrmCostruttore::CalcolaPrevisioni() {
         return;
     }
     if (!e.aperta) return;
-    auto* f = new FrmAlgoritmiCalcolati(this, e, builder::StampaPrevisioniRighe(p, e, *contesto_->storia),
+    auto* f = new FrmAlgoritmiCalcolati(sessione_, this, e, builder::StampaPrevisioniRighe(p, e, *contesto_->storia),
                                         builder::ReportPrevisioni(p, e, *contesto_->storia));
     f->show();
 }
 
 void FrmCostruttore::ListaSortite() {
     if (esito_.casi.empty()) return;
-    auto* f = new FrmListaSortite(this, esito_.casi, TestaSpia());
+    auto* f = new FrmListaSortite(sessione_.ini, this, esito_.casi, TestaSpia());
     f->show();
 }
 
@@ -793,7 +767,8 @@ void FrmCostruttore::StampaVerifica() {
 void FrmCostruttore::FileVerifica() {
     if (verifica_.righe.empty() || rigaAperta_ < 0) return;
     const builder::RigaAlgoritmo& riga = esito_.righe[static_cast<size_t>(rigaAperta_)];
-    SalvaReportSuFile(this, builder::ReportVerifica(parametriEsito_, verifica_, riga.descrizione, *contesto_->storia).righe(),
+    SalvaReportSuFile(this, sessione_,
+                      builder::ReportVerifica(parametriEsito_, verifica_, riga.descrizione, *contesto_->storia).righe(),
                       QStringLiteral("RisultatiAlgoritmo"), DomandaFile::InCalce);
 }
 

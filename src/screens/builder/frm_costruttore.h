@@ -18,13 +18,22 @@
 #include "builder/contesto.h"
 #include "builder/ricerca.h"
 #include "builder/verifica.h"
+#include "screens/common/sessione.h"
+
+class QGridLayout;
+class QGroupBox;
+class QVBoxLayout;
+
+namespace gorgo::archives {
+class Archivio;
+}
 
 namespace gorgo::screens {
 
 class FrmCostruttore : public QWidget {
     Q_OBJECT
 public:
-    explicit FrmCostruttore(QWidget* parent = nullptr);
+    FrmCostruttore(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent = nullptr);
     ~FrmCostruttore() override;
 
     // The parameter record as the controls set it.
@@ -40,7 +49,15 @@ protected:
     void closeEvent(QCloseEvent* e) override;
 
 private:
+    // The controls, frame by frame.
     void CreaControlli();
+    QGroupBox* CreaFrameSpia();
+    QGroupBox* CreaFramePeriodo();
+    QGroupBox* CreaFrameRuote();
+    QGroupBox* CreaFrameGioco();
+    void CreaRisultati(QVBoxLayout* destra);
+    QGridLayout* CreaComandi();
+    void CollegaSvuotamento();
     void AggiornaPerTipoRicerca();
     void AggiornaPerSpia();
     void SvuotaRisultati();
@@ -57,6 +74,7 @@ private:
     void FileVerifica();
     QString TestaSpia() const;
 
+    Sessione& sessione_;
     std::unique_ptr<builder::ContestoCostruttore> contesto_;
     builder::EsitoRicerca esito_;
     builder::ParametriRicerca parametriEsito_;  // the parameters the shown results belong to

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 
 #include "builder/report.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
 #include "screens/common/stile.h"
@@ -46,7 +46,8 @@ Piede AggiungiPiede(QWidget* w, QBoxLayout* l, const char* nomeStampa, const cha
 
 }  // namespace
 
-FrmReportGorgo::FrmReportGorgo(QWidget* parent, const std::vector<std::string>& righe) : QWidget(parent, Qt::Window) {
+FrmReportGorgo::FrmReportGorgo(Sessione& sessione, QWidget* parent, const std::vector<std::string>& righe)
+    : QWidget(parent, Qt::Window), sessione_(sessione) {
     setObjectName("frmReportGorgo");
     setWindowTitle(QStringLiteral("Riepilogo della tecnica selezionata"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -64,15 +65,16 @@ FrmReportGorgo::FrmReportGorgo(QWidget* parent, const std::vector<std::string>& 
         OpzioniStampa o;
         StampaReport(this, righe_, o);
     });
-    connect(file, &QPushButton::clicked, this,
-            [this] { SalvaReportSuFile(this, righe_, QStringLiteral("ReportGorgo"), DomandaFile::Sovrascrivi); });
+    connect(file, &QPushButton::clicked, this, [this] {
+        SalvaReportSuFile(this, sessione_, righe_, QStringLiteral("ReportGorgo"), DomandaFile::Sovrascrivi);
+    });
     resize(640, 480);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
 }
 
-FrmAlgoritmiCalcolati::FrmAlgoritmiCalcolati(QWidget* parent, const builder::EsitoPrevisioni& esito,
+FrmAlgoritmiCalcolati::FrmAlgoritmiCalcolati(Sessione& sessione, QWidget* parent, const builder::EsitoPrevisioni& esito,
                                              config::ReportTesto perStampa, config::ReportTesto perFile)
-    : QWidget(parent, Qt::Window), stampa_(std::move(perStampa)), file_(std::move(perFile)) {
+    : QWidget(parent, Qt::Window), sessione_(sessione), stampa_(std::move(perStampa)), file_(std::move(perFile)) {
     setObjectName("frmAlgoritmiCalcolati");
     setWindowTitle(QString::fromStdString(esito.titolo));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -97,13 +99,14 @@ FrmAlgoritmiCalcolati::FrmAlgoritmiCalcolati(QWidget* parent, const builder::Esi
         StampaReport(this, stampa_.righe(), o);
     });
     connect(file, &QPushButton::clicked, this, [this] {
-        SalvaReportSuFile(this, file_.righe(), QStringLiteral("Calcolo_previsioni"), DomandaFile::InCalce);
+        SalvaReportSuFile(this, sessione_, file_.righe(), QStringLiteral("Calcolo_previsioni"), DomandaFile::InCalce);
     });
     resize(800, 400);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
 }
 
-FrmListaSortite::FrmListaSortite(QWidget* parent, const std::vector<builder::CasoSpia>& casi, const QString& testaSpia)
+FrmListaSortite::FrmListaSortite(const config::FileIni& ini, QWidget* parent, const std::vector<builder::CasoSpia>& casi,
+                                 const QString& testaSpia)
     : QWidget(parent, Qt::Window) {
     setObjectName("frmListaSortite");
     setWindowTitle(QStringLiteral("Dettaglio delle sortite"));
@@ -130,7 +133,7 @@ FrmListaSortite::FrmListaSortite(QWidget* parent, const std::vector<builder::Cas
     l->addWidget(esci, 0, Qt::AlignRight);
     connect(esci, &QPushButton::clicked, this, &QWidget::close);
     resize(640, 480);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, ini);
 }
 
 }  // namespace gorgo::screens

@@ -10,15 +10,17 @@
 #include "builder/previsioni.h"
 #include "builder/verifica.h"
 #include "config/report_testo.h"
+#include "screens/common/sessione.h"
 
 namespace gorgo::screens {
 
 class FrmReportGorgo : public QWidget {
     Q_OBJECT
 public:
-    FrmReportGorgo(QWidget* parent, const std::vector<std::string>& righe);
+    FrmReportGorgo(Sessione& sessione, QWidget* parent, const std::vector<std::string>& righe);
 
 private:
+    Sessione& sessione_;
     std::vector<config::RigaTesto> righe_;
 };
 
@@ -26,17 +28,19 @@ class FrmAlgoritmiCalcolati : public QWidget {
     Q_OBJECT
 public:
     // The printed form and the file form of the table differ in one heading.
-    FrmAlgoritmiCalcolati(QWidget* parent, const builder::EsitoPrevisioni& esito, config::ReportTesto stampa,
-                          config::ReportTesto file);
+    FrmAlgoritmiCalcolati(Sessione& sessione, QWidget* parent, const builder::EsitoPrevisioni& esito,
+                          config::ReportTesto stampa, config::ReportTesto file);
 
 private:
+    Sessione& sessione_;
     config::ReportTesto stampa_, file_;
 };
 
 class FrmListaSortite : public QWidget {
     Q_OBJECT
 public:
-    FrmListaSortite(QWidget* parent, const std::vector<builder::CasoSpia>& casi, const QString& testaSpia);
+    FrmListaSortite(const config::FileIni& ini, QWidget* parent, const std::vector<builder::CasoSpia>& casi,
+                    const QString& testaSpia);
 };
 
 }  // namespace gorgo::screens

@@ -1,12 +1,11 @@
 #include "screens/common/aiuto.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QPointer>
 #include <QStringDecoder>
 
 #include "config/cp1252.h"
-#include "screens/common/ambiente.h"
 #include "screens/common/frm_help.h"
 
 namespace gorgo::screens {
@@ -18,11 +17,12 @@ QString InCartella(const std::filesystem::path& cartella, const QString& nome) {
     return QString::fromStdString(cartella.string()) + u'/' + nome;
 }
 
-// One window of each kind, as the screens have one: a second call reuses it.
-template <typename Finestra>
-Finestra* Unica(QPointer<Finestra>& finestra) {
-    if (!finestra) finestra = new Finestra;
-    return finestra;
+// One window of each kind, as the screens have one: a second call reuses the open one.
+template <typename Finestra, typename Risorsa>
+Finestra* Unica(Risorsa& risorsa) {
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (auto* finestra = qobject_cast<Finestra*>(w)) return finestra;
+    return new Finestra(risorsa);
 }
 
 void Porta(QWidget* finestra) {
@@ -38,9 +38,9 @@ QString FileArgomentoAiuto(int contesto) {
     return contesto > 0 && QFileInfo(file).isFile() ? file : QString();
 }
 
-QString FileAiutoUtility() {
+QString FileAiutoUtility(const std::filesystem::path& percorsoProgramma) {
     const QString nome = QStringLiteral("HelpUtility.txt");
-    for (const QString& file : {InCartella(Ambiente().PercorsoProgramma, nome), InCartella(CartellaDati(), nome)})
+    for (const QString& file : {InCartella(percorsoProgramma, nome), InCartella(CartellaDati(), nome)})
         if (!file.isEmpty() && QFileInfo(file).isFile()) return file;
     return {};
 }
@@ -76,18 +76,18 @@ std::optional<QStringList> SezioneAiuto(const QString& testo, const QString& sez
     return sezioneTrovata;
 }
 
-void HelpContext(QWidget* parent, int contesto) {
+void HelpContext(QWidget* parent, const config::FileIni& ini, int contesto) {
     Q_UNUSED(parent);
     const QString file = FileArgomentoAiuto(contesto);
     if (file.isEmpty()) return;
-    static QPointer<FrmAiuto> finestra;
-    Unica(finestra)->MostraArgomento(file);
+    FrmAiuto* finestra = Unica<FrmAiuto>(ini);
+    finestra->MostraArgomento(file);
     Porta(finestra);
 }
 
-void MostraAiuto(QWidget* parent, const QString& sezione) {
+void MostraAiuto(QWidget* parent, Sessione& sessione, const QString& sezione) {
     Q_UNUSED(parent);
-    const QString file = FileAiutoUtility();
+    const QString file = FileAiutoUtility(sessione.PercorsoProgramma);
     if (file.isEmpty()) return;
     QFile f(file);
     if (!f.open(QIODevice::ReadOnly)) return;
@@ -97,8 +97,8 @@ void MostraAiuto(QWidget* parent, const QString& sezione) {
 
     QString titolo = sezione;
     titolo.remove(u'[').remove(u']');
-    static QPointer<FrmHelp> finestra;
-    Unica(finestra)->Mostra(titolo + u' ', *righe);
+    FrmHelp* finestra = Unica<FrmHelp>(sessione);
+    finestra->Mostra(titolo + u' ', *righe);
     Porta(finestra);
 }
 

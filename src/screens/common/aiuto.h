@@ -6,7 +6,10 @@
 #include <QString>
 #include <QStringList>
 #include <QWidget>
+#include <filesystem>
 #include <optional>
+
+#include "screens/common/sessione.h"
 
 namespace gorgo::screens {
 
@@ -23,15 +26,15 @@ inline constexpr const char* SezioneAmbateAmbiTerniMulti = "[Ambate ambi e terni
 inline constexpr const char* SezionePuntiIncogniti = "[Punti incogniti]";
 
 // Shows the topic of a context number in the help window; nothing when there is none.
-void HelpContext(QWidget* parent, int contesto);
+void HelpContext(QWidget* parent, const config::FileIni& ini, int contesto);
 // Shows the section "[titolo]" of HelpUtility.txt in frmHelp; nothing when it is absent.
-void MostraAiuto(QWidget* parent, const QString& sezione);
+void MostraAiuto(QWidget* parent, Sessione& sessione, const QString& sezione);
 
 // The HTML page of a context number (data/help/<n>.html); empty when there is none.
 QString FileArgomentoAiuto(int contesto);
 // HelpUtility.txt: in the program folder when it is there (the user's own), else the one
 // that ships with the program; empty when neither exists.
-QString FileAiutoUtility();
+QString FileAiutoUtility(const std::filesystem::path& percorsoProgramma);
 // The bytes of a help text as text: UTF-8, or Windows-1252 when they are not valid UTF-8.
 QString DecodificaTestoAiuto(const QByteArray& dati);
 // The lines of a section: after the first line that holds the title (letters of either

@@ -5,7 +5,7 @@
 #include <QPointer>
 #include <QVBoxLayout>
 
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/stile.h"
 
 namespace gorgo::screens {
@@ -13,7 +13,7 @@ namespace gorgo::screens {
 CMouse::CMouse() { QApplication::setOverrideCursor(Qt::WaitCursor); }
 CMouse::~CMouse() { QApplication::restoreOverrideCursor(); }
 
-FrmElaborazioni::FrmElaborazioni(QWidget* parent) : QDialog(parent) {
+FrmElaborazioni::FrmElaborazioni(Sessione& sessione, QWidget* parent) : QDialog(parent), sessione_(sessione) {
     setObjectName("frmElaborazioni");
     setWindowTitle(QStringLiteral("   Elaborazione in corso..."));
     auto* l = new QVBoxLayout(this);
@@ -29,7 +29,7 @@ FrmElaborazioni::FrmElaborazioni(QWidget* parent) : QDialog(parent) {
     l->addWidget(prgAvanzamento_);
     l->addWidget(cmdStop_, 0, Qt::AlignHCenter);
     connect(cmdStop_, &QPushButton::clicked, this, &FrmElaborazioni::stopRichiesto);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
 }
 
 void FrmElaborazioni::Descrivi(const QString& testo, int valore, int massimo) {
@@ -40,30 +40,31 @@ void FrmElaborazioni::Descrivi(const QString& testo, int valore, int massimo) {
 
 void FrmElaborazioni::closeEvent(QCloseEvent* e) {
     // Only the end of the job closes the window.
-    if (Ambiente().ElaborazioneInCorso)
+    if (sessione_.ElaborazioneInCorso)
         e->ignore();
     else
         QDialog::closeEvent(e);
 }
 
 void FrmElaborazioni::reject() {
-    if (!Ambiente().ElaborazioneInCorso) QDialog::reject();
+    if (!sessione_.ElaborazioneInCorso) QDialog::reject();
 }
 
-Elaborazione* Elaborazione::Avvia(QWidget* parent, const QString& descrizione, Lavoro lavoro,
+Elaborazione* Elaborazione::Avvia(QWidget* parent, Sessione& sessione, const QString& descrizione, Lavoro lavoro,
                                   std::function<void(bool)> fine) {
     auto* e = new Elaborazione;
-    e->finestra_ = new FrmElaborazioni(parent);
+    e->finestra_ = new FrmElaborazioni(sessione, parent);
     e->finestra_->setAttribute(Qt::WA_DeleteOnClose);
     e->finestra_->Descrivi(descrizione, 0, 1);
     e->mouse_ = new CMouse;
-    Ambiente().ElaborazioneInCorso = true;
+    sessione.ElaborazioneInCorso = true;
     connect(e->finestra_, &FrmElaborazioni::stopRichiesto, e, &Elaborazione::Ferma);
     e->finestra_->show();
 
     QPointer<FrmElaborazioni> finestra = e->finestra_;
     const std::stop_token token = e->stop_.get_token();
-    e->thread_ = std::thread([e, finestra, token, lavoro = std::move(lavoro), fine = std::move(fine)]() mutable {
+    Sessione* stato = &sessione;  // outlives the job: the shell's, or the test's
+    e->thread_ = std::thread([e, stato, finestra, token, lavoro = std::move(lavoro), fine = std::move(fine)]() mutable {
         Progresso progresso = [finestra](const std::string& testo, int valore, int massimo) {
             QMetaObject::invokeMethod(
                 finestra, [finestra, t = QString::fromStdString(testo), valore, massimo] {
@@ -74,9 +75,9 @@ Elaborazione* Elaborazione::Avvia(QWidget* parent, const QString& descrizione, L
         lavoro(token, progresso);
         QMetaObject::invokeMethod(
             e,
-            [e, fine = std::move(fine)] {
+            [e, stato, fine = std::move(fine)] {
                 const bool fermato = e->stop_.stop_requested();
-                Ambiente().ElaborazioneInCorso = false;
+                stato->ElaborazioneInCorso = false;
                 delete e->mouse_;
                 e->mouse_ = nullptr;
                 if (e->finestra_) e->finestra_->close();

@@ -12,6 +12,8 @@
 #include <stop_token>
 #include <thread>
 
+#include "screens/common/sessione.h"
+
 namespace gorgo::screens {
 
 // The busy mouse pointer for the life of the object, put back on every way out.
@@ -26,7 +28,7 @@ public:
 class FrmElaborazioni : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmElaborazioni(QWidget* parent = nullptr);
+    explicit FrmElaborazioni(Sessione& sessione, QWidget* parent = nullptr);
     void Descrivi(const QString& testo, int valore, int massimo);
 
 signals:
@@ -37,6 +39,7 @@ protected:
     void reject() override;
 
 private:
+    Sessione& sessione_;
     QLabel* lblDescrizioneJob_;
     QProgressBar* prgAvanzamento_;
     QPushButton* cmdStop_;
@@ -45,13 +48,13 @@ private:
 using Progresso = std::function<void(const std::string& testo, int valore, int massimo)>;
 using Lavoro = std::function<void(std::stop_token, const Progresso&)>;
 
-// Runs `lavoro` off the window's thread with frmElaborazioni open and ElaborazioneInCorso
-// set; `fine(fermato)` runs on the window's thread when it is over. The object deletes
-// itself after `fine`.
+// Runs `lavoro` off the window's thread with frmElaborazioni open and the session's
+// ElaborazioneInCorso set; `fine(fermato)` runs on the window's thread when it is over. The
+// object deletes itself after `fine`.
 class Elaborazione : public QObject {
     Q_OBJECT
 public:
-    static Elaborazione* Avvia(QWidget* parent, const QString& descrizione, Lavoro lavoro,
+    static Elaborazione* Avvia(QWidget* parent, Sessione& sessione, const QString& descrizione, Lavoro lavoro,
                                std::function<void(bool fermato)> fine);
     void Ferma();
     FrmElaborazioni* finestra() const { return finestra_.data(); }

@@ -9,7 +9,7 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
 #include "screens/common/stile.h"
@@ -26,7 +26,7 @@ QPushButton* Pulsante(QWidget* finestra, const char* nome, const QString& testo)
 
 }  // namespace
 
-FrmHelp::FrmHelp(QWidget* parent) : QWidget(parent, Qt::Window) {
+FrmHelp::FrmHelp(Sessione& sessione, QWidget* parent) : QWidget(parent, Qt::Window), sessione_(sessione) {
     setObjectName("frmHelp");
     setAttribute(Qt::WA_DeleteOnClose);
     resize(620, 460);
@@ -50,7 +50,7 @@ FrmHelp::FrmHelp(QWidget* parent) : QWidget(parent, Qt::Window) {
     connect(cmdStampaRisultati, &QPushButton::clicked, this, &FrmHelp::Stampa);
     connect(cmdPrintToFile, &QPushButton::clicked, this, &FrmHelp::SuFile);
     connect(command1, &QPushButton::clicked, this, &QWidget::close);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
 }
 
 void FrmHelp::Mostra(const QString& titolo, const QStringList& righe) {
@@ -90,10 +90,10 @@ void FrmHelp::SuFile() {
         MostraMessaggio(this, {std::string(config::NullaDaStampare), "", archives::Icona::Esclamazione});
         return;
     }
-    SalvaReportSuFile(this, report, QStringLiteral("Help.txt"), DomandaFile::Sovrascrivi);
+    SalvaReportSuFile(this, sessione_, report, QStringLiteral("Help.txt"), DomandaFile::Sovrascrivi);
 }
 
-FrmAiuto::FrmAiuto(QWidget* parent) : QWidget(parent, Qt::Window) {
+FrmAiuto::FrmAiuto(const config::FileIni& ini, QWidget* parent) : QWidget(parent, Qt::Window) {
     setObjectName("frmAiuto");
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(QStringLiteral("Aiuto"));
@@ -127,7 +127,7 @@ FrmAiuto::FrmAiuto(QWidget* parent) : QWidget(parent, Qt::Window) {
         setWindowTitle(titolo.isEmpty() ? QStringLiteral("Aiuto") : QStringLiteral("Aiuto - ") + titolo);
     });
     connect(cmdEsci, &QPushButton::clicked, this, &QWidget::close);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, ini);
 }
 
 void FrmAiuto::MostraArgomento(const QString& file) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "config/report_testo.h"
+#include "screens/common/sessione.h"
 
 class QListWidget;
 class QTextBrowser;
@@ -16,7 +17,7 @@ namespace gorgo::screens {
 class FrmHelp : public QWidget {
     Q_OBJECT
 public:
-    explicit FrmHelp(QWidget* parent = nullptr);
+    explicit FrmHelp(Sessione& sessione, QWidget* parent = nullptr);
 
     // The caption, then the list emptied and filled with the lines.
     void Mostra(const QString& titolo, const QStringList& righe);
@@ -27,13 +28,14 @@ private:
     void Stampa();
     void SuFile();
 
+    Sessione& sessione_;
     QListWidget* lstHelp_;
 };
 
 class FrmAiuto : public QWidget {
     Q_OBJECT
 public:
-    explicit FrmAiuto(QWidget* parent = nullptr);
+    explicit FrmAiuto(const config::FileIni& ini, QWidget* parent = nullptr);
 
     // Shows an HTML page; its links to the other topics open in the same window.
     void MostraArgomento(const QString& file);

@@ -18,7 +18,6 @@
 #include <cmath>
 #include <filesystem>
 
-#include "screens/common/ambiente.h"
 #include "screens/common/messaggi.h"
 
 namespace gorgo::screens {
@@ -37,14 +36,10 @@ QString SalvaConDialogo(QWidget* parent, const QString& titolo, const QString& p
 }
 
 // The folder of the last report saved in this run; the program folder before the first.
-QString& UltimaCartella() {
-    static QString cartella;
-    return cartella;
-}
-
-QString CartellaProposta() {
-    if (!UltimaCartella().isEmpty() && QFileInfo(UltimaCartella()).isDir()) return UltimaCartella();
-    const auto& programma = Ambiente().PercorsoProgramma;
+QString CartellaProposta(const Sessione& sessione) {
+    if (!sessione.UltimaCartellaReport.isEmpty() && QFileInfo(sessione.UltimaCartellaReport).isDir())
+        return sessione.UltimaCartellaReport;
+    const auto& programma = sessione.PercorsoProgramma;
     if (!programma.empty()) return QString::fromStdString(programma.string());
     return QCoreApplication::applicationDirPath();
 }
@@ -270,13 +265,14 @@ bool StampaReportPdf(const QString& file, std::span<const config::RigaTesto> rig
     return true;
 }
 
-bool SalvaReportSuFile(QWidget* parent, std::span<const config::RigaTesto> righe, const QString& nomeProposto,
-                       DomandaFile domanda, const QString& filtro) {
+bool SalvaReportSuFile(QWidget* parent, Sessione& sessione, std::span<const config::RigaTesto> righe,
+                       const QString& nomeProposto, DomandaFile domanda, const QString& filtro) {
     if (righe.empty()) return false;
     const QString estensione = EstensioneFiltro(filtro);
     QString nome = nomeProposto;
     if (!nome.isEmpty() && QFileInfo(nome).suffix().isEmpty()) nome += estensione;
-    const QString proposto = nome.isEmpty() ? CartellaProposta() : QDir(CartellaProposta()).filePath(nome);
+    const QString cartella = CartellaProposta(sessione);
+    const QString proposto = nome.isEmpty() ? cartella : QDir(cartella).filePath(nome);
 
     QString scelto = ScegliFileReport ? ScegliFileReport(parent, DaUtf8(config::TitoloSalvaRisultati), proposto,
                                                          FiltroQt(filtro))
@@ -284,7 +280,7 @@ bool SalvaReportSuFile(QWidget* parent, std::span<const config::RigaTesto> righe
     if (scelto.isEmpty()) return false;
     if (QFileInfo(scelto).suffix().isEmpty() && !scelto.endsWith(u'.')) scelto += estensione;
     const QFileInfo info(scelto);
-    UltimaCartella() = info.absolutePath();
+    sessione.UltimaCartellaReport = info.absolutePath();
 
     auto modo = config::ModoScrittura::Nuovo;
     if (info.exists()) {

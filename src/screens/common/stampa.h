@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "config/report_testo.h"
+#include "screens/common/sessione.h"
 
 class QPrinter;
 
@@ -32,12 +33,13 @@ bool StampaReport(QWidget* parent, std::span<const config::RigaTesto> righe, con
 // Writes the printed pages as a PDF file, with no dialog. False on failure.
 bool StampaReportPdf(const QString& file, std::span<const config::RigaTesto> righe, const OpzioniStampa& opzioni);
 
-// The file side of a report: the save dialog ("Salva risultati su file"), the question
-// when the file exists (append/overwrite or overwrite only), the write. False when nothing
-// was written.
+// The file side of a report: the save dialog ("Salva risultati su file") in the session's
+// folder of the last report, the question when the file exists (append/overwrite or
+// overwrite only), the write. False when nothing was written.
 enum class DomandaFile { InCalce, Sovrascrivi };
-bool SalvaReportSuFile(QWidget* parent, std::span<const config::RigaTesto> righe, const QString& nomeProposto,
-                       DomandaFile domanda, const QString& filtro = QStringLiteral("File di testo (*.Txt)"));
+bool SalvaReportSuFile(QWidget* parent, Sessione& sessione, std::span<const config::RigaTesto> righe,
+                       const QString& nomeProposto, DomandaFile domanda,
+                       const QString& filtro = QStringLiteral("File di testo (*.Txt)"));
 
 // The save dialog and the question of SalvaReportSuFile, replaceable (tests answer them
 // without a window). The dialog gets the title, the proposed path and a Qt filter, and

@@ -6,14 +6,14 @@
 #include <fmt/format.h>
 
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 
 namespace gorgo::screens {
 
 namespace {
 
-long long LeggiTwips(const char* chiave, long long predefinito) {
-    const std::string v = config::LeggiImpostazione(Ambiente().ini, config::sezioni::Forms, chiave,
+long long LeggiTwips(const config::FileIni& ini, const char* chiave, long long predefinito) {
+    const std::string v = config::LeggiImpostazione(ini, config::sezioni::Forms, chiave,
                                                     fmt::format("{}", predefinito));
     try {
         size_t fine = 0;
@@ -35,9 +35,9 @@ void Centra(QWidget* f) {
             std::max(a.y(), a.y() + (a.height() - f->frameGeometry().height()) / 2));
 }
 
-void RipristinaPosizione(QWidget* f, const char* chiaveLeft, const char* chiaveTop) {
+void RipristinaPosizione(QWidget* f, const config::FileIni& ini, const char* chiaveLeft, const char* chiaveTop) {
     const QScreen* s = f->screen() ? f->screen() : QGuiApplication::primaryScreen();
-    const long long left = LeggiTwips(chiaveLeft, 1000), top = LeggiTwips(chiaveTop, 1000);
+    const long long left = LeggiTwips(ini, chiaveLeft, 1000), top = LeggiTwips(ini, chiaveTop, 1000);
     const QPoint p(PixelDaTwips(left, s), PixelDaTwips(top, s));
     // A place saved on a screen that is gone, or off every screen, falls back to the centre.
     for (const QScreen* schermo : QGuiApplication::screens()) {
@@ -51,13 +51,13 @@ void RipristinaPosizione(QWidget* f, const char* chiaveLeft, const char* chiaveT
     Centra(f);
 }
 
-void SalvaPosizione(QWidget* f, const char* chiaveLeft, const char* chiaveTop) {
+void SalvaPosizione(QWidget* f, config::FileIni& ini, const char* chiaveLeft, const char* chiaveTop) {
     // Only a real move is written, so closing an untouched window leaves the file as it was.
     if (f->isMinimized() || f->property("posizioneLetta").toPoint() == f->pos()) return;
     const QScreen* s = f->screen();
     const std::string left = fmt::format("{}", TwipsDaPixel(f->x(), s)), top = fmt::format("{}", TwipsDaPixel(f->y(), s));
     const config::CoppiaChiaveValore valori[] = {{chiaveLeft, left}, {chiaveTop, top}};
-    Ambiente().ini.Scrivi(config::sezioni::Forms, valori);
+    ini.Scrivi(config::sezioni::Forms, valori);
 }
 
 }  // namespace gorgo::screens

@@ -5,6 +5,10 @@
 #include <QScreen>
 #include <QWidget>
 
+namespace gorgo::config {
+class FileIni;
+}
+
 namespace gorgo::screens {
 
 inline double TwipsPerPixel(const QScreen* s) {
@@ -16,11 +20,11 @@ inline long long TwipsDaPixel(int pixel, const QScreen* s) {
     return static_cast<long long>(pixel * TwipsPerPixel(s) + 0.5);
 }
 
-// Reads left/top (twips) from section Forms and places the window there, or at the given
-// default when the place would be off every screen.
-void RipristinaPosizione(QWidget* finestra, const char* chiaveLeft, const char* chiaveTop);
+// Reads left/top (twips) from section Forms of the settings and places the window there, or
+// in the centre when the place would be off every screen.
+void RipristinaPosizione(QWidget* finestra, const config::FileIni& ini, const char* chiaveLeft, const char* chiaveTop);
 // Writes the place back, unless the window is minimised.
-void SalvaPosizione(QWidget* finestra, const char* chiaveLeft, const char* chiaveTop);
+void SalvaPosizione(QWidget* finestra, config::FileIni& ini, const char* chiaveLeft, const char* chiaveTop);
 // Centre of the screen the window is on.
 void Centra(QWidget* finestra);
 

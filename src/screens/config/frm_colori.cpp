@@ -11,8 +11,8 @@
 #include <charconv>
 #include <string>
 
+#include "archives/archivio.h"
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
 
@@ -38,7 +38,8 @@ QColor Predefinito(std::size_t indice) {
 
 }  // namespace
 
-FrmColori::FrmColori(QWidget* parent) : QDialog(parent) {
+FrmColori::FrmColori(Sessione& sessione, const archives::Archivio* archivio, QWidget* parent)
+    : QDialog(parent), sessione_(sessione), archivio_(archivio) {
     setObjectName("frmColori");
     setWindowTitle(QStringLiteral("Colori"));
     sceltaColore = [](QWidget* genitore, const QColor& iniziale) { return QColorDialog::getColor(iniziale, genitore); };
@@ -88,12 +89,12 @@ FrmColori::FrmColori(QWidget* parent) : QDialog(parent) {
     for (std::size_t i = 0; i < 3; ++i) {
         bool ok = false;
         const QColor c =
-            ColoreDaTesto(config::LeggiImpostazione(Ambiente().ini, config::sezioni::Settings, ChiaviColori[i],
+            ColoreDaTesto(config::LeggiImpostazione(sessione_.ini, config::sezioni::Settings, ChiaviColori[i],
                                                     config::Predefinito(config::sezioni::Settings, ChiaviColori[i])),
                           ok);
         ImpostaColore(i, ok ? c : Predefinito(i));
     }
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
 }
 
 void FrmColori::ImpostaColore(std::size_t indice, const QColor& c) {
@@ -109,24 +110,25 @@ void FrmColori::Conferma() {
     for (std::size_t i = 0; i < 3; ++i) testi[i] = std::to_string(ImpostazioneDaColore(colori_[i]));
     const config::CoppiaChiaveValore valori[] = {
         {ChiaviColori[0], testi[0]}, {ChiaviColori[1], testi[1]}, {ChiaviColori[2], testi[2]}};
-    Ambiente().ini.Scrivi(config::sezioni::Settings, valori);
+    sessione_.ini.Scrivi(config::sezioni::Settings, valori);
     for (QWidget* w : QApplication::topLevelWidgets())
         if (w->isVisible() && (w->windowType() == Qt::Window || w->windowType() == Qt::Dialog))
-            ApplicaStile(w, Ambiente().ini);
+            ApplicaStile(w, sessione_.ini);
     emit coloriCambiati();
     accept();
 }
 
 bool FrmColori::eventFilter(QObject* oggetto, QEvent* evento) {
     if (evento->type() == QEvent::MouseButtonDblClick) {
-        const auto& a = Ambiente();
-        if (oggetto == lblColore_[1] && a.archivio) {
-            const int32_t n = a.archivio->NumeroEstrazioni();
-            MostraMessaggio(this, {a.archivio->DataEstrazione(n) + " - " + std::to_string(n), "", archives::Icona::Nessuna});
+        if (oggetto == lblColore_[1] && archivio_) {
+            const int32_t n = archivio_->NumeroEstrazioni();
+            MostraMessaggio(this,
+                            {archivio_->DataEstrazione(n) + " - " + std::to_string(n), "", archives::Icona::Nessuna});
             return true;
         }
         if (oggetto == lblColore_[2]) {
-            MostraMessaggio(this, {"Path applicazione = " + a.PercorsoProgramma.string(), "", archives::Icona::Nessuna});
+            MostraMessaggio(this, {"Path applicazione = " + sessione_.PercorsoProgramma.string(), "",
+                                   archives::Icona::Nessuna});
             return true;
         }
     }

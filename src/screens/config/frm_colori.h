@@ -7,15 +7,22 @@
 #include <array>
 #include <functional>
 
+#include "screens/common/sessione.h"
+
 class QLabel;
 class QPushButton;
+
+namespace gorgo::archives {
+class Archivio;
+}
 
 namespace gorgo::screens {
 
 class FrmColori : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmColori(QWidget* parent = nullptr);
+    // The archive, when there is one, only for the diagnostic double click on a label.
+    FrmColori(Sessione& sessione, const archives::Archivio* archivio, QWidget* parent = nullptr);
 
     // The colour a swatch shows: 0 form, 1 labels, 2 lists.
     QColor Colore(int indice) const { return colori_.at(static_cast<std::size_t>(indice)); }
@@ -34,6 +41,8 @@ private:
     void ImpostaColore(std::size_t indice, const QColor& c);
     void Conferma();
 
+    Sessione& sessione_;
+    const archives::Archivio* archivio_;
     std::array<QColor, 3> colori_;
     std::array<QPushButton*, 3> cmdColore_{};
     std::array<QLabel*, 3> lblColore_{};

@@ -8,7 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
 
@@ -19,13 +19,14 @@ namespace {
 
 }  // namespace
 
-FrmEsclusioni::FrmEsclusioni(QWidget* parent) : QDialog(parent) {
+FrmEsclusioni::FrmEsclusioni(config::FileIni& ini, QWidget* parent) : QDialog(parent), ini_(ini) {
     setObjectName("frmEsclusioni");
     setWindowTitle(QStringLiteral("Opzioni"));
     setModal(true);
 
     auto* principale = new QVBoxLayout(this);
-    principale->addLayout(CreaCaselle(this, QStringLiteral("chkDay"), NomiGiorniCaselle(), 4, chkDay_));
+    principale->addLayout(CreaCaselle<QCheckBox>(this, new QGridLayout, {.perRiga = 4}, QStringLiteral("chkDay"), 1,
+                                                 NomiGiorniCaselle(), std::span(chkDay_).subspan(1)));
     chkLoadTipsAtStartup_ = new QCheckBox(QStringLiteral("&Mostra i suggerimenti all'avvio"), this);
     chkLoadTipsAtStartup_->setObjectName("chkLoadTipsAtStartup");
     principale->addWidget(chkLoadTipsAtStartup_);
@@ -43,10 +44,10 @@ FrmEsclusioni::FrmEsclusioni(QWidget* parent) : QDialog(parent) {
     connect(cmdOk, &QPushButton::clicked, this, &FrmEsclusioni::Conferma);
     connect(cmdAnnulla, &QPushButton::clicked, this, &FrmEsclusioni::reject);
 
-    const auto s = config::CaricaGiorniEstrazione(Ambiente().ini);
+    const auto s = config::CaricaGiorniEstrazione(ini_);
     for (std::size_t g = 1; g <= 7; ++g) chkDay_[g]->setChecked(s.chkDay[g]);
     chkLoadTipsAtStartup_->setChecked(s.chkLoadTipsAtStartup);
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, ini_);
 }
 
 config::ScelteEsclusioni FrmEsclusioni::Scelte() const {
@@ -57,7 +58,7 @@ config::ScelteEsclusioni FrmEsclusioni::Scelte() const {
 }
 
 void FrmEsclusioni::Conferma() {
-    const archives::Messaggio errore = config::SalvaGiorniEstrazione(Ambiente().ini, Scelte());
+    const archives::Messaggio errore = config::SalvaGiorniEstrazione(ini_, Scelte());
     if (!errore.vuoto()) {
         MostraMessaggio(this, errore);
         return;

@@ -8,18 +8,23 @@
 
 class QCheckBox;
 
+namespace gorgo::config {
+class FileIni;
+}
+
 namespace gorgo::screens {
 
 class FrmEsclusioni : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmEsclusioni(QWidget* parent = nullptr);
+    explicit FrmEsclusioni(config::FileIni& ini, QWidget* parent = nullptr);
 
     config::ScelteEsclusioni Scelte() const;
 
 private:
     void Conferma();
 
+    config::FileIni& ini_;
     std::array<QCheckBox*, 8> chkDay_{};
     QCheckBox* chkLoadTipsAtStartup_;
 };

@@ -13,7 +13,7 @@
 #include <string>
 
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/twips.h"
 #include "screens/common/caselle.h"
 #include "screens/common/aiuto.h"
@@ -29,7 +29,7 @@ constexpr std::string_view Schermo = "frmOpzioni";
 
 }  // namespace
 
-FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
+FrmOpzioni::FrmOpzioni(config::FileIni& ini, QWidget* parent) : QDialog(parent), ini_(ini) {
     setObjectName(QString::fromLatin1(Schermo.data(), static_cast<qsizetype>(Schermo.size())));
     setWindowTitle(QStringLiteral("Restrizioni di ricerca"));
     setModal(true);
@@ -41,13 +41,15 @@ FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
     chkGiorni_->setToolTip(
         QStringLiteral("Inserisce un periodo di indagine limitato ai giorni della settimana indicati"));
     principale->addWidget(chkGiorni_);
-    principale->addLayout(CreaCaselle(this, QStringLiteral("chkDay"), NomiGiorniCaselle(), 4, chkDay_));
+    principale->addLayout(CreaCaselle<QCheckBox>(this, new QGridLayout, {.perRiga = 4}, QStringLiteral("chkDay"), 1,
+                                                 NomiGiorniCaselle(), std::span(chkDay_).subspan(1)));
 
     chkMesi_ = new QCheckBox(QStringLiteral("Considera solo estrazioni\navvenute nei seguenti mesi:"), this);
     chkMesi_->setObjectName("chkMesi");
     chkMesi_->setToolTip(QStringLiteral("Inserisce un periodo di indagine limitato ai mesi indicati"));
     principale->addWidget(chkMesi_);
-    principale->addLayout(CreaCaselle(this, QStringLiteral("chkMese"), NomiMesiCaselle(), 4, chkMese_));
+    principale->addLayout(CreaCaselle<QCheckBox>(this, new QGridLayout, {.perRiga = 4}, QStringLiteral("chkMese"), 1,
+                                                 NomiMesiCaselle(), std::span(chkMese_).subspan(1)));
 
     chkPeriodo_ = new QCheckBox(QStringLiteral("Considera solo estrazioni avvenute nel seguente periodo:"), this);
     chkPeriodo_->setObjectName("chkPeriodo");
@@ -90,12 +92,12 @@ FrmOpzioni::FrmOpzioni(QWidget* parent) : QDialog(parent) {
     connect(chkPeriodo_, &QCheckBox::toggled, this, &FrmOpzioni::AggiornaGruppi);
     connect(cmdOk, &QPushButton::clicked, this, &FrmOpzioni::Conferma);
     connect(cmdAnnulla, &QPushButton::clicked, this, &FrmOpzioni::reject);
-    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoOpzioni); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, ini_, AiutoOpzioni); });
 
-    Carica(config::CaricaScelteRestrizioni(Ambiente().ini));
-    ApplicaStile(this, Ambiente().ini);
+    Carica(config::CaricaScelteRestrizioni(ini_));
+    ApplicaStile(this, ini_);
 
-    RipristinaPosizione(this, "OpzioniLeft", "OpzioniTop");
+    RipristinaPosizione(this, ini_, "OpzioniLeft", "OpzioniTop");
 }
 
 config::ScelteRestrizioni FrmOpzioni::Scelte() const {
@@ -135,7 +137,7 @@ void FrmOpzioni::AggiornaGruppi() {
 }
 
 void FrmOpzioni::Conferma() {
-    const auto esito = config::SalvaRestrizioni(Ambiente().ini, Scelte());
+    const auto esito = config::SalvaRestrizioni(ini_, Scelte());
     for (std::size_t i = 0; i < 2; ++i)
         if (esito.cboGiorno[i] >= 1 && esito.cboGiorno[i] <= 31) cboGiorno_[i]->setCurrentIndex(esito.cboGiorno[i] - 1);
     if (!esito.errore.vuoto()) {
@@ -147,7 +149,7 @@ void FrmOpzioni::Conferma() {
 }
 
 void FrmOpzioni::done(int risultato) {
-    SalvaPosizione(this, "OpzioniLeft", "OpzioniTop");
+    SalvaPosizione(this, ini_, "OpzioniLeft", "OpzioniTop");
     QDialog::done(risultato);
 }
 

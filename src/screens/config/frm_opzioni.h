@@ -12,12 +12,16 @@
 class QCheckBox;
 class QComboBox;
 
+namespace gorgo::config {
+class FileIni;
+}
+
 namespace gorgo::screens {
 
 class FrmOpzioni : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmOpzioni(QWidget* parent = nullptr);
+    explicit FrmOpzioni(config::FileIni& ini, QWidget* parent = nullptr);
 
     // What the controls show, in the record of the core.
     config::ScelteRestrizioni Scelte() const;
@@ -34,6 +38,7 @@ private:
     void AggiornaGruppi();
     void Conferma();
 
+    config::FileIni& ini_;
     QCheckBox* chkGiorni_;
     QCheckBox* chkMesi_;
     QCheckBox* chkPeriodo_;

@@ -7,13 +7,13 @@
 #include <string>
 
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
 
 namespace gorgo::screens {
 
-FrmUrl::FrmUrl(QWidget* parent) : QDialog(parent) {
+FrmUrl::FrmUrl(config::FileIni& ini, QWidget* parent) : QDialog(parent), ini_(ini) {
     setObjectName("frmUrl");
     setWindowTitle(QStringLiteral("Url"));
     setModal(true);
@@ -37,8 +37,8 @@ FrmUrl::FrmUrl(QWidget* parent) : QDialog(parent) {
     connect(cmdEsci, &QPushButton::clicked, this, &FrmUrl::reject);
 
     txtUrl_->setText(QString::fromStdString(config::LeggiImpostazione(
-        Ambiente().ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
-    ApplicaStile(this, Ambiente().ini);
+        ini_, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
+    ApplicaStile(this, ini_);
 }
 
 void FrmUrl::Aggiorna() {
@@ -51,7 +51,7 @@ void FrmUrl::Aggiorna() {
         MostraMessaggio(this, errore);
         return;
     }
-    config::ScriviImpostazione(Ambiente().ini, config::sezioni::Options, "Url", url);
+    config::ScriviImpostazione(ini_, config::sezioni::Options, "Url", url);
     accept();
 }
 

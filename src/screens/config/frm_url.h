@@ -5,16 +5,21 @@
 
 class QLineEdit;
 
+namespace gorgo::config {
+class FileIni;
+}
+
 namespace gorgo::screens {
 
 class FrmUrl : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmUrl(QWidget* parent = nullptr);
+    explicit FrmUrl(config::FileIni& ini, QWidget* parent = nullptr);
 
 private:
     void Aggiorna();
 
+    config::FileIni& ini_;
     QLineEdit* txtUrl_;
 };
 

@@ -14,7 +14,6 @@
 #include "maintenance/importazione.h"
 #include "maintenance/internet.h"
 #include "network/scaricatore.h"
-#include "screens/common/ambiente.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
 
@@ -55,8 +54,8 @@ std::string DataLunga(const archives::Data& d) {
     return fmt::format("{} {} {} {}", archives::NomeGiorno(d.giornoSettimana()), d.giorno, archives::NomeMese(d.mese), d.anno);
 }
 
-std::string LeggiUrl(std::string_view chiave) {
-    return config::LeggiImpostazione(Ambiente().ini, config::sezioni::Options, chiave,
+std::string LeggiUrl(const config::FileIni& ini, std::string_view chiave) {
+    return config::LeggiImpostazione(ini, config::sezioni::Options, chiave,
                                      config::Predefinito(config::sezioni::Options, chiave));
 }
 
@@ -64,9 +63,10 @@ std::string LeggiUrl(std::string_view chiave) {
 
 // ---- frmAggiornaInternet and frmAggiornaSuperInternet ------------------------------------
 
-FrmAggiornaInternetBase::FrmAggiornaInternetBase(m::Gioco gioco, const char* nome, const QString& titolo,
-                                                 QWidget* parent)
-    : QWidget(parent, Qt::Window), gioco_(gioco), scaricatore_(new network::Scaricatore(this)) {
+FrmAggiornaInternetBase::FrmAggiornaInternetBase(Sessione& sessione, archives::Archivio& archivio, m::Gioco gioco,
+                                                 const char* nome, const QString& titolo, QWidget* parent)
+    : QWidget(parent, Qt::Window), sessione_(sessione), archivio_(archivio), gioco_(gioco),
+      scaricatore_(new network::Scaricatore(this)) {
     setObjectName(nome);
     setWindowTitle(titolo);
 
@@ -116,28 +116,27 @@ FrmAggiornaInternetBase::FrmAggiornaInternetBase(m::Gioco gioco, const char* nom
     connect(scaricatore_, &network::Scaricatore::terminato, this, &FrmAggiornaInternetBase::FineScaricamento);
 
     MostraUltima();
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
     // After the standard tips, which give every cmdAnnulla its generic one.
     cmdAnnulla_->setToolTip(QStringLiteral("Interrompe la connessione"));
     cmdEsci_->setToolTip(QStringLiteral("Esci senza modificare nulla"));
     setMinimumWidth(560);
 }
 
-FrmAggiornaInternet::FrmAggiornaInternet(QWidget* parent)
-    : FrmAggiornaInternetBase(m::Gioco::Lotto, "frmAggiornaInternet",
+FrmAggiornaInternet::FrmAggiornaInternet(Sessione& sessione, archives::Archivio& archivio, QWidget* parent)
+    : FrmAggiornaInternetBase(sessione, archivio, m::Gioco::Lotto, "frmAggiornaInternet",
                               QStringLiteral("Aggiormanemto estrazioni lotto da Internet"), parent) {}
 
-FrmAggiornaSuperInternet::FrmAggiornaSuperInternet(QWidget* parent)
-    : FrmAggiornaInternetBase(m::Gioco::SuperEnalotto, "frmAggiornaSuperInternet",
+FrmAggiornaSuperInternet::FrmAggiornaSuperInternet(Sessione& sessione, archives::Archivio& archivio, QWidget* parent)
+    : FrmAggiornaInternetBase(sessione, archivio, m::Gioco::SuperEnalotto, "frmAggiornaSuperInternet",
                               QStringLiteral("Aggiornamento estrazioni Superenalotto da Internet"), parent) {}
 
 std::filesystem::path FrmAggiornaInternetBase::CopiaLocale() const {
-    return m::CopiaLocale(Ambiente().PercorsoProgramma, gioco_);
+    return m::CopiaLocale(sessione_.PercorsoProgramma, gioco_);
 }
 
 void FrmAggiornaInternetBase::MostraUltima() {
-    const archives::Archivio* a = Ambiente().archivio.get();
-    if (!a) return;
+    const archives::Archivio* a = &archivio_;
     if (gioco_ == m::Gioco::Lotto && a->NumeroEstrazioni() > 0) {
         const archives::RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
         lblNumero_->setText(QString::number(r.NumeroAnno));
@@ -168,7 +167,7 @@ void FrmAggiornaInternetBase::Stato(int stato, int codice, const QString& testo)
 
 void FrmAggiornaInternetBase::Scarica() {
     errore_ = false;
-    const std::string indirizzo = m::IndirizzoAggiornamento(LeggiUrl("Url"), gioco_);
+    const std::string indirizzo = m::IndirizzoAggiornamento(LeggiUrl(sessione_.ini, "Url"), gioco_);
     cmdAnnulla_->setEnabled(true);
     cmdScarica_->setEnabled(false);
     cmdApri_->setEnabled(false);
@@ -190,9 +189,8 @@ void FrmAggiornaInternetBase::FineScaricamento() {
     const network::RisultatoScaricamento& r = scaricatore_->Risultato();
     const m::Scaricamento s = r.PerIlNucleo();
     const std::filesystem::path copia = CopiaLocale();
-    archives::Archivio* a = Ambiente().archivio.get();
+    archives::Archivio* a = &archivio_;
     try {
-        if (!a) throw archives::ErroreArchivio("archivio non aperto");
         const auto passo = [&](m::RispostaAllineamento risposta) {
             return m::AggiornamentoInternet(*a, s, gioco_, copia, risposta);
         };
@@ -233,8 +231,7 @@ void FrmAggiornaInternetBase::Apri() {
             MostraMessaggio(this, m::ErrFile(copia.string()));
             return;
         }
-        archives::Archivio* a = Ambiente().archivio.get();
-        if (!a) throw archives::ErroreArchivio("archivio non aperto");
+        archives::Archivio* a = &archivio_;
         const auto passo = [&](m::RispostaAllineamento risposta) {
             return m::AggiornamentoDaCopiaLocale(*a, *dati, gioco_, copia, risposta);
         };
@@ -280,9 +277,9 @@ void FrmAggiornaInternetBase::Aggiorna() {
     if (!cmdAggiorna_->isEnabled()) return;
     const std::filesystem::path copia = CopiaLocale();
     try {
-        archives::Archivio* a = Ambiente().archivio.get();
+        archives::Archivio* a = &archivio_;
         const auto dati = m::LeggiFileAggiornamento(copia);
-        if (!a || !dati) throw archives::ErroreArchivio(copia.string());
+        if (!dati) throw archives::ErroreArchivio(copia.string());
         const m::EsitoAggiornamento e = m::ApplicaAggiornamento(*a, *dati, gioco_, copia.string());
         if (!e.riuscito) {
             cmdAggiorna_->setEnabled(false);
@@ -312,8 +309,8 @@ void FrmAggiornaInternetBase::closeEvent(QCloseEvent* e) {
 
 // ---- frmScaricaStorico --------------------------------------------------------------------
 
-FrmScaricaStorico::FrmScaricaStorico(QWidget* parent)
-    : QWidget(parent, Qt::Window), scaricatore_(new network::Scaricatore(this)) {
+FrmScaricaStorico::FrmScaricaStorico(Sessione& sessione, archives::Archivio& archivio, QWidget* parent)
+    : QWidget(parent, Qt::Window), sessione_(sessione), archivio_(archivio), scaricatore_(new network::Scaricatore(this)) {
     setObjectName("frmScaricaStorico");
     setWindowTitle(QStringLiteral("Scarica archivio storico da Internet"));
 
@@ -322,7 +319,7 @@ FrmScaricaStorico::FrmScaricaStorico(QWidget* parent)
     txtUrlStorico_ = new QLineEdit(this);
     txtUrlStorico_->setObjectName("txtUrlStorico");
     txtUrlStorico_->setMinimumWidth(420);
-    txtUrlStorico_->setText(Q(LeggiUrl("UrlStorico")));
+    txtUrlStorico_->setText(Q(LeggiUrl(sessione_.ini, "UrlStorico")));
     principale->addWidget(txtUrlStorico_);
     lblStatus_ = EtichettaStato(this);
     principale->addWidget(lblStatus_);
@@ -349,7 +346,7 @@ FrmScaricaStorico::FrmScaricaStorico(QWidget* parent)
     });
     connect(scaricatore_, &network::Scaricatore::terminato, this, &FrmScaricaStorico::FineScaricamento);
 
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
     cmdScarica_->setToolTip(QStringLiteral("Scarica l'archivio storico e importa le estrazioni nuove"));
     cmdAnnulla_->setToolTip(QStringLiteral("Interrompe la connessione"));
 }
@@ -367,8 +364,8 @@ void FrmScaricaStorico::Scarica() {
         MostraMessaggio(this, errore);
         return;
     }
-    if (indirizzo != LeggiUrl("UrlStorico"))
-        config::ScriviImpostazione(Ambiente().ini, config::sezioni::Options, "UrlStorico", indirizzo);
+    if (indirizzo != LeggiUrl(sessione_.ini, "UrlStorico"))
+        config::ScriviImpostazione(sessione_.ini, config::sezioni::Options, "UrlStorico", indirizzo);
     cmdScarica_->setEnabled(false);
     cmdAnnulla_->setEnabled(true);
     lblStatus_->setToolTip({});
@@ -396,8 +393,7 @@ void FrmScaricaStorico::FineScaricamento() {
         MostraMessaggio(this, c.messaggio);
         return;
     }
-    archives::Archivio* a = Ambiente().archivio.get();
-    if (!a) return;
+    archives::Archivio* a = &archivio_;
     const std::string_view dati(r.corpo.constData(), static_cast<size_t>(r.corpo.size()));
     try {
         const m::EsitoImportazione prova = m::ControllaDati(*a, dati, m::Gioco::Lotto);

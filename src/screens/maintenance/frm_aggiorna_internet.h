@@ -12,6 +12,11 @@
 
 #include "maintenance/aggiornamento.h"
 #include "maintenance/internet.h"
+#include "screens/common/sessione.h"
+
+namespace gorgo::archives {
+class Archivio;
+}
 
 namespace gorgo::network {
 class Scaricatore;
@@ -36,7 +41,8 @@ signals:
     void archivioAggiornato();
 
 protected:
-    FrmAggiornaInternetBase(maintenance::Gioco gioco, const char* nome, const QString& titolo, QWidget* parent);
+    FrmAggiornaInternetBase(Sessione& sessione, archives::Archivio& archivio, maintenance::Gioco gioco, const char* nome,
+                            const QString& titolo, QWidget* parent);
     void closeEvent(QCloseEvent* e) override;
 
 private:
@@ -50,6 +56,8 @@ private:
     void Prosegui(maintenance::EsitoInternet e, Ancora ancora);
     std::filesystem::path CopiaLocale() const;
 
+    Sessione& sessione_;
+    archives::Archivio& archivio_;
     maintenance::Gioco gioco_;
     network::Scaricatore* scaricatore_;
     QLabel* lblStatus_;
@@ -68,19 +76,19 @@ private:
 class FrmAggiornaInternet : public FrmAggiornaInternetBase {
     Q_OBJECT
 public:
-    explicit FrmAggiornaInternet(QWidget* parent = nullptr);
+    FrmAggiornaInternet(Sessione& sessione, archives::Archivio& archivio, QWidget* parent = nullptr);
 };
 
 class FrmAggiornaSuperInternet : public FrmAggiornaInternetBase {
     Q_OBJECT
 public:
-    explicit FrmAggiornaSuperInternet(QWidget* parent = nullptr);
+    FrmAggiornaSuperInternet(Sessione& sessione, archives::Archivio& archivio, QWidget* parent = nullptr);
 };
 
 class FrmScaricaStorico : public QWidget {
     Q_OBJECT
 public:
-    explicit FrmScaricaStorico(QWidget* parent = nullptr);
+    FrmScaricaStorico(Sessione& sessione, archives::Archivio& archivio, QWidget* parent = nullptr);
     network::Scaricatore* scaricatore() const { return scaricatore_; }
 
     void Scarica();
@@ -95,6 +103,8 @@ protected:
 private:
     void FineScaricamento();
 
+    Sessione& sessione_;
+    archives::Archivio& archivio_;
     network::Scaricatore* scaricatore_;
     QLineEdit* txtUrlStorico_;
     QLabel* lblStatus_;

@@ -7,7 +7,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "screens/common/ambiente.h"
+#include "archives/archivio.h"
+#include "config/ini.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
@@ -26,9 +27,11 @@ QString Testo(const std::string& s) { return QString::fromStdString(s); }
 
 }  // namespace
 
-FrmAggiornamenti::FrmAggiornamenti(QWidget* parent) : FrmAggiornamenti(Gioco::Lotto, parent) {}
+FrmAggiornamenti::FrmAggiornamenti(Sessione& sessione, archives::Archivio& archivio, QWidget* parent)
+    : FrmAggiornamenti(sessione, archivio, Gioco::Lotto, parent) {}
 
-FrmAggiornamenti::FrmAggiornamenti(Gioco gioco, QWidget* parent) : QDialog(parent), gioco_(gioco) {
+FrmAggiornamenti::FrmAggiornamenti(Sessione& sessione, archives::Archivio& archivio, Gioco gioco, QWidget* parent)
+    : QDialog(parent), sessione_(sessione), archivio_(archivio), gioco_(gioco) {
     const bool lotto = gioco == Gioco::Lotto;
     setObjectName(lotto ? "frmAggiornamenti" : "frmAggiornamentiSuper");
     setWindowTitle(lotto ? QStringLiteral("Aggiormanemto estrazioni da file")
@@ -70,7 +73,8 @@ FrmAggiornamenti::FrmAggiornamenti(Gioco gioco, QWidget* parent) : QDialog(paren
         auto* cmdHelp = new QPushButton(QStringLiteral("Aiuto"), this);
         cmdHelp->setObjectName("cmdHelp");
         pulsanti->addWidget(cmdHelp);
-        connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoAggiornamentiSuper); });
+        connect(cmdHelp, &QPushButton::clicked, this,
+                [this] { HelpContext(this, sessione_.ini, AiutoAggiornamentiSuper); });
     }
     pulsanti->addWidget(cmdEsci);
     principale->addLayout(pulsanti);
@@ -80,30 +84,30 @@ FrmAggiornamenti::FrmAggiornamenti(Gioco gioco, QWidget* parent) : QDialog(paren
     connect(cmdEsci, &QPushButton::clicked, this, &FrmAggiornamenti::close);
 
     MostraUltima();
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
     // The tool tip of the system, over the standard one of cmdEsci.
     cmdEsci->setToolTip(QStringLiteral("Esci senza modificare nulla"));
 }
 
-FrmAggiornamentiSuper::FrmAggiornamentiSuper(QWidget* parent) : FrmAggiornamenti(Gioco::SuperEnalotto, parent) {}
+FrmAggiornamentiSuper::FrmAggiornamentiSuper(Sessione& sessione, archives::Archivio& archivio, QWidget* parent)
+    : FrmAggiornamenti(sessione, archivio, Gioco::SuperEnalotto, parent) {}
 
 void FrmAggiornamenti::MostraUltima() {
-    const archives::Archivio* a = Ambiente().archivio.get();
+    const archives::Archivio& a = archivio_;
     lblNumero_->clear();
     lblAnno_->clear();
     lblUltima_->clear();
-    if (!a) return;
     const bool lotto = gioco_ == Gioco::Lotto;
-    const int32_t n = lotto ? a->NumeroEstrazioni() : a->NumeroEstrazioniSuper();
+    const int32_t n = lotto ? a.NumeroEstrazioni() : a.NumeroEstrazioniSuper();
     if (n < 1) return;
     int numeroAnno = 0;
     std::string data;
     if (lotto) {
-        const archives::RecordEstrazione r = a->LeggiEstrazione(n);
+        const archives::RecordEstrazione r = a.LeggiEstrazione(n);
         numeroAnno = r.NumeroAnno;
         data = r.dataTesto();
     } else {
-        const archives::RecordSuperEnalotto r = a->LeggiRecordSuper(n);
+        const archives::RecordSuperEnalotto r = a.LeggiRecordSuper(n);
         numeroAnno = r.NumeroAnno;
         data = r.dataTesto();
     }
@@ -127,17 +131,16 @@ void FrmAggiornamenti::Apri() {
             : QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|Tutti i file (*.*)|*.*");
     const QString scelto =
         ScegliFileManutenzione ? ScegliFileManutenzione(this, ModoSceltaFile::Apri, QStringLiteral("Apri"), filtro,
-                                                        Testo(Ambiente().PercorsoProgramma.string()))
+                                                        Testo(sessione_.PercorsoProgramma.string()))
                                : QString();
     if (scelto.isEmpty()) return;
     const std::string percorso = scelto.toStdString();
-    archives::Archivio* a = Ambiente().archivio.get();
     const auto dati = maintenance::LeggiFileAggiornamento(percorso);
-    if (!dati || !a) {
+    if (!dati) {
         MostraMessaggio(this, maintenance::ErrFile(percorso));
         return;
     }
-    const auto c = maintenance::ControllaAggiornamento(*a, *dati, gioco_, percorso);
+    const auto c = maintenance::ControllaAggiornamento(archivio_, *dati, gioco_, percorso);
     if (c.stato == StatoAggiornamento::Corrotto || c.stato == StatoAggiornamento::ArchivioVuoto) {
         MostraMessaggio(this, c.messaggio);
         return;
@@ -158,12 +161,10 @@ void FrmAggiornamenti::Apri() {
 
 void FrmAggiornamenti::Aggiorna() {
     if (!cmdAggiorna_->isEnabled() || dati_.empty()) return;
-    archives::Archivio* a = Ambiente().archivio.get();
-    if (!a) return;
     cmdAggiorna_->setEnabled(false);
     maintenance::EsitoAggiornamento e;
     try {
-        e = maintenance::ApplicaAggiornamento(*a, dati_, gioco_, percorso_);
+        e = maintenance::ApplicaAggiornamento(archivio_, dati_, gioco_, percorso_);
     } catch (const archives::ErroreArchivio& errore) {
         Chiudi();
         MostraUltima();

@@ -6,23 +6,28 @@
 #include <string>
 
 #include "maintenance/aggiornamento.h"
+#include "screens/common/sessione.h"
 
 class QLabel;
 class QPushButton;
+
+namespace gorgo::archives {
+class Archivio;
+}
 
 namespace gorgo::screens {
 
 class FrmAggiornamenti : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmAggiornamenti(QWidget* parent = nullptr);
+    FrmAggiornamenti(Sessione& sessione, archives::Archivio& archivio, QWidget* parent = nullptr);
 
 signals:
     // After draws were appended, for windows that show the last draw.
     void archivioAggiornato();
 
 protected:
-    FrmAggiornamenti(maintenance::Gioco gioco, QWidget* parent);
+    FrmAggiornamenti(Sessione& sessione, archives::Archivio& archivio, maintenance::Gioco gioco, QWidget* parent);
 
 private:
     void MostraUltima();
@@ -30,6 +35,8 @@ private:
     void Aggiorna();
     void Chiudi();
 
+    Sessione& sessione_;
+    archives::Archivio& archivio_;
     maintenance::Gioco gioco_;
     QLabel *lblNumero_, *lblAnno_, *lblUltima_, *lblFile_, *lblAggiunte_;
     QPushButton* cmdAggiorna_;
@@ -40,7 +47,7 @@ private:
 class FrmAggiornamentiSuper : public FrmAggiornamenti {
     Q_OBJECT
 public:
-    explicit FrmAggiornamentiSuper(QWidget* parent = nullptr);
+    FrmAggiornamentiSuper(Sessione& sessione, archives::Archivio& archivio, QWidget* parent = nullptr);
 };
 
 }  // namespace gorgo::screens

@@ -11,7 +11,7 @@
 
 #include "archives/regole.h"
 #include "maintenance/aggiornamento.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
@@ -25,7 +25,8 @@ namespace {
 
 }  // namespace
 
-FrmEsportazione::FrmEsportazione(QWidget* parent) : QDialog(parent) {
+FrmEsportazione::FrmEsportazione(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent)
+    : QDialog(parent), sessione_(sessione), archivio_(archivio) {
     setObjectName("frmEsportazione");
     setWindowTitle(QStringLiteral("Esportazione archivio lotto"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -65,27 +66,26 @@ FrmEsportazione::FrmEsportazione(QWidget* parent) : QDialog(parent) {
     principale->addLayout(pulsanti);
 
     connect(cmdEsporta, &QPushButton::clicked, this, &FrmEsportazione::Esporta);
-    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoEsportazione); });
+    connect(cmdHelp, &QPushButton::clicked, this, [this] { HelpContext(this, sessione_.ini, AiutoEsportazione); });
     connect(cmdEsci, &QPushButton::clicked, this, &FrmEsportazione::close);
 
-    if (const archives::Archivio* a = Ambiente().archivio.get(); a && a->NumeroEstrazioni() > 0) {
-        const archives::RecordEstrazione r = a->LeggiEstrazione(a->NumeroEstrazioni());
+    if (const archives::Archivio& a = archivio_; a.NumeroEstrazioni() > 0) {
+        const archives::RecordEstrazione r = a.LeggiEstrazione(a.NumeroEstrazioni());
         lblNumero_->setText(QString::number(r.NumeroAnno));
         lblAnno_->setText(QString::fromStdString(r.dataTesto().substr(6)));
         lblUltima_->setText(QString::fromStdString(r.dataTesto()));
-        if (a->NumeroEstrazioni() >= maintenance::PrimaEsportata)
-            txtDataInizio_->setText(QString::fromStdString(a->DataEstrazione(maintenance::PrimaEsportata)));
+        if (a.NumeroEstrazioni() >= maintenance::PrimaEsportata)
+            txtDataInizio_->setText(QString::fromStdString(a.DataEstrazione(maintenance::PrimaEsportata)));
     }
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
 }
 
 void FrmEsportazione::Esporta() {
-    const archives::Archivio* a = Ambiente().archivio.get();
-    if (!a) return;
+    const archives::Archivio& a = archivio_;
     int32_t primo = maintenance::PrimaEsportata;
     const QString da = txtDataInizio_->text().trimmed();
     if (!da.isEmpty()) {
-        const archives::RisultatoData r = archives::ControllaData(da.toStdString(), *a, false);
+        const archives::RisultatoData r = archives::ControllaData(da.toStdString(), a, false);
         if (r.ErroreData) {
             MostraMessaggio(this, r.messaggio);
             return;
@@ -96,12 +96,12 @@ void FrmEsportazione::Esporta() {
                          ? ScegliFileManutenzione(this, ModoSceltaFile::Salva, QStringLiteral("Salva"),
                                                   QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|"
                                                                  "File aggiornamento Gorgo (*.alb)|*.alb"),
-                                                  QString::fromStdString(Ambiente().PercorsoProgramma.string()))
+                                                  QString::fromStdString(sessione_.PercorsoProgramma.string()))
                          : QString();
     if (scelto.isEmpty()) return;
     if (QFileInfo(scelto).suffix().isEmpty()) scelto += QStringLiteral(".bin");
     try {
-        const auto e = maintenance::EsportaAggiornamento(*a, scelto.toStdString(), primo);
+        const auto e = maintenance::EsportaAggiornamento(a, scelto.toStdString(), primo);
         MostraMessaggio(this, e.messaggio);
         if (!e.riuscito) return;
     } catch (const archives::ErroreArchivio& errore) {

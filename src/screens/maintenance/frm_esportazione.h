@@ -3,19 +3,27 @@
 
 #include <QDialog>
 
+#include "screens/common/sessione.h"
+
 class QLabel;
 class QLineEdit;
+
+namespace gorgo::archives {
+class Archivio;
+}
 
 namespace gorgo::screens {
 
 class FrmEsportazione : public QDialog {
     Q_OBJECT
 public:
-    explicit FrmEsportazione(QWidget* parent = nullptr);
+    FrmEsportazione(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent = nullptr);
 
 private:
     void Esporta();
 
+    Sessione& sessione_;
+    const archives::Archivio& archivio_;
     QLabel *lblNumero_, *lblAnno_, *lblUltima_;
     QLineEdit* txtDataInizio_;
 };

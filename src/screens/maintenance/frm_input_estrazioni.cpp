@@ -9,7 +9,8 @@
 #include <QVBoxLayout>
 
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
+#include "screens/common/caselle.h"
 #include "screens/common/twips.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/messaggi.h"
@@ -43,22 +44,33 @@ QLineEdit* CasellaData(QWidget* parent, const char* nome, const char* suggerimen
 
 }  // namespace
 
-FrmInputEstrazioni::FrmInputEstrazioni(QWidget* parent, GiocoInserimento gioco) : QWidget(parent, Qt::Window) {
+FrmInputEstrazioni::FrmInputEstrazioni(Sessione& sessione, archives::Archivio& archivio, QWidget* parent,
+                                       GiocoInserimento gioco)
+    : QWidget(parent, Qt::Window), sessione_(sessione) {
     const bool lotto = gioco == GiocoInserimento::Lotto;
     setObjectName(lotto ? "frmInputEstrazioni" : "frmInputEstrazioniSuperEnalotto");
     setWindowTitle(Q(lotto ? maintenance::CaptionInserimento : maintenance::CaptionInserimentoSuper));
     setAttribute(Qt::WA_DeleteOnClose);
-    motore_ = std::make_unique<maintenance::Inserimento>(*Ambiente().archivio, gioco);
+    motore_ = std::make_unique<maintenance::Inserimento>(archivio, gioco);
     CreaControlli();
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
     MostraStato();
 }
 
 void FrmInputEstrazioni::CreaControlli() {
-    const bool lotto = motore_->gioco() == GiocoInserimento::Lotto;
     auto* principale = new QVBoxLayout(this);
+    principale->addWidget(CreaFrameData());
+    principale->addLayout(CreaScorrimento());
+    auto* centro = new QHBoxLayout;
+    centro->addWidget(CreaFrameNumeri());
+    centro->addWidget(CreaFrameTesto(), 1);
+    principale->addLayout(centro, 1);
+    principale->addLayout(CreaComandi());
+    Collega();
+}
 
-    // The date of the draw and its numbers in the year and in the archive.
+// The date of the draw and its numbers in the year and in the archive.
+QGroupBox* FrmInputEstrazioni::CreaFrameData() {
     auto* fraData = new QGroupBox(this);
     fraData->setObjectName("fraData");
     auto* gd = new QHBoxLayout(fraData);
@@ -96,9 +108,11 @@ void FrmInputEstrazioni::CreaControlli() {
     lblTotaleEstrazioni_->setFont(grassetto);
     gd->addWidget(etichettaTotale);
     gd->addWidget(lblTotaleEstrazioni_);
-    principale->addWidget(fraData);
+    return fraData;
+}
 
-    // Browse: the slider between the two step buttons.
+// Browse: the slider between the two step buttons.
+QHBoxLayout* FrmInputEstrazioni::CreaScorrimento() {
     auto* scorri = new QHBoxLayout;
     cmdPrecedente_ = new QPushButton(QStringLiteral("<"), this);
     cmdPrecedente_->setObjectName("cmdPrecedente");
@@ -112,24 +126,28 @@ void FrmInputEstrazioni::CreaControlli() {
     scorri->addWidget(cmdPrecedente_);
     scorri->addWidget(Slider1_, 1);
     scorri->addWidget(cmdSuccessiva_);
-    principale->addLayout(scorri);
+    return scorri;
+}
 
-    // The number boxes.
-    auto* centro = new QHBoxLayout;
+// The number boxes: Lotto five to a wheel under the positions; SuperEnalotto the six, the
+// Jolly and the SuperStar in a row under their titles.
+QGroupBox* FrmInputEstrazioni::CreaFrameNumeri() {
+    const bool lotto = motore_->gioco() == GiocoInserimento::Lotto;
     auto* fraNumeri = new QGroupBox(this);
     fraNumeri->setObjectName("fraNumeri");
     auto* gn = new QGridLayout(fraNumeri);
     gn->setHorizontalSpacing(4);
     gn->setVerticalSpacing(2);
     const int caselle = motore_->NumeroCaselle();
+    txtEstratto_.resize(static_cast<size_t>(caselle));
+    CreaCaselle<QLineEdit>(fraNumeri, gn, lotto ? PostoCaselle{1, 1, 5} : PostoCaselle{1, 0, caselle},
+                           QStringLiteral("txtEstratto"), 1, QStringList(caselle), txtEstratto_);
     for (int i = 1; i <= caselle; ++i) {
-        auto* t = new QLineEdit(fraNumeri);
-        t->setObjectName(QStringLiteral("txtEstratto_%1").arg(i));
+        QLineEdit* t = txtEstratto_[static_cast<size_t>(i - 1)];
         t->setFixedWidth(40);
         t->setMaxLength(20);
         t->setAlignment(Qt::AlignCenter);
         t->installEventFilter(this);
-        txtEstratto_.push_back(t);
         connect(t, &QLineEdit::textChanged, this, [this, i](const QString& testo) {
             if (!InCaricamento_) motore_->ImpostaCasella(i, testo.toStdString());
         });
@@ -140,12 +158,9 @@ void FrmInputEstrazioni::CreaControlli() {
             auto* nome = new QLabel(Q(archives::NomiRuota[static_cast<size_t>(w)]).trimmed(), fraNumeri);
             nome->setObjectName(QStringLiteral("lblRuota_%1").arg(w));
             gn->addWidget(nome, w, 0);
-            for (int p = 1; p <= 5; ++p) {
-                QLineEdit* t = txtEstratto_[static_cast<size_t>((w - 1) * 5 + p - 1)];
-                t->setToolTip(Q(maintenance::SuggerimentoCasella((w - 1) * 5 + p)));
-                gn->addWidget(t, w, p);
-            }
         }
+        for (int i = 1; i <= caselle; ++i)
+            txtEstratto_[static_cast<size_t>(i - 1)]->setToolTip(Q(maintenance::SuggerimentoCasella(i)));
     } else {
         const char* titoli[] = {"Sestina vincente", "Jolly", "SuperStar"};
         for (int k = 0; k < 3; ++k) {
@@ -153,14 +168,15 @@ void FrmInputEstrazioni::CreaControlli() {
             l->setObjectName(QStringLiteral("lblTitolo_%1").arg(k));
             gn->addWidget(l, 0, k == 0 ? 0 : 5 + k, 1, k == 0 ? 6 : 1, Qt::AlignCenter);
         }
-        for (int i = 0; i < 8; ++i) gn->addWidget(txtEstratto_[static_cast<size_t>(i)], 1, i);
         gn->setRowStretch(2, 1);
         txtEstratto_[6]->setToolTip(QStringLiteral("Jolly"));
         txtEstratto_[7]->setToolTip(QStringLiteral("SuperStar"));
     }
-    centro->addWidget(fraNumeri);
+    return fraNumeri;
+}
 
-    // The paste box.
+// The paste box and its two commands.
+QGroupBox* FrmInputEstrazioni::CreaFrameTesto() {
     auto* fraTesto = new QGroupBox(QStringLiteral("Testo da decodificare"), this);
     fraTesto->setObjectName("fraTesto");
     auto* gt = new QVBoxLayout(fraTesto);
@@ -183,10 +199,11 @@ void FrmInputEstrazioni::CreaControlli() {
     pulsantiTesto->addWidget(cmdInserisci_);
     pulsantiTesto->addWidget(cmdCancella_);
     gt->addLayout(pulsantiTesto);
-    centro->addWidget(fraTesto, 1);
-    principale->addLayout(centro, 1);
+    return fraTesto;
+}
 
-    // The commands.
+// The commands at the foot.
+QHBoxLayout* FrmInputEstrazioni::CreaComandi() {
     auto* pulsanti = new QHBoxLayout;
     auto pulsante = [this, pulsanti](const char* nome, const char* testo) {
         auto* b = new QPushButton(QString::fromUtf8(testo), this);
@@ -200,8 +217,11 @@ void FrmInputEstrazioni::CreaControlli() {
     pulsanti->addStretch();
     cmdAiuto_ = pulsante("cmdAiuto", "Aiuto");
     cmdEsci_ = pulsante("cmdEsci", "Esci");
-    principale->addLayout(pulsanti);
+    return pulsanti;
+}
 
+// The date boxes, the browsing and the commands to the engine.
+void FrmInputEstrazioni::Collega() {
     for (QLineEdit* t : {txtGiorno_, txtMese_, txtAnno_}) {
         connect(t, &QLineEdit::textChanged, this, [this] {
             if (InCaricamento_) return;
@@ -233,7 +253,7 @@ void FrmInputEstrazioni::CreaControlli() {
         MostraStato();
     });
     connect(cmdEsci_, &QPushButton::clicked, this, [this] { close(); });
-    connect(cmdAiuto_, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoInserimento); });
+    connect(cmdAiuto_, &QPushButton::clicked, this, [this] { HelpContext(this, sessione_.ini, AiutoInserimento); });
 }
 
 void FrmInputEstrazioni::MostraStato() {
@@ -275,7 +295,7 @@ void FrmInputEstrazioni::MostraStato() {
 
 void FrmInputEstrazioni::Nuova() {
     const std::string giorni =
-        config::LeggiImpostazione(Ambiente().ini, config::sezioni::Options, "Giorni estrazione",
+        config::LeggiImpostazione(sessione_.ini, config::sezioni::Options, "Giorni estrazione",
                                   config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
     if (archives::Messaggio m = motore_->Nuova(giorni); !m.vuoto()) {
         MostraMessaggio(this, m);
@@ -378,7 +398,7 @@ void FrmInputEstrazioni::closeEvent(QCloseEvent* e) {
 }
 
 void FrmInputEstrazioni::changeEvent(QEvent* e) {
-    if (e->type() == QEvent::ActivationChange && isActiveWindow()) Ambiente().FormCorrente = this;
+    if (e->type() == QEvent::ActivationChange && isActiveWindow()) sessione_.FormCorrente = this;
     QWidget::changeEvent(e);
 }
 

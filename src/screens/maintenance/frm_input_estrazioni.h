@@ -13,14 +13,18 @@
 #include <vector>
 
 #include "maintenance/inserimento.h"
+#include "screens/common/sessione.h"
+
+class QGroupBox;
+class QHBoxLayout;
 
 namespace gorgo::screens {
 
 class FrmInputEstrazioni : public QWidget {
     Q_OBJECT
 public:
-    explicit FrmInputEstrazioni(QWidget* parent = nullptr)
-        : FrmInputEstrazioni(parent, maintenance::GiocoInserimento::Lotto) {}
+    FrmInputEstrazioni(Sessione& sessione, archives::Archivio& archivio, QWidget* parent = nullptr)
+        : FrmInputEstrazioni(sessione, archivio, parent, maintenance::GiocoInserimento::Lotto) {}
 
     maintenance::Inserimento& Motore() { return *motore_; }
     // cmdMemorizza with its questions; true when the draw was written.
@@ -31,14 +35,22 @@ signals:
     void estrazioneMemorizzata();
 
 protected:
-    FrmInputEstrazioni(QWidget* parent, maintenance::GiocoInserimento gioco);
+    FrmInputEstrazioni(Sessione& sessione, archives::Archivio& archivio, QWidget* parent,
+                       maintenance::GiocoInserimento gioco);
     bool eventFilter(QObject* oggetto, QEvent* evento) override;
     void closeEvent(QCloseEvent* e) override;
     void changeEvent(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
 private:
+    // The controls, frame by frame.
     void CreaControlli();
+    QGroupBox* CreaFrameData();
+    QHBoxLayout* CreaScorrimento();
+    QGroupBox* CreaFrameNumeri();
+    QGroupBox* CreaFrameTesto();
+    QHBoxLayout* CreaComandi();
+    void Collega();
     // The engine's state into the controls, with their change handlers silent.
     void MostraStato();
     void Nuova();
@@ -46,6 +58,7 @@ private:
     void Inserisci();
     void ControllaUscita(QLineEdit* casella);
 
+    Sessione& sessione_;
     std::unique_ptr<maintenance::Inserimento> motore_;
     bool InCaricamento_ = false;
     bool inControllo_ = false;
@@ -64,8 +77,8 @@ private:
 class FrmInputEstrazioniSuperEnalotto : public FrmInputEstrazioni {
     Q_OBJECT
 public:
-    explicit FrmInputEstrazioniSuperEnalotto(QWidget* parent = nullptr)
-        : FrmInputEstrazioni(parent, maintenance::GiocoInserimento::SuperEnalotto) {}
+    FrmInputEstrazioniSuperEnalotto(Sessione& sessione, archives::Archivio& archivio, QWidget* parent = nullptr)
+        : FrmInputEstrazioni(sessione, archivio, parent, maintenance::GiocoInserimento::SuperEnalotto) {}
 };
 
 }  // namespace gorgo::screens

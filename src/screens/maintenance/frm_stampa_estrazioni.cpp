@@ -10,7 +10,7 @@
 
 #include "archives/regole.h"
 #include "config/impostazioni.h"
-#include "screens/common/ambiente.h"
+#include "config/ini.h"
 #include "screens/common/twips.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/caselle.h"
@@ -28,7 +28,9 @@ QDate DataQt(const std::string& gg_mm_aaaa) { return QDate::fromString(Q(gg_mm_a
 
 }  // namespace
 
-FrmStampaEstrazioni::FrmStampaEstrazioni(QWidget* parent, Gioco gioco) : QWidget(parent, Qt::Window), gioco_(gioco) {
+FrmStampaEstrazioni::FrmStampaEstrazioni(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent,
+                                         Gioco gioco)
+    : QWidget(parent, Qt::Window), sessione_(sessione), archivio_(archivio), gioco_(gioco) {
     switch (gioco_) {
         case Gioco::Lotto:
             setObjectName("frmStampaEstrazioni");
@@ -45,11 +47,11 @@ FrmStampaEstrazioni::FrmStampaEstrazioni(QWidget* parent, Gioco gioco) : QWidget
     }
     setAttribute(Qt::WA_DeleteOnClose);
     CreaControlli();
-    ApplicaStile(this, Ambiente().ini);
+    ApplicaStile(this, sessione_.ini);
 }
 
 void FrmStampaEstrazioni::CreaControlli() {
-    const archives::Archivio& a = *Ambiente().archivio;
+    const archives::Archivio& a = archivio_;
     const bool super = gioco_ == Gioco::SuperEnalotto;
     auto* principale = new QVBoxLayout(this);
 
@@ -60,7 +62,7 @@ void FrmStampaEstrazioni::CreaControlli() {
         al = a.DataEstrazione(a.NumeroEstrazioniSuper(), archives::ArchivioSuper);
         primo = std::string(archives::DataInizioSuper);
     } else {
-        const config::IndiciRicerca r = config::LeggiIndiciRicerca(Ambiente().ini, a.NumeroEstrazioni());
+        const config::IndiciRicerca r = config::LeggiIndiciRicerca(sessione_.ini, a.NumeroEstrazioni());
         da = a.DataEstrazione(r.IndiceInizio);
         al = a.DataEstrazione(r.IndiceFine);
         primo = std::string(archives::PrimaDataArchivio);
@@ -171,7 +173,7 @@ void FrmStampaEstrazioni::CreaControlli() {
     connect(cmdStampa_, &QPushButton::clicked, this, [this] { Stampa(DestinazioneStampa::Dialogo); });
     connect(cmdAnteprima_, &QPushButton::clicked, this, [this] { Stampa(DestinazioneStampa::Anteprima); });
     connect(cmdPdf_, &QPushButton::clicked, this, [this] { ScegliPdf(); });
-    connect(cmdHelp_, &QPushButton::clicked, this, [this] { HelpContext(this, AiutoStampaEstrazioni); });
+    connect(cmdHelp_, &QPushButton::clicked, this, [this] { HelpContext(this, sessione_.ini, AiutoStampaEstrazioni); });
     connect(cmdEsci_, &QPushButton::clicked, this, [this] { close(); });
 }
 
@@ -190,7 +192,7 @@ maintenance::ParametriStampaEstrazioni FrmStampaEstrazioni::Parametri() const {
 }
 
 maintenance::StampaComposta FrmStampaEstrazioni::Componi() {
-    const archives::Archivio& a = *Ambiente().archivio;
+    const archives::Archivio& a = archivio_;
     const auto p = Parametri();
     maintenance::StampaComposta s;
     {
@@ -240,7 +242,7 @@ bool FrmStampaEstrazioni::EsportaPdf(const QString& file) {
 }
 
 void FrmStampaEstrazioni::ScegliPdf() {
-    const QString cartella = QString::fromStdString(Ambiente().PercorsoProgramma.string());
+    const QString cartella = QString::fromStdString(sessione_.PercorsoProgramma.string());
     const QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Salva in PDF"),
                                                       cartella + QStringLiteral("/StampaEstrazioni.pdf"),
                                                       QStringLiteral("Documenti PDF (*.pdf)"));
@@ -248,7 +250,7 @@ void FrmStampaEstrazioni::ScegliPdf() {
 }
 
 void FrmStampaEstrazioni::changeEvent(QEvent* e) {
-    if (e->type() == QEvent::ActivationChange && isActiveWindow()) Ambiente().FormCorrente = this;
+    if (e->type() == QEvent::ActivationChange && isActiveWindow()) sessione_.FormCorrente = this;
     QWidget::changeEvent(e);
 }
 

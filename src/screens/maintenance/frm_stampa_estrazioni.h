@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include "maintenance/stampa_estrazioni.h"
+#include "screens/common/sessione.h"
 #include "screens/common/stampa.h"
 
 namespace gorgo::screens {
@@ -20,7 +21,8 @@ class FrmStampaEstrazioni : public QWidget {
 public:
     enum class Gioco { Lotto, SuperEnalotto, DieciELotto };
 
-    explicit FrmStampaEstrazioni(QWidget* parent = nullptr) : FrmStampaEstrazioni(parent, Gioco::Lotto) {}
+    FrmStampaEstrazioni(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent = nullptr)
+        : FrmStampaEstrazioni(sessione, archivio, parent, Gioco::Lotto) {}
 
     maintenance::ParametriStampaEstrazioni Parametri() const;
     // cmdStampa's checks and pages: a refusal is shown here and leaves no pages; the date
@@ -33,7 +35,7 @@ public:
     static OpzioniStampa Opzioni(const maintenance::StampaComposta& s);
 
 protected:
-    FrmStampaEstrazioni(QWidget* parent, Gioco gioco);
+    FrmStampaEstrazioni(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent, Gioco gioco);
     void changeEvent(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
@@ -41,6 +43,8 @@ private:
     void CreaControlli();
     void ScegliPdf();
 
+    Sessione& sessione_;
+    const archives::Archivio& archivio_;
     Gioco gioco_;
     bool centrata_ = false;
     QDateEdit *DTPickerDa_ = nullptr, *DTPickerA_ = nullptr;
@@ -55,15 +59,15 @@ private:
 class FrmStampaEstrazioniSuperEnalotto : public FrmStampaEstrazioni {
     Q_OBJECT
 public:
-    explicit FrmStampaEstrazioniSuperEnalotto(QWidget* parent = nullptr)
-        : FrmStampaEstrazioni(parent, Gioco::SuperEnalotto) {}
+    FrmStampaEstrazioniSuperEnalotto(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent = nullptr)
+        : FrmStampaEstrazioni(sessione, archivio, parent, Gioco::SuperEnalotto) {}
 };
 
 class FrmStampaEstrazioni10eLotto : public FrmStampaEstrazioni {
     Q_OBJECT
 public:
-    explicit FrmStampaEstrazioni10eLotto(QWidget* parent = nullptr)
-        : FrmStampaEstrazioni(parent, Gioco::DieciELotto) {}
+    FrmStampaEstrazioni10eLotto(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent = nullptr)
+        : FrmStampaEstrazioni(sessione, archivio, parent, Gioco::DieciELotto) {}
 };
 
 }  // namespace gorgo::screens

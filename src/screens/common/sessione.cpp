@@ -1,13 +1,8 @@
-#include "screens/common/ambiente.h"
+#include "screens/common/sessione.h"
 
 #include <QCoreApplication>
 
 namespace gorgo::screens {
-
-AmbienteApp& Ambiente() {
-    static AmbienteApp a;
-    return a;
-}
 
 std::filesystem::path CartellaDati() {
     const std::filesystem::path accanto =
