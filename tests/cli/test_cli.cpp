@@ -305,12 +305,11 @@ TEST_F(Cli, VerificaEPrevisioni) {
 class CliManutenzione : public ::testing::Test {
 protected:
     void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti ($GORGO_SHARED/dati/Archivi)";
-        aggiornamenti_ = reale->parent_path() / "aggiornamenti";
+        GORGO_RICHIEDI_ARCHIVI_REALI(reale);
+        aggiornamenti_ = reale.parent_path() / "aggiornamenti";
         if (!fs::exists(aggiornamenti_ / "AggiornamentoPz.bin")) GTEST_SKIP() << "file di aggiornamento assenti";
         cartella_ = c_.percorso() / "gorgo";
-        test::CopiaArchiviReali(*reale, cartella_);
+        test::CopiaArchiviReali(reale, cartella_);
     }
     Esito Su(std::vector<std::string> argomenti, const fs::path& cartella = {}) {
         argomenti.insert(argomenti.begin(), {"--cartella", (cartella.empty() ? cartella_ : cartella).string()});

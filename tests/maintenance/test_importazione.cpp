@@ -67,7 +67,7 @@ class Importazione : public test::CopiaReale {
 protected:
     void SetUp() override {
         Prepara("storico-2026.txt");
-        if (IsSkipped()) return;
+        if (IsSkipped() || HasFatalFailure()) return;
         storico_ = LeggiFile(aggiornamenti_ / "storico-2026.txt");
         aggiornamento_ = LeggiFile(aggiornamenti_ / "AggiornamentoPz.bin");
     }

@@ -114,8 +114,9 @@ protected:
     std::optional<fs::path> agg_;
 };
 
-#define RICHIEDI_CARTELLA() \
-    if (!PreparaCartella()) GTEST_SKIP() << "gorgo-cli (GORGO_CLI) o archivi reali assenti"
+#define RICHIEDI_CARTELLA()                                \
+    if (!test::CartellaReale()) GORGO_ARCHIVI_REALI_ASSENTI(); \
+    if (!PreparaCartella()) GTEST_SKIP() << "gorgo-cli (GORGO_CLI) o file di aggiornamento assenti"
 
 // ---- The sieve and the steps after the fetch -------------------------------------------
 
@@ -187,6 +188,7 @@ TEST_F(Internet, SetaccioDeiPrimi150Byte) {
 }
 
 TEST_F(Internet, UnFileVeroPassaIlSetaccioMaUnaDataDel14Aprile2005No) {
+    if (!test::CartellaReale()) GORGO_ARCHIVI_REALI_ASSENTI();
     const auto agg = Aggiornamenti();
     if (!agg) GTEST_SKIP() << "file di aggiornamento assenti";
     const std::string vero = LeggiFile(*agg / "AggiornamentoPz.bin");
