@@ -14,108 +14,20 @@
 #include "builder/verifica.h"
 #include "config/formato.h"
 #include "support/archivi_reali.h"
+#include "support/casuali.h"
 #include "verifica_letterale.h"
 
 namespace gorgo::builder {
 namespace {
 // ---------------------------------------------------------------- random archives
 
-// A short history with holes and with small number ranges on some wheels, so that spies,
-// hits and running cases are frequent.
-archives::StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
-    archives::ParametriDemo pd;
-    pd.seme = g();
-    pd.fine = archives::Data{30, 12, 2005 + anni};
-    auto record = archives::GeneraStoriaDemo(pd);
-    const size_t tieni = std::min<size_t>(record.size(), static_cast<size_t>(anni) * 150);
-    std::vector<archives::RecordEstrazione> v(record.end() - static_cast<long>(tieni), record.end());
-    for (auto& r : v)
-        for (int w = 0; w < 11; ++w) {
-            if (g() % 40 == 0) {
-                for (int p = 0; p < 5; ++p) r.Ruota[w][p] = 0;
-                continue;
-            }
-            if (w % 3 == 0) {
-                bool usato[91] = {};
-                for (int p = 0; p < 5; ++p) {
-                    int n;
-                    do n = 1 + static_cast<int>(g() % 20);
-                    while (usato[n]);
-                    usato[n] = true;
-                    r.Ruota[w][p] = static_cast<uint8_t>(n);
-                }
-            }
-        }
-    // Now and then one number missing: a zero inside a wheel ends the reading of that wheel.
-    for (auto& r : v)
-        if (g() % 30 == 0) r.Ruota[g() % 11][g() % 5] = 0;
-    return archives::StoriaLotto(std::move(v));
-}
+using test::ParametriCasuali;
+using test::RuoteCasuali;
+using test::StoriaCasuale;
+using test::TerzineCasuali;
 
-TerzineRidotte TerzineCasuali(std::mt19937& g, int quante) {
-    TerzineRidotte t;
-    for (int i = 0; i < quante; ++i)
-        t.terzine.push_back({1 + static_cast<int>(g() % 20), 1 + static_cast<int>(g() % 20), 1 + static_cast<int>(g() % 90)});
-    return t;
-}
-
-std::array<bool, 12> RuoteCasuali(std::mt19937& g) {
-    std::array<bool, 12> r{};
-    if (g() % 3 == 0) {
-        r[0] = true;
-        r[11] = g() % 2;
-        return r;
-    }
-    bool una = false;
-    for (int w = 1; w <= 11; ++w) una |= r[static_cast<size_t>(w)] = g() % 3 == 0;
-    if (!una) r[1 + g() % 11] = true;
-    return r;
-}
-
-ParametriRicerca ParametriCasuali(std::mt19937& g, const archives::StoriaLotto& s, TipoRicerca tipo) {
-    ParametriRicerca p;
-    p.tipoRicerca = tipo;
-    p.tipoSpia = static_cast<TipoSpia>(g() % 4);
-    if (p.tipoSpia == TipoSpia::Ambo && tipo != TipoRicerca::Ambate && tipo != TipoRicerca::Ambi)
-        p.tipoSpia = TipoSpia::Numero;
-    const int modo = static_cast<int>(g() % 6);
-    p.modoSpia = modo < 3 ? ModoSpia::Fisso : modo < 5 ? ModoSpia::Tutti : ModoSpia::SoloIndiceMensile;
-    if (p.tipoSpia == TipoSpia::Ambo) p.modoSpia = ModoSpia::Fisso;
-    p.valoreSpia = 1 + static_cast<int>(g() % 20);
-    if (p.tipoSpia == TipoSpia::Ambo) {
-        p.amboSpia = {1 + static_cast<int>(g() % 20), 1 + static_cast<int>(g() % 20)};
-        if (p.amboSpia[0] == p.amboSpia[1]) p.amboSpia[1] = p.amboSpia[0] % 20 + 1;
-    }
-    if (g() % 3 == 0) {
-        p.posizioneDeterminata = true;
-        for (int i = 1; i <= 5; ++i) p.posizioniSpia[static_cast<size_t>(i)] = g() % 2;
-        p.posizioniSpia[1 + g() % 5] = true;
-        p.posizioniSpia[1 + g() % 5] = true;
-    }
-    const int32_t n = s.NumeroEstrazioni();
-    const int32_t a = n - static_cast<int32_t>(g() % 15);
-    const int32_t da = std::max<int32_t>(1, a - 5 - static_cast<int32_t>(g() % 200));
-    if (g() % 5 == 0) {
-        p.perData = 1;
-        p.sortiteDaCercare = 1 + static_cast<int>(g() % 15);
-    }
-    p.dataDa = s.DataEstrazione(da);
-    p.dataA = s.DataEstrazione(a);
-    const int indice = static_cast<int>(g() % 4);
-    p.indiceMese = indice == 0 ? 0 : indice == 1 ? 1 + static_cast<int>(g() % 5) : 22;
-    p.ruoteRicerca = RuoteCasuali(g);
-    p.ruoteGioco = RuoteCasuali(g);
-    p.colpi = g() % 5 == 0 ? 15 + static_cast<int>(g() % 20) : 1 + static_cast<int>(g() % 12);
-    p.controllaUltime = g() % 3 != 0;
-    p.soloPosizione = g() % 4 == 0;
-    if (g() % 3 == 0) {
-        for (int i = 1; i <= 5; ++i) p.posizioniValide[static_cast<size_t>(i)] = g() % 2;
-        p.posizioniValide[1 + g() % 5] = true;
-    }
-    p.sorte = g() % 2 ? 2 : 3;
-    p.colpiDaGiocare = static_cast<int>(g() % 14);
-    return p;
-}
+// The verification of one key is cheap: long periods, "last n cases" with every value too.
+const test::MisurePeriodo MisureVerifica{15, {5, 205}, {5, 205}, true};
 
 // Column 4 of a row for these parameters: the fixed value, or one of all values.
 std::string SpiaCasuale(std::mt19937& g, const ParametriRicerca& p) {
@@ -165,19 +77,6 @@ std::string ChiaveCasuale(std::mt19937& g, const ParametriRicerca& p, const std:
         case TipoRicerca::Codici: return ChiaveCodice(cella(), 1 + static_cast<int>(g() % static_cast<unsigned>(terzine)), op(), coda);
     }
     return {};
-}
-
-ContestoRicerca ContestoCasuale(std::mt19937& g, const archives::StoriaLotto& s, const IndiciMensili& im, const TerzineRidotte& t) {
-    ContestoRicerca ctx{&s, {}, &im, &t};
-    ctx.restrizioni.GiornoAmmesso.fill(true);
-    ctx.restrizioni.MeseAmmesso.fill(true);
-    ctx.restrizioni.PeriodoAmmesso.fill(true);
-    ctx.restrizioni.NumeroAmmesso.fill(true);
-    if (g() % 4 == 0) {
-        ctx.restrizioni.Giorno = true;
-        ctx.restrizioni.GiornoAmmesso[1 + g() % 7] = false;
-    }
-    return ctx;
 }
 
 std::string Descrivi(const ParametriRicerca& p, const std::string& chiave, const std::string& spia) {
@@ -247,12 +146,12 @@ TEST_P(VerificaDifferenziale, ChiaviCasuali) {
     const TipoRicerca tipo = GetParam();
     std::mt19937 g(7000 + static_cast<unsigned>(tipo));
     for (int archivio = 0; archivio < 3; ++archivio) {
-        const archives::StoriaLotto s = StoriaCasuale(g, 3);
+        const archives::StoriaLotto s = StoriaCasuale(g);
         const IndiciMensili im = CalcolaIndiciMensili(s, g() % 2 ? "NNYNYNY" : "NNNNNNN");
         const TerzineRidotte t = TerzineCasuali(g, 120);
         for (int prova = 0; prova < 120; ++prova) {
-            const ContestoRicerca ctx = ContestoCasuale(g, s, im, t);
-            const ParametriRicerca p = ParametriCasuali(g, s, tipo);
+            const ContestoRicerca ctx = test::ContestoCasuale(g, s, im, &t);
+            const ParametriRicerca p = ParametriCasuali(g, s, tipo, MisureVerifica);
             const std::string spia = SpiaCasuale(g, p);
             const std::string chiave = ChiaveCasuale(g, p, spia, t.quante());
             Confronta(p, ctx, DescrizioneDaChiave(chiave, p, &t), chiave, spia, g);
@@ -268,11 +167,11 @@ TEST_P(VerificaDifferenziale, RigheDellaRicerca) {
     const int prove = tipo == TipoRicerca::Ambi || tipo == TipoRicerca::Codici ? 6 : 20;
     int righeViste = 0, inCorsoVisti = 0;
     for (int prova = 0; prova < prove; ++prova) {
-        const archives::StoriaLotto s = StoriaCasuale(g, 2);
+        const archives::StoriaLotto s = StoriaCasuale(g, {.anni = 2});
         const IndiciMensili im = CalcolaIndiciMensili(s, "NNYNYNY");
         const TerzineRidotte t = TerzineCasuali(g, 60);
-        const ContestoRicerca ctx = ContestoCasuale(g, s, im, t);
-        ParametriRicerca p = ParametriCasuali(g, s, tipo);
+        const ContestoRicerca ctx = test::ContestoCasuale(g, s, im, &t);
+        ParametriRicerca p = ParametriCasuali(g, s, tipo, MisureVerifica);
         // Heavy bodies on short periods.
         if (tipo == TipoRicerca::Ambi || tipo == TipoRicerca::Codici) {
             p.modoSpia = p.modoSpia == ModoSpia::Tutti ? ModoSpia::Fisso : p.modoSpia;
@@ -307,7 +206,8 @@ TEST_P(VerificaDifferenziale, RigheDellaRicerca) {
 
 INSTANTIATE_TEST_SUITE_P(VerificaTipi, VerificaDifferenziale,
                          ::testing::Values(TipoRicerca::Ambate, TipoRicerca::Ambi, TipoRicerca::TerzineAmbo,
-                                           TipoRicerca::TerzineTerno, TipoRicerca::Codici));
+                                           TipoRicerca::TerzineTerno, TipoRicerca::Codici),
+                         test::NomeTipoRicerca);
 
 // ---------------------------------------------------------------- edge cases on a made history
 
