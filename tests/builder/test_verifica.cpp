@@ -13,6 +13,7 @@
 #include "builder/ricerca.h"
 #include "builder/verifica.h"
 #include "config/formato.h"
+#include "support/attesi.h"
 #include "support/archivi_reali.h"
 #include "support/casuali.h"
 #include "verifica_letterale.h"
@@ -451,31 +452,10 @@ TEST(RiepilogoTecnica, CifreERighe) {
     EXPECT_EQ(r.figure.sfaldati, 1);
     EXPECT_EQ(r.figure.negativi, 0);
     EXPECT_EQ(r.figure.sommaColpi, 3);
-    EXPECT_EQ(r.righe, (std::vector<std::string>{
-                           " Casi rilevati   :     3",
-                           " Casi favorevoli :     2 (66,7 %)",
-                           " Casi negativi   :     0 (0,0 %)",
-                           " Casi in gioco   :     1 (1 già sfaldato/i)",
-                           " Ambate          :     2",
-                           " Attesa media    :   1,5 colpi",
-                       }));
-    EXPECT_EQ(r.testa, (std::vector<std::string>{
-                           "Gorgo 2",
-                           "Data inizio ricerca " + s.storia.DataEstrazione(1),
-                           "Data fine ricerca " + s.storia.DataEstrazione(s.N()),
-                           "Condizione di gioco:",
-                           "Sortita del n. 27 in qualsiasi posizione",
-                           "Ruota/e di ricerca condizione  Bari",
-                           " su ",
-                           "Ruota/e di gioco  Bari",
-                           "Colpi di gioco 3",
-                           "Tutti gli indici mensili",
-                           s.descrizione,
-                           " nessuna previsione in corso",
-                       }));
-    const config::ReportTesto rep = ReportRiepilogo(r);
-    ASSERT_EQ(rep.righe().size(), r.testa.size() + r.righe.size());
-    EXPECT_EQ(rep.righe().back().testo, r.righe.back());
+    // The head, then the figures; the report is the two one after the other.
+    const std::string testo = test::TestoRighe(r.testa) + test::TestoRighe(r.righe);
+    EXPECT_TRUE(test::ConfrontaConAtteso(testo, "builder/attesi/riepilogo.txt"));
+    EXPECT_EQ(test::TestoRighe(ReportRiepilogo(r).righe()), testo);
 }
 
 TEST(RiepilogoTecnica, NessunFavorevoleNessunErrore) {
@@ -780,37 +760,12 @@ TEST(VerificaReport, TabellaStampataERigheSuFile) {
     s.Fatto();
     const EsitoVerifica v = s.Verifica();
     ASSERT_EQ(v.righe.size(), 2u);
-    const auto stampa = StampaVerificaRighe(s.p, v, s.descrizione, s.storia).righe();
-    size_t t = 0;
-    while (t < stampa.size() && stampa[t].testo.rfind("*---", 0) != 0) ++t;
-    ASSERT_LT(t + 5, stampa.size());
-    EXPECT_EQ(stampa[t].testo, "*------------*-------*----*------*--------*--------*------------*-----------*-------*------*");
-    EXPECT_EQ(stampa[t + 1].testo,
-              "| Data spia  | Ruota | Num. | Pos. | Ind.m. | Ind.a. | Previsione | Data sor. | Ruota | C.po |");
-    const std::string& riga = stampa[t + 3].testo;
-    EXPECT_EQ(riga.substr(2, 10), v.righe[0].colonne[0]);
-    EXPECT_EQ(riga.substr(16, 4), "Bari");
-    EXPECT_EQ(riga.substr(23, 2), "27");
-    EXPECT_EQ(riga.substr(29, 1), "2");
-    EXPECT_EQ(riga.substr(55, 2), "50");
-    EXPECT_EQ(riga.substr(66, 10), s.storia.DataEstrazione(s.N() - 8));
-    EXPECT_EQ(riga.substr(79, 4), "Bari");
-    EXPECT_EQ(riga.substr(88, 1), "2");
-    EXPECT_EQ(stampa.back().testo, stampa[t].testo);
-
-    const auto file = ReportVerifica(s.p, v, s.descrizione, s.storia).righe();
-    ASSERT_GE(file.size(), 3u);
-    EXPECT_EQ(file[0].testo, "Gorgo 2 - Ideato da Sergio Tordelli");
-    const IndiciMensili& im = s.indici;
-    const auto indice = [&](int32_t i) {
-        return im.ultimo[static_cast<size_t>(i)] ? std::string(" U") : fmt::format("{:>2}", im.indice[static_cast<size_t>(i)]);
-    };
-    const int32_t caso = s.N() - 6;
-    EXPECT_EQ(file.back().testo,
-              fmt::format("Data spia: {}, R.: Bari, Numero: 27, Pos.: 2, Ind.m.: {}, Ind.a.: {:>3}, Prev.: 50, "
-                          "Data sor.: --, R.: --, C.po.: --",
-                          s.storia.DataEstrazione(caso), indice(caso), s.storia[caso].NumeroAnno));
-    EXPECT_EQ(file[file.size() - 3].testo, s.descrizione);
+    // The printed table (Bari, 27 in position 2, forecast 50 out at the second colpo, then
+    // a case with no hit) and the file form, one line a case.
+    EXPECT_TRUE(test::ConfrontaConAtteso(test::TestoRighe(StampaVerificaRighe(s.p, v, s.descrizione, s.storia).righe()),
+                                         "builder/attesi/verifica_stampa.txt"));
+    EXPECT_TRUE(test::ConfrontaConAtteso(test::TestoRighe(ReportVerifica(s.p, v, s.descrizione, s.storia).righe()),
+                                         "builder/attesi/verifica_file.txt"));
 }
 
 TEST(VerificaReport, PrevisioniStampaEFile) {
@@ -827,17 +782,11 @@ TEST(VerificaReport, PrevisioniStampaEFile) {
     r.frequenza = "  61";
     r.indiceConvenienza = "0,21";
     e.righe.push_back(r);
-    const auto stampa = StampaPrevisioniRighe(p, e, storia).righe();
-    const auto file = ReportPrevisioni(p, e, storia).righe();
-    ASSERT_EQ(stampa.size(), file.size());
-    const size_t t = stampa.size() - 6;
-    EXPECT_EQ(stampa[t].testo, "Calcolo previsioni degli algoritmi selezionati: Ambate");
-    EXPECT_EQ(stampa[t + 1].testo, "*--------------------------------------°------------*-------*-------*-------*-------*");
-    EXPECT_EQ(stampa[t + 2].testo, "| Descrizione algoritmo                | Previsione |  Rit. | R.Max | Freq. | I.C.  |");
-    EXPECT_EQ(file[t + 2].testo, "| Descrizione algoritmo                | Previsione |  Rit. | R.Max | Freq. |  I.C. |");
-    EXPECT_EQ(stampa[t + 4].testo,
-              "  3' su Bari      + 12                   45              12     140      61    0,21  ");
-    EXPECT_EQ(stampa[t + 4].testo, file[t + 4].testo);
+    // The two differ only in the heading of the last column.
+    EXPECT_TRUE(test::ConfrontaConAtteso(test::TestoRighe(StampaPrevisioniRighe(p, e, storia).righe()),
+                                         "builder/attesi/previsioni_stampa.txt"));
+    EXPECT_TRUE(test::ConfrontaConAtteso(test::TestoRighe(ReportPrevisioni(p, e, storia).righe()),
+                                         "builder/attesi/previsioni_file.txt"));
 }
 
 TEST(VerificaReport, ListaDelleSortite) {
