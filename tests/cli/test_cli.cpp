@@ -36,6 +36,27 @@ std::string Istantanea(const fs::path& cartella) {
     return s;
 }
 
+// A refused command: exit code 2, its message on stderr, nothing on stdout.
+struct Rifiuto {
+    std::vector<std::string> argomenti;
+    std::string messaggio;
+};
+
+// Every refusal as stated, and the program folder left byte for byte as it was.
+template <typename Esecutore>
+void AttesiRifiuti(const fs::path& cartella, std::initializer_list<Rifiuto> casi, Esecutore esegui) {
+    const std::string prima = Istantanea(cartella);
+    for (const Rifiuto& r : casi) {
+        std::string comando;
+        for (const auto& a : r.argomenti) comando.append(a.substr(0, 40)).append(" ");
+        const Esito e = esegui(r.argomenti);
+        EXPECT_EQ(e.codice, 2) << comando << e.err;
+        EXPECT_NE(e.err.find(r.messaggio), std::string::npos) << comando << ": " << e.err;
+        EXPECT_TRUE(e.out.empty()) << e.out;
+    }
+    EXPECT_EQ(Istantanea(cartella), prima);
+}
+
 class Cli : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -83,13 +104,8 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
 }
 
 TEST_F(Cli, InputRifiutatoNonScriveNulla) {
-    const std::string prima = Istantanea(cartella_);
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
     const std::string lungo(1200, 'x');
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"data", "1/1/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
         {{"data", "31/02/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
         {{"data", "01/01/1850"}, "La data non può essere inferiore alla data inizio gestione archivi (07/01/1871)"},
@@ -107,14 +123,8 @@ TEST_F(Cli, InputRifiutatoNonScriveNulla) {
         {{"demo", cartella_.string()}, "contiene già un archivio"},
         {{"estrazione"}, "Manca il parametro obbligatorio"},
         {{"info", "--boh"}, "Parametro non previsto"},
-    };
-    for (const Caso& c : casi) {
-        const Esito e = Su(c.argomenti);
-        EXPECT_EQ(e.codice, 2) << c.argomenti[0] << " " << e.err;
-        EXPECT_NE(e.err.find(c.messaggio), std::string::npos) << c.argomenti[0] << ": " << e.err;
-        EXPECT_TRUE(e.out.empty()) << e.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), prima);
+                  },
+                  [&](const std::vector<std::string>& a) { return Su(a); });
 }
 
 TEST_F(Cli, ArchiviDanneggiatiRifiutati) {
@@ -275,12 +285,7 @@ TEST_F(Cli, VerificaEPrevisioni) {
               std::string::npos);
 
     // Refusals: the key's own fault, the period's, a missing key; nothing written, nothing printed.
-    const std::string prima = Istantanea(cartella_);
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"verifica", "--chiave", "123"}, "Calcolo impossibile: algoritmo mancante."},
         {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "Calcolo impossibile: "},
         {{"verifica", "--chiave", chiave, "--colpi", "0"}, "Inserire il n. di colpi di gioco !"},
@@ -288,14 +293,8 @@ TEST_F(Cli, VerificaEPrevisioni) {
         {{"previsioni", "--chiave", chiave, "--tipo", "codici", "--terzine", (c_.percorso() / "manca.txt").string()},
          "manca.txt"},
         {{"verifica"}, "Manca il parametro obbligatorio"},
-    };
-    for (const Caso& k : casi) {
-        const Esito e = con(k.argomenti);
-        EXPECT_EQ(e.codice, 2) << k.argomenti[0] << " " << e.err;
-        EXPECT_NE(e.err.find(k.messaggio), std::string::npos) << e.err;
-        EXPECT_TRUE(e.out.empty()) << e.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), prima);
+                  },
+                  con);
 }
 
 // The writers from the command line, on a copy of the real archives.
@@ -356,12 +355,7 @@ TEST_F(CliManutenzione, RifiutiSenzaScrivereNulla) {
     Scrivi(c_ / "67.bin", agg.substr(0, 67));
     Scrivi(c_ / "lacuna.bin", agg.substr(66));
     Scrivi(c_ / "rotto.txt", "2026/01/02\tBA\t1\t2\t3\t4\t5\n2026/01/02\tCA\t1\t2\t3\t4\n");
-    const std::string prima = Istantanea(cartella_);
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"aggiorna", (c_ / "65.bin").string()}, (c_ / "65.bin").string() + " corrotto o mancante !"},
         {{"aggiorna", (c_ / "67.bin").string()}, (c_ / "67.bin").string() + " corrotto o mancante !"},
         {{"aggiorna", (c_ / "manca.bin").string()}, "manca.bin corrotto o mancante !"},
@@ -373,14 +367,8 @@ TEST_F(CliManutenzione, RifiutiSenzaScrivereNulla) {
         {{"esporta", (cartella_ / "Archivi" / "Estrazioni.ind").string()}, "è un archivio del programma"},
         {{"esporta-testo", (cartella_ / "Archivi" / "anni.ind").string()}, "è un archivio del programma"},
         {{"aggiorna"}, "Manca il parametro obbligatorio"},
-    };
-    for (const Caso& k : casi) {
-        const Esito e = Su(k.argomenti);
-        EXPECT_EQ(e.codice, 2) << k.argomenti[0] << " " << e.err;
-        EXPECT_NE(e.err.find(k.messaggio), std::string::npos) << k.argomenti[0] << ": " << e.err;
-        EXPECT_TRUE(e.out.empty()) << e.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), prima);
+                  },
+                  [&](const std::vector<std::string>& a) { return Su(a); });
     EXPECT_FALSE(fs::exists(c_ / "x.bin"));
 }
 
@@ -480,14 +468,9 @@ TEST_F(Cli, Inserisci) {
     }
 
     // Refusals and unanswered questions write nothing.
-    const std::string istantanea = Istantanea(cartella_);
     std::string uguali = testo;
     uguali.replace(uguali.find(" 7 "), 3, " 6 ");
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"inserisci", uguali}, "Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?"},
         {{"inserisci", "1 2 3 4 5 6 7 8 9 10"}, "Mancano alcuni numeri. Memorizzi ugualmente ?"},
         {{"inserisci", testo, "--data", "30/12/2025"}, "L'estrazione del 30/12/2025 è già in archivio"},
@@ -498,14 +481,8 @@ TEST_F(Cli, Inserisci) {
         {{"inserisci", "1 2 3", "--conferma"}, "Testo troppo corto"},
         {{"inserisci", "nessun numero qui", "--conferma"}, "Il testo non contiene numeri."},
         {{"inserisci", "1 2 3 4 5 6 7 8", "--super", "--data", "01/01/2020"}, "In archivio non c'è"},
-    };
-    for (const Caso& c : casi) {
-        const Esito r = Su(c.argomenti);
-        EXPECT_EQ(r.codice, 2) << c.argomenti[1] << " " << r.err;
-        EXPECT_NE(r.err.find(c.messaggio), std::string::npos) << r.err;
-        EXPECT_TRUE(r.out.empty()) << r.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), istantanea);
+                  },
+                  [&](const std::vector<std::string>& a) { return Su(a); });
 
     // Yes to the question: stored, and the question said on the way.
     e = Su({"inserisci", uguali, "--conferma"});
