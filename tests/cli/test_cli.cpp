@@ -8,7 +8,6 @@
 #include <fmt/format.h>
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <zip.h>
 
 #include "archives/archivio.h"
 #include "support/archivi_reali.h"
@@ -394,14 +393,7 @@ TEST_F(CliManutenzione, ImportaInUnaCartellaVuotaEDaZip) {
 
     // The same as a zip into the 2025 archive: the records of the update file.
     const fs::path zip = c_ / "storico.zip";
-    {
-        int errore = 0;
-        zip_t* z = zip_open(zip.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &errore);
-        ASSERT_NE(z, nullptr);
-        const std::string s = LeggiFile(File("storico-2026.txt"));
-        ASSERT_GE(zip_file_add(z, "storico.txt", zip_source_buffer(z, s.data(), s.size(), 0), 0), 0);
-        ASSERT_EQ(zip_close(z), 0);
-    }
+    Scrivi(zip, test::CreaZip(c_.percorso(), {{"storico.txt", LeggiFile(File("storico-2026.txt"))}}));
     const Esito ez = Su({"importa", zip.string()});
     ASSERT_EQ(ez.codice, 0) << ez.err;
     EXPECT_EQ(ez.out.rfind("Importazione archivio del Lotto al 21/08/2026 effettuata: 134 estrazioni aggiunte.", 0), 0u)
