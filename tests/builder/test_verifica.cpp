@@ -791,14 +791,7 @@ TEST(VerificaReport, PrevisioniStampaEFile) {
 
 TEST(VerificaReport, ListaDelleSortite) {
     EXPECT_EQ(DescrizioneListaSortite(12), " Dettaglio delle 12 sortite");
-    CasoSpia c;
-    c.data = "30/12/2025";
-    c.nomeRuota = "Bari      ";
-    c.testoSpia = "27";
-    c.testoPosizione = "3";
-    c.testoIndiceMese = " U";
-    c.testoIndiceAnnuale = "208";
-    c.testoIndice = "10779";
+    const CasoSpia c{0, 0, 0, 0, 0, "30/12/2025", "Bari      ", "27", "3", " U", "208", "10779"};
     EXPECT_EQ(ColonneListaSortite(c),
               (std::array<std::string, 7>{"30/12/2025", "Bari      ", "27", "3", " U", "208", "10779"}));
 }
