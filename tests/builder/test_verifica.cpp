@@ -618,19 +618,7 @@ TEST(StatisticheRuoteGioco, ConteggioDirettoSullArchivioReale) {
 
 // ---------------------------------------------------------------- forecasts
 
-struct Dimostrativa {
-    archives::StoriaLotto storia{archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}})};
-    IndiciMensili indici = CalcolaIndiciMensili(storia, "NNYNYNY");
-    TerzineRidotte terzine;
-    ContestoRicerca contesto{&storia, {}, &indici, nullptr};
-    Dimostrativa() {
-        std::mt19937 g(99);
-        terzine = TerzineCasuali(g, 300);
-        contesto.terzine = &terzine;
-        contesto.restrizioni.GiornoAmmesso.fill(true);
-        contesto.restrizioni.MeseAmmesso.fill(true);
-        contesto.restrizioni.PeriodoAmmesso.fill(true);
-    }
+struct Dimostrativa : test::ContestoDemo {
     ParametriRicerca Parametri(TipoRicerca tipo) const {
         ParametriRicerca p;
         p.tipoRicerca = tipo;

@@ -145,6 +145,17 @@ builder::ContestoRicerca ContestoCasuale(std::mt19937& g, const archives::Storia
     return ctx;
 }
 
+ContestoDemo::ContestoDemo()
+    : storia(archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}})),
+      indici(builder::CalcolaIndiciMensili(storia, "NNYNYNY")),
+      contesto{&storia, {}, &indici, &terzine} {
+    std::mt19937 g(99);
+    terzine = TerzineCasuali(g, 300);
+    contesto.restrizioni.GiornoAmmesso.fill(true);
+    contesto.restrizioni.MeseAmmesso.fill(true);
+    contesto.restrizioni.PeriodoAmmesso.fill(true);
+}
+
 std::string NomeTipoRicerca(const ::testing::TestParamInfo<TipoRicerca>& info) {
     constexpr const char* nomi[] = {"Ambate", "Ambi", "TerzineAmbo", "TerzineTerno", "Codici"};
     return nomi[static_cast<int>(info.param)];

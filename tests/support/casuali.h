@@ -69,6 +69,18 @@ builder::ParametriRicerca ParametriCasuali(std::mt19937& g, const archives::Stor
 builder::ContestoRicerca ContestoCasuale(std::mt19937& g, const archives::StoriaLotto& s,
                                          const builder::IndiciMensili& im, const builder::TerzineRidotte* t);
 
+// The demo history to 30/12/2025 (seed 3) with its month indices, random reduced triples
+// and a context that admits every draw: the usual ground of the engines' unit tests.
+struct ContestoDemo {
+    archives::StoriaLotto storia;
+    builder::IndiciMensili indici;
+    builder::TerzineRidotte terzine;
+    builder::ContestoRicerca contesto;
+    ContestoDemo();
+    ContestoDemo(const ContestoDemo&) = delete;
+    ContestoDemo& operator=(const ContestoDemo&) = delete;
+};
+
 // Names of the kinds in the test list, for tests parametrised by kind.
 std::string NomeTipoRicerca(const ::testing::TestParamInfo<builder::TipoRicerca>& info);
 
