@@ -129,20 +129,11 @@ TEST_F(Inserimento, DecodificaDelTesto) {
 // ---------------------------------------------------------------- the boxes
 
 TEST_F(Inserimento, CaselleNumeriche) {
-    EXPECT_TRUE(SoloCifre('0'));
-    EXPECT_TRUE(SoloCifre('9'));
-    EXPECT_TRUE(SoloCifre(8));   // backspace
-    EXPECT_TRUE(SoloCifre(22));  // ctrl-V
-    EXPECT_FALSE(SoloCifre('a'));
-    EXPECT_FALSE(SoloCifre(' '));
-    EXPECT_FALSE(SoloCifre('-'));
-    EXPECT_EQ(ValoreCasella(""), 0);
-    EXPECT_EQ(ValoreCasella("12abc"), 12);
-    EXPECT_EQ(ValoreCasella(" 7"), 7);
+    for (int c : {int{'0'}, int{'9'}, 8, 22}) EXPECT_TRUE(SoloCifre(c)) << c;  // digits, backspace, ctrl-V
+    for (int c : {'a', ' ', '-'}) EXPECT_FALSE(SoloCifre(c)) << c;
+    for (auto [testo, valore] : {std::pair{"", 0}, {"12abc", 12}, {" 7", 7}}) EXPECT_EQ(ValoreCasella(testo), valore);
     EXPECT_GT(ValoreCasella("123456789012345"), 90);
-    EXPECT_TRUE(ControllaCasella("").vuoto());
-    EXPECT_TRUE(ControllaCasella("0").vuoto());
-    EXPECT_TRUE(ControllaCasella("90").vuoto());
+    for (const char* buona : {"", "0", "90"}) EXPECT_TRUE(ControllaCasella(buona).vuoto()) << buona;
     const archives::Messaggio m = ControllaCasella("91");
     EXPECT_EQ(m.testo, "inserisci un numero tra 1 e 90 !");
     EXPECT_EQ(m.icona, archives::Icona::Esclamazione);
