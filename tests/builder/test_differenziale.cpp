@@ -83,7 +83,7 @@ TEST_P(Differenziale, ArchiviCasuali) {
                 if (tipo == TipoRicerca::Ambi && tuttiVisti++) p.modoSpia = ModoSpia::Fisso;
                 const int32_t a = s.NumeroEstrazioni() - 30 - static_cast<int32_t>(g() % 20);
                 p.dataA = s.DataEstrazione(a);
-                p.dataDa = s.DataEstrazione(a - 3 - static_cast<int32_t>(g() % 3));
+                p.dataDa = s.DataEstrazione(a - 2 - static_cast<int32_t>(g() % 2));
                 p.perData = 0;
                 p.sorte = 2;
                 p.colpi = std::max(p.colpi, 9);
