@@ -88,8 +88,6 @@ std::string Descrivi(const ParametriRicerca& p, const std::string& chiave, const
                        p.colpi, p.controllaUltime, p.sorte, p.colpiDaGiocare);
 }
 
-int32_t Fine(const ParametriRicerca& p, const archives::StoriaLotto& s) { return ValidaRicerca(p, s).ultimoPeriodo; }
-
 // Engine and transcription, in every mode, on one key.
 void Confronta(const ParametriRicerca& p, const ContestoRicerca& ctx, const std::string& descrizione,
                const std::string& chiave, const std::string& spia, std::mt19937& g) {
@@ -119,7 +117,7 @@ void Confronta(const ParametriRicerca& p, const ContestoRicerca& ctx, const std:
         ASSERT_EQ(e.coloreCapo, l.coloreCapo) << dove;
     }
     if (e.errore.vuoto()) {
-        const int32_t fine = Fine(p, *ctx.storia);
+        const int32_t fine = ValidaRicerca(p, *ctx.storia).ultimoPeriodo;
         const FigureRiepilogo a = FigureTecnica(e.righe, fine, p.colpi), b = letterale::Figure(l.lista, fine, p.colpi);
         ASSERT_EQ(std::tie(a.rilevati, a.favorevoli, a.negativi, a.inGioco, a.sfaldati, a.sommaColpi),
                   std::tie(b.rilevati, b.favorevoli, b.negativi, b.inGioco, b.sfaldati, b.sommaColpi))
@@ -266,16 +264,10 @@ TEST(VerificaCasiLimite, FinestraVuotaAllaFineDellArchivio) {
     ASSERT_TRUE(e.errore.vuoto()) << e.errore.testo;
     ASSERT_EQ(e.righe.size(), 1u);
     const RigaVerifica& r = e.righe[0];
-    EXPECT_EQ(r.colonne[0], s.storia.DataEstrazione(s.N()));
-    EXPECT_EQ(r.colonne[2], "27");
-    EXPECT_EQ(r.colonne[3], "2");
-    EXPECT_EQ(r.colonne[6], " ");
-    EXPECT_EQ(r.colonne[7], "50");
-    EXPECT_EQ(r.colonne[8], "IN CORSO");
-    EXPECT_EQ(r.colonne[9], "--");
-    EXPECT_EQ(r.colonne[10], "3-");  // all the colpi left
-    EXPECT_EQ(r.colonne[11], fmt::format("{:>5}", s.N()));
-    EXPECT_EQ(r.colonne[12], fmt::format("{:>5}", s.N() + 1));
+    // Running with all the colpi left ("3-"); the hit's index is the draw to come.
+    EXPECT_EQ(r.colonne, (std::array<std::string, 13>{s.storia.DataEstrazione(s.N()), "Bari      ", "27", "2", " U",
+                                                      "208", " ", "50", "IN CORSO", "--", "3-",
+                                                      fmt::format("{:>5}", s.N()), fmt::format("{:>5}", s.N() + 1)}));
     EXPECT_EQ(r.chiave, "Nessuno");
     EXPECT_TRUE(r.inCorso);
     EXPECT_EQ(e.inCorso, 1);
