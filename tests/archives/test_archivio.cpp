@@ -226,55 +226,40 @@ TEST(ArchivioPresenza, LetturaNonCreaNulla) {
 
 // Damaged files: each is named by the check, none is changed by opening and checking.
 TEST(ArchivioIntegrita, DanniRiconosciuti) {
+    // Each harm: a file's length changed by `variazione`, or `byte` written at `posizione`
+    // (-1: at the end).
+    const RecordAnno extra = RecordAnno::Crea(2100, 99999);
     struct Caso {
         const char* nome;
-        void (*danneggia)(const fs::path& archivi);
+        const char* file;
+        std::streamoff variazione, posizione;
+        std::string byte;
         const char* attesa;
     };
     const Caso casi[] = {
-        {"estrazioni tronche",
-         [](const fs::path& d) { fs::resize_file(d / "Estrazioni.ind", fs::file_size(d / "Estrazioni.ind") - 1); },
-         "non è un multiplo di 66"},
-        {"anni tronchi", [](const fs::path& d) { fs::resize_file(d / "anni.ind", fs::file_size(d / "anni.ind") - 3); },
-         "non è un multiplo di 12"},
-        {"super tronco",
-         [](const fs::path& d) { fs::resize_file(d / "SuperEnalotto.ind", fs::file_size(d / "SuperEnalotto.ind") + 7); },
-         "non è un multiplo di 20"},
-        {"anno mancante", [](const fs::path& d) { fs::resize_file(d / "anni.ind", fs::file_size(d / "anni.ind") - 12); },
-         "manca o è errato l'anno"},
-        {"prima estrazione errata",
-         [](const fs::path& d) {
-             std::fstream f(d / "anni.ind", std::ios::in | std::ios::out | std::ios::binary);
-             f.seekp(12 + 4);
-             f.write("99     ", 7);
-         },
-         "manca o è errato l'anno 1872"},
-        {"anno in più",
-         [](const fs::path& d) {
-             const RecordAnno extra = RecordAnno::Crea(2100, 99999);
-             std::ofstream(d / "anni.ind", std::ios::app | std::ios::binary)
-                 .write(reinterpret_cast<const char*>(&extra), 12);
-         },
-         "contiene"},
-        {"date fuori ordine",
-         [](const fs::path& d) {
-             std::fstream f(d / "Estrazioni.ind", std::ios::in | std::ios::out | std::ios::binary);
-             f.seekp(66 * 10 + 3);
-             f.write("01011871", 8);
-         },
-         "non è in ordine di data"},
-        {"data illeggibile",
-         [](const fs::path& d) {
-             std::fstream f(d / "Estrazioni.ind", std::ios::in | std::ios::out | std::ios::binary);
-             f.seekp(66 * 10 + 3);
-             f.write("3x021871", 8);
-         },
-         "data non valida"},
+        {"estrazioni tronche", "Estrazioni.ind", -1, 0, "", "non è un multiplo di 66"},
+        {"anni tronchi", "anni.ind", -3, 0, "", "non è un multiplo di 12"},
+        {"super tronco", "SuperEnalotto.ind", 7, 0, "", "non è un multiplo di 20"},
+        {"anno mancante", "anni.ind", -12, 0, "", "manca o è errato l'anno"},
+        {"prima estrazione errata", "anni.ind", 0, 12 + 4, "99     ", "manca o è errato l'anno 1872"},
+        {"anno in più", "anni.ind", 0, -1, std::string(reinterpret_cast<const char*>(&extra), 12), "contiene"},
+        {"date fuori ordine", "Estrazioni.ind", 0, 66 * 10 + 3, "01011871", "non è in ordine di data"},
+        {"data illeggibile", "Estrazioni.ind", 0, 66 * 10 + 3, "3x021871", "data non valida"},
     };
     for (const Caso& caso : casi) {
         CartellaTemporanea c;
         test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1875}});
-        caso.danneggia(c / "Archivi");
+        const fs::path file = c / "Archivi" / caso.file;
+        if (caso.variazione) {
+            fs::resize_file(file, static_cast<uintmax_t>(static_cast<std::streamoff>(fs::file_size(file)) + caso.variazione));
+        } else {
+            std::fstream f(file, std::ios::in | std::ios::out | std::ios::binary);
+            if (caso.posizione < 0)
+                f.seekp(0, std::ios::end);
+            else
+                f.seekp(caso.posizione);
+            f.write(caso.byte.data(), static_cast<std::streamsize>(caso.byte.size()));
+        }
         const std::string prima = test::LeggiFile(c / "Archivi/Estrazioni.ind") + test::LeggiFile(c / "Archivi/anni.ind");
         const Archivio a = Archivio::Apri(c.percorso());
         const Messaggio m = VerificaIntegrita(a);

@@ -13,111 +13,15 @@
 #include "builder/terzine.h"
 #include "ricerca_letterale.h"
 #include "support/archivi_reali.h"
+#include "support/casuali.h"
 
 namespace gorgo::builder {
 namespace {
 
-// A draw history with holes: some numbers repeat across wheels, some wheels are missing.
-archives::StoriaLotto StoriaCasuale(std::mt19937& g, int anni) {
-    archives::ParametriDemo pd;
-    pd.seme = g();
-    pd.fine = archives::Data{30, 12, 2005 + anni};
-    auto record = archives::GeneraStoriaDemo(pd);
-    // Keep the last few years only, renumbered from 1: short archives, quick oracles.
-    const size_t tieni = std::min<size_t>(record.size(), static_cast<size_t>(anni) * 150);
-    std::vector<archives::RecordEstrazione> v(record.end() - static_cast<long>(tieni), record.end());
-    // Small number ranges on some wheels make spies, pairs and triples frequent.
-    for (auto& r : v)
-        for (int w = 0; w < 11; ++w) {
-            if (g() % 40 == 0) {
-                for (int p = 0; p < 5; ++p) r.Ruota[w][p] = 0;  // a wheel not drawn
-                continue;
-            }
-            if (w % 3 == 0) {
-                bool usato[91] = {};
-                for (int p = 0; p < 5; ++p) {
-                    int n;
-                    do n = 1 + static_cast<int>(g() % 20);
-                    while (usato[n]);
-                    usato[n] = true;
-                    r.Ruota[w][p] = static_cast<uint8_t>(n);
-                }
-            }
-        }
-    return archives::StoriaLotto(std::move(v));
-}
-
-TerzineRidotte TerzineCasuali(std::mt19937& g, int quante) {
-    TerzineRidotte t;
-    for (int i = 0; i < quante; ++i)
-        t.terzine.push_back({1 + static_cast<int>(g() % 90), 1 + static_cast<int>(g() % 90), 1 + static_cast<int>(g() % 90)});
-    return t;
-}
-
-std::array<bool, 12> RuoteCasuali(std::mt19937& g) {
-    std::array<bool, 12> r{};
-    if (g() % 3 == 0) {
-        r[0] = true;
-        r[11] = g() % 2;
-        return r;
-    }
-    bool una = false;
-    for (int w = 1; w <= 11; ++w) una |= r[static_cast<size_t>(w)] = g() % 3 == 0;
-    if (!una) r[1 + g() % 11] = true;
-    return r;
-}
-
-ParametriRicerca ParametriCasuali(std::mt19937& g, const archives::StoriaLotto& s, TipoRicerca tipo) {
-    ParametriRicerca p;
-    p.tipoRicerca = tipo;
-    p.tipoSpia = static_cast<TipoSpia>(g() % 4);
-    if (p.tipoSpia == TipoSpia::Ambo && tipo != TipoRicerca::Ambate && tipo != TipoRicerca::Ambi)
-        p.tipoSpia = TipoSpia::Numero;
-    const bool pesante = tipo == TipoRicerca::Ambi || tipo == TipoRicerca::Codici;
-    const int modo = static_cast<int>(g() % 6);
-    p.modoSpia = modo < 3 ? ModoSpia::Fisso : modo < 5 ? ModoSpia::Tutti : ModoSpia::SoloIndiceMensile;
-    if (p.tipoSpia == TipoSpia::Ambo) p.modoSpia = ModoSpia::Fisso;
-    p.valoreSpia = 1 + static_cast<int>(g() % 20);
-    if (p.tipoSpia == TipoSpia::Ambo) {
-        p.amboSpia = {1 + static_cast<int>(g() % 20), 1 + static_cast<int>(g() % 20)};
-        if (p.amboSpia[0] == p.amboSpia[1]) p.amboSpia[1] = p.amboSpia[0] % 20 + 1;
-        p.tuttiGliAmbi = !pesante && g() % 4 == 0;
-    }
-    if (g() % 3 == 0) {
-        p.posizioneDeterminata = true;
-        p.posizioniSpia = {false, true, true, true, true, true};
-        for (int i = 1; i <= 5; ++i) p.posizioniSpia[static_cast<size_t>(i)] = g() % 2;
-        p.posizioniSpia[1 + g() % 5] = true;
-        p.posizioniSpia[1 + g() % 5] = true;
-    }
-    // Short periods for the heavy bodies and for every value at once.
-    const bool tutti = p.modoSpia == ModoSpia::Tutti || p.tuttiGliAmbi;
-    const int span = pesante ? (tutti ? 12 : 60) : (tutti ? 60 : 300);
-    const int32_t n = s.NumeroEstrazioni();
-    const int32_t a = n - static_cast<int32_t>(g() % 20);
-    const int32_t da = std::max<int32_t>(1, a - 5 - static_cast<int32_t>(g() % static_cast<unsigned>(span)));
-    if (g() % 5 == 0 && !tutti) {
-        p.perData = 1;
-        p.sortiteDaCercare = 1 + static_cast<int>(g() % 15);
-    }
-    p.dataDa = s.DataEstrazione(da);
-    p.dataA = s.DataEstrazione(a);
-    const int indice = static_cast<int>(g() % 4);
-    p.indiceMese = indice == 0 ? 0 : indice == 1 ? 1 + static_cast<int>(g() % 5) : 22;
-    p.ruoteRicerca = RuoteCasuali(g);
-    p.ruoteGioco = RuoteCasuali(g);
-    // Long spans too: counts of a pair then pass what a byte holds.
-    p.colpi = g() % 4 == 0 ? 24 + static_cast<int>(g() % 20) : 1 + static_cast<int>(g() % 12);
-    p.controllaUltime = g() % 3 != 0;
-    p.soloPosizione = g() % 4 == 0;
-    if (g() % 3 == 0) {
-        for (int i = 1; i <= 5; ++i) p.posizioniValide[static_cast<size_t>(i)] = g() % 2;
-        p.posizioniValide[1 + g() % 5] = true;
-    }
-    p.sorte = g() % 2 ? 2 : 3;
-    for (auto&& o : p.operazioni) o = g() % 3 != 0;
-    return p;
-}
+using test::MisurePeriodo;
+using test::ParametriCasuali;
+using test::StoriaCasuale;
+using test::TerzineCasuali;
 
 void Confronta(const EsitoRicerca& veloce, const EsitoRicerca& letterale, const std::string& dove) {
     ASSERT_EQ(veloce.errore.testo, letterale.errore.testo) << dove;
@@ -158,23 +62,35 @@ class Differenziale : public ::testing::TestWithParam<TipoRicerca> {};
 TEST_P(Differenziale, ArchiviCasuali) {
     const TipoRicerca tipo = GetParam();
     std::mt19937 g(1000 + static_cast<unsigned>(tipo));
+    const bool pesante = tipo == TipoRicerca::Ambi || tipo == TipoRicerca::Codici;
     const int prove = tipo == TipoRicerca::Ambi ? 6 : tipo == TipoRicerca::Codici ? 10 : 40;
+    // Short periods for the heavy bodies and for every value (or every pair) at once: the
+    // cost goes with the cases, and with every value each draw brings a score of them.
+    const MisurePeriodo misure =
+        pesante ? MisurePeriodo{20, {5, 30}, {0, 1}, false} : MisurePeriodo{20, {5, 305}, {3, 30}, false};
+    int tuttiVisti = 0;
     for (int archivio = 0; archivio < 2; ++archivio) {
-        const archives::StoriaLotto s = StoriaCasuale(g, 3);
+        const archives::StoriaLotto s = StoriaCasuale(g);
         const IndiciMensili im = CalcolaIndiciMensili(s, g() % 2 ? "NNYNYNY" : "NNNNNNN");
         const TerzineRidotte t = TerzineCasuali(g, 200);
         for (int prova = 0; prova < prove; ++prova) {
-            ContestoRicerca ctx{&s, {}, &im, &t};
-            ctx.restrizioni.GiornoAmmesso.fill(true);
-            ctx.restrizioni.MeseAmmesso.fill(true);
-            ctx.restrizioni.PeriodoAmmesso.fill(true);
-            ctx.restrizioni.NumeroAmmesso.fill(true);
-            if (g() % 4 == 0) {  // a weekday restriction
-                ctx.restrizioni.Giorno = true;
-                ctx.restrizioni.GiornoAmmesso[1 + g() % 7] = false;
-                ctx.restrizioni.GiornoAmmesso[1 + g() % 7] = false;
+            const ContestoRicerca ctx = test::ContestoCasuale(g, s, im, &t);
+            ParametriRicerca p = ParametriCasuali(g, s, tipo, misure);
+            // A heavy body runs once for each value found: one narrow search wheel keeps them
+            // few yet each seen more than once (a row needs two hits), over a few draws whose
+            // windows close before the archive's end. The literal pairs try every value
+            // anyway, so they do it once a test.
+            if (pesante && p.modoSpia == ModoSpia::Tutti) {
+                p.ruoteRicerca.fill(false);
+                p.ruoteRicerca[1 + 3 * (g() % 4)] = true;
+                if (tipo == TipoRicerca::Ambi && tuttiVisti++) p.modoSpia = ModoSpia::Fisso;
+                const int32_t a = s.NumeroEstrazioni() - 30 - static_cast<int32_t>(g() % 20);
+                p.dataA = s.DataEstrazione(a);
+                p.dataDa = s.DataEstrazione(a - 2 - static_cast<int32_t>(g() % 2));
+                p.perData = 0;
+                p.sorte = 2;
+                p.colpi = std::max(p.colpi, 9);
             }
-            const ParametriRicerca p = ParametriCasuali(g, s, tipo);
             const bool seleziona = g() % 2;
             Confronta(CercaAlgoritmi(p, ctx, {}, seleziona), CercaAlgoritmiLetterale(p, ctx, seleziona), Descrivi(p));
             if (HasFatalFailure()) return;
@@ -184,12 +100,13 @@ TEST_P(Differenziale, ArchiviCasuali) {
 
 INSTANTIATE_TEST_SUITE_P(Corpi, Differenziale,
                          ::testing::Values(TipoRicerca::Ambate, TipoRicerca::Ambi, TipoRicerca::TerzineAmbo,
-                                           TipoRicerca::TerzineTerno, TipoRicerca::Codici));
+                                           TipoRicerca::TerzineTerno, TipoRicerca::Codici),
+                         test::NomeTipoRicerca);
 
 // Colpi x play wheels above 255: the engine keeps its pair counts wider.
 TEST(DifferenzialeAmbi, ConteggiOltreIlByte) {
     std::mt19937 g(4242);
-    const archives::StoriaLotto s = StoriaCasuale(g, 3);
+    const archives::StoriaLotto s = StoriaCasuale(g);
     const IndiciMensili im = CalcolaIndiciMensili(s, "NNYNYNY");
     ContestoRicerca ctx{&s, {}, &im, nullptr};
     ParametriRicerca p;

@@ -9,21 +9,13 @@
 
 #include "archives/demo.h"
 #include "builder/indice_mensile.h"
+#include "support/casuali.h"
 #include "builder/ricerca.h"
 
 namespace gorgo::builder {
 namespace {
 
-struct Demo {
-    archives::StoriaLotto storia{archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}})};
-    IndiciMensili indici = CalcolaIndiciMensili(storia, "NNYNYNY");
-    ContestoRicerca contesto{&storia, {}, &indici, nullptr};
-    Demo() {
-        contesto.restrizioni.GiornoAmmesso.fill(true);
-        contesto.restrizioni.MeseAmmesso.fill(true);
-        contesto.restrizioni.PeriodoAmmesso.fill(true);
-    }
-};
+using Demo = test::ContestoDemo;
 
 ParametriRicerca Tutte(TipoRicerca tipo) {
     ParametriRicerca p;

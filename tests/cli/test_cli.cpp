@@ -8,10 +8,10 @@
 #include <fmt/format.h>
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <zip.h>
 
 #include "archives/archivio.h"
 #include "support/archivi_reali.h"
+#include "support/attesi.h"
 #include "support/cartelle.h"
 #include "support/cli.h"
 
@@ -33,6 +33,27 @@ std::string Istantanea(const fs::path& cartella) {
     for (const auto& f : fs::recursive_directory_iterator(cartella))
         if (f.is_regular_file()) s += f.path().string() + "\n" + LeggiFile(f.path()) + "\n";
     return s;
+}
+
+// A refused command: exit code 2, its message on stderr, nothing on stdout.
+struct Rifiuto {
+    std::vector<std::string> argomenti;
+    std::string messaggio;
+};
+
+// Every refusal as stated, and the program folder left byte for byte as it was.
+template <typename Esecutore>
+void AttesiRifiuti(const fs::path& cartella, std::initializer_list<Rifiuto> casi, Esecutore esegui) {
+    const std::string prima = Istantanea(cartella);
+    for (const Rifiuto& r : casi) {
+        std::string comando;
+        for (const auto& a : r.argomenti) comando.append(a.substr(0, 40)).append(" ");
+        const Esito e = esegui(r.argomenti);
+        EXPECT_EQ(e.codice, 2) << comando << e.err;
+        EXPECT_NE(e.err.find(r.messaggio), std::string::npos) << comando << ": " << e.err;
+        EXPECT_TRUE(e.out.empty()) << e.out;
+    }
+    EXPECT_EQ(Istantanea(cartella), prima);
 }
 
 class Cli : public ::testing::Test {
@@ -82,13 +103,8 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
 }
 
 TEST_F(Cli, InputRifiutatoNonScriveNulla) {
-    const std::string prima = Istantanea(cartella_);
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
     const std::string lungo(1200, 'x');
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"data", "1/1/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
         {{"data", "31/02/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
         {{"data", "01/01/1850"}, "La data non può essere inferiore alla data inizio gestione archivi (07/01/1871)"},
@@ -106,29 +122,15 @@ TEST_F(Cli, InputRifiutatoNonScriveNulla) {
         {{"demo", cartella_.string()}, "contiene già un archivio"},
         {{"estrazione"}, "Manca il parametro obbligatorio"},
         {{"info", "--boh"}, "Parametro non previsto"},
-    };
-    for (const Caso& c : casi) {
-        const Esito e = Su(c.argomenti);
-        EXPECT_EQ(e.codice, 2) << c.argomenti[0] << " " << e.err;
-        EXPECT_NE(e.err.find(c.messaggio), std::string::npos) << c.argomenti[0] << ": " << e.err;
-        EXPECT_TRUE(e.out.empty()) << e.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), prima);
+                  },
+                  [&](const std::vector<std::string>& a) { return Su(a); });
 }
 
 TEST_F(Cli, ArchiviDanneggiatiRifiutati) {
     const fs::path archivi = cartella_ / "Archivi";
-    auto prova = [&](const char* attesa) {
-        const std::string prima = Istantanea(cartella_);
-        for (const char* comando : {"info", "estrazione", "data"}) {
-            std::vector<std::string> a = {comando};
-            if (std::string(comando) == "estrazione") a.push_back("1");
-            if (std::string(comando) == "data") a.push_back("07/01/1871");
-            const Esito e = Su(a);
-            EXPECT_EQ(e.codice, 2) << comando;
-            EXPECT_NE(e.err.find(attesa), std::string::npos) << e.err;
-        }
-        EXPECT_EQ(Istantanea(cartella_), prima);
+    auto prova = [&](const std::string& attesa) {
+        AttesiRifiuti(cartella_, {{{"info"}, attesa}, {{"estrazione", "1"}, attesa}, {{"data", "07/01/1871"}, attesa}},
+                      [&](const std::vector<std::string>& a) { return Su(a); });
     };
     const auto lunghezza = fs::file_size(archivi / "Estrazioni.ind");
     fs::resize_file(archivi / "Estrazioni.ind", lunghezza - 10);
@@ -197,14 +199,10 @@ TEST_F(Cli, Costruttore) {
                                               "--indice-mese", "tutti", "--da", "01/01/2024", "--report", report};
     ASSERT_EQ(Su(ricerca).codice, 0);
     const std::string testo = LeggiFile(report);
-    EXPECT_EQ(testo.rfind("Gorgo 2 - Ideato da Sergio Tordelli\r\n\r\nIntervallo di ricerca         : dal ", 0), 0u);
-    EXPECT_NE(testo.find("\r\nSpia                          : Numero spia 27 in qualsiasi posizione\r\n"),
-              std::string::npos);
-    const size_t righe = e["righe"].size();
+    EXPECT_TRUE(test::ConfrontaConAtteso(testo, "cli/attesi/report_algoritmi.txt"));  // Windows-1252, CRLF
     size_t algoritmi = 0;
     for (size_t p = testo.find("Algoritmo: "); p != std::string::npos; p = testo.find("Algoritmo: ", p + 1)) ++algoritmi;
-    EXPECT_EQ(algoritmi, righe);
-    EXPECT_NE(testo.find("Pres./quantit\xE0: "), std::string::npos);  // Windows-1252 on disk
+    EXPECT_EQ(algoritmi, e["righe"].size());
     r = Su(ricerca);
     EXPECT_EQ(r.codice, 2);
     EXPECT_NE(r.err.find("Le informazioni vanno aggiunte in calce ?"), std::string::npos);
@@ -278,12 +276,7 @@ TEST_F(Cli, VerificaEPrevisioni) {
               std::string::npos);
 
     // Refusals: the key's own fault, the period's, a missing key; nothing written, nothing printed.
-    const std::string prima = Istantanea(cartella_);
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"verifica", "--chiave", "123"}, "Calcolo impossibile: algoritmo mancante."},
         {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "Calcolo impossibile: "},
         {{"verifica", "--chiave", chiave, "--colpi", "0"}, "Inserire il n. di colpi di gioco !"},
@@ -291,26 +284,19 @@ TEST_F(Cli, VerificaEPrevisioni) {
         {{"previsioni", "--chiave", chiave, "--tipo", "codici", "--terzine", (c_.percorso() / "manca.txt").string()},
          "manca.txt"},
         {{"verifica"}, "Manca il parametro obbligatorio"},
-    };
-    for (const Caso& k : casi) {
-        const Esito e = con(k.argomenti);
-        EXPECT_EQ(e.codice, 2) << k.argomenti[0] << " " << e.err;
-        EXPECT_NE(e.err.find(k.messaggio), std::string::npos) << e.err;
-        EXPECT_TRUE(e.out.empty()) << e.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), prima);
+                  },
+                  con);
 }
 
 // The writers from the command line, on a copy of the real archives.
 class CliManutenzione : public ::testing::Test {
 protected:
     void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti ($GORGO_SHARED/dati/Archivi)";
-        aggiornamenti_ = reale->parent_path() / "aggiornamenti";
+        GORGO_RICHIEDI_ARCHIVI_REALI(reale);
+        aggiornamenti_ = reale.parent_path() / "aggiornamenti";
         if (!fs::exists(aggiornamenti_ / "AggiornamentoPz.bin")) GTEST_SKIP() << "file di aggiornamento assenti";
         cartella_ = c_.percorso() / "gorgo";
-        test::CopiaArchiviReali(*reale, cartella_);
+        test::CopiaArchiviReali(reale, cartella_);
     }
     Esito Su(std::vector<std::string> argomenti, const fs::path& cartella = {}) {
         argomenti.insert(argomenti.begin(), {"--cartella", (cartella.empty() ? cartella_ : cartella).string()});
@@ -360,12 +346,7 @@ TEST_F(CliManutenzione, RifiutiSenzaScrivereNulla) {
     Scrivi(c_ / "67.bin", agg.substr(0, 67));
     Scrivi(c_ / "lacuna.bin", agg.substr(66));
     Scrivi(c_ / "rotto.txt", "2026/01/02\tBA\t1\t2\t3\t4\t5\n2026/01/02\tCA\t1\t2\t3\t4\n");
-    const std::string prima = Istantanea(cartella_);
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"aggiorna", (c_ / "65.bin").string()}, (c_ / "65.bin").string() + " corrotto o mancante !"},
         {{"aggiorna", (c_ / "67.bin").string()}, (c_ / "67.bin").string() + " corrotto o mancante !"},
         {{"aggiorna", (c_ / "manca.bin").string()}, "manca.bin corrotto o mancante !"},
@@ -377,14 +358,8 @@ TEST_F(CliManutenzione, RifiutiSenzaScrivereNulla) {
         {{"esporta", (cartella_ / "Archivi" / "Estrazioni.ind").string()}, "è un archivio del programma"},
         {{"esporta-testo", (cartella_ / "Archivi" / "anni.ind").string()}, "è un archivio del programma"},
         {{"aggiorna"}, "Manca il parametro obbligatorio"},
-    };
-    for (const Caso& k : casi) {
-        const Esito e = Su(k.argomenti);
-        EXPECT_EQ(e.codice, 2) << k.argomenti[0] << " " << e.err;
-        EXPECT_NE(e.err.find(k.messaggio), std::string::npos) << k.argomenti[0] << ": " << e.err;
-        EXPECT_TRUE(e.out.empty()) << e.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), prima);
+                  },
+                  [&](const std::vector<std::string>& a) { return Su(a); });
     EXPECT_FALSE(fs::exists(c_ / "x.bin"));
 }
 
@@ -410,14 +385,7 @@ TEST_F(CliManutenzione, ImportaInUnaCartellaVuotaEDaZip) {
 
     // The same as a zip into the 2025 archive: the records of the update file.
     const fs::path zip = c_ / "storico.zip";
-    {
-        int errore = 0;
-        zip_t* z = zip_open(zip.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &errore);
-        ASSERT_NE(z, nullptr);
-        const std::string s = LeggiFile(File("storico-2026.txt"));
-        ASSERT_GE(zip_file_add(z, "storico.txt", zip_source_buffer(z, s.data(), s.size(), 0), 0), 0);
-        ASSERT_EQ(zip_close(z), 0);
-    }
+    Scrivi(zip, test::CreaZip(c_.percorso(), {{"storico.txt", LeggiFile(File("storico-2026.txt"))}}));
     const Esito ez = Su({"importa", zip.string()});
     ASSERT_EQ(ez.codice, 0) << ez.err;
     EXPECT_EQ(ez.out.rfind("Importazione archivio del Lotto al 21/08/2026 effettuata: 134 estrazioni aggiunte.", 0), 0u)
@@ -484,14 +452,9 @@ TEST_F(Cli, Inserisci) {
     }
 
     // Refusals and unanswered questions write nothing.
-    const std::string istantanea = Istantanea(cartella_);
     std::string uguali = testo;
     uguali.replace(uguali.find(" 7 "), 3, " 6 ");
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
-    const Caso casi[] = {
+    AttesiRifiuti(cartella_, {
         {{"inserisci", uguali}, "Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?"},
         {{"inserisci", "1 2 3 4 5 6 7 8 9 10"}, "Mancano alcuni numeri. Memorizzi ugualmente ?"},
         {{"inserisci", testo, "--data", "30/12/2025"}, "L'estrazione del 30/12/2025 è già in archivio"},
@@ -502,14 +465,8 @@ TEST_F(Cli, Inserisci) {
         {{"inserisci", "1 2 3", "--conferma"}, "Testo troppo corto"},
         {{"inserisci", "nessun numero qui", "--conferma"}, "Il testo non contiene numeri."},
         {{"inserisci", "1 2 3 4 5 6 7 8", "--super", "--data", "01/01/2020"}, "In archivio non c'è"},
-    };
-    for (const Caso& c : casi) {
-        const Esito r = Su(c.argomenti);
-        EXPECT_EQ(r.codice, 2) << c.argomenti[1] << " " << r.err;
-        EXPECT_NE(r.err.find(c.messaggio), std::string::npos) << r.err;
-        EXPECT_TRUE(r.out.empty()) << r.out;
-    }
-    EXPECT_EQ(Istantanea(cartella_), istantanea);
+                  },
+                  [&](const std::vector<std::string>& a) { return Su(a); });
 
     // Yes to the question: stored, and the question said on the way.
     e = Su({"inserisci", uguali, "--conferma"});

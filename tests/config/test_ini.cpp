@@ -309,19 +309,16 @@ TEST_F(FileIniTest, BooleaniEIndiciDiRicerca) {
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "Minimizza", "forse"));
     EXPECT_TRUE(LeggiBooleano(ini, "Settings", "Minimizza", true));
 
-    auto indici = LeggiIndiciRicerca(ini, 10779);
-    EXPECT_EQ(indici.IndiceInizio, 1);
-    EXPECT_EQ(indici.IndiceFine, 10779);
-    ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "InizioRicerca", " 3914 "));
-    ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "FineRicerca", "dieci"));
-    indici = LeggiIndiciRicerca(ini, 10779);
-    EXPECT_EQ(indici.IndiceInizio, 3914);
-    EXPECT_EQ(indici.IndiceFine, 10779);
-    ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "InizioRicerca", "-5"));
-    ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "FineRicerca", "99999999999"));
-    indici = LeggiIndiciRicerca(ini, 10779);
-    EXPECT_EQ(indici.IndiceInizio, 1);
-    EXPECT_EQ(indici.IndiceFine, 10779);
+    // Unset, padded, unreadable and out of range: the archive's bounds stand in.
+    const auto indici = LeggiIndiciRicerca(ini, 10779);
+    EXPECT_EQ(std::pair(indici.IndiceInizio, indici.IndiceFine), std::pair(1, 10779));
+    for (auto [inizio, fine, attesi] : {std::tuple{" 3914 ", "dieci", std::pair(3914, 10779)},
+                                        std::tuple{"-5", "99999999999", std::pair(1, 10779)}}) {
+        ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "InizioRicerca", inizio));
+        ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "FineRicerca", fine));
+        const auto i = LeggiIndiciRicerca(ini, 10779);
+        EXPECT_EQ(std::pair(i.IndiceInizio, i.IndiceFine), attesi) << inizio << " " << fine;
+    }
 }
 
 TEST(CaselleRuote, LettereECaselle) {

@@ -9,9 +9,12 @@
 
 #include "config/cp1252.h"
 #include "config/report_testo.h"
+#include "support/attesi.h"
 #include "support/cartelle.h"
 
 using namespace gorgo::config;
+using gorgo::test::ConfrontaConAtteso;
+using gorgo::test::TestoRighe;
 namespace fs = std::filesystem;
 
 namespace {
@@ -96,18 +99,7 @@ TEST(ReportTesto, TabellaConValoreCheSconfina) {
                .mettiDestra(39, "7")
                .mettiDestra(43, "2"));
     r.chiudiTabella();
-
-    const std::vector<std::string> attese = {
-        "Dettaglio copertura",
-        "*-----------*---------------------°----*---*",
-        "| Data spia | Descrizione algor.  | Pr.| C.|",
-        "*-----------*---------------------°----*---*",
-        " 05/01/2021   Pos.1 + Pos.2          12   3 ",
-        " 05/01/2021   Ambo 12-34 ris. 45 (fuori 90) 7 2",
-        "*-----------*---------------------°----*---*",
-    };
-    ASSERT_EQ(r.righe().size(), attese.size());
-    for (std::size_t i = 0; i < attese.size(); ++i) EXPECT_EQ(r.righe()[i].testo, attese[i]) << i;
+    EXPECT_TRUE(ConfrontaConAtteso(TestoRighe(r.righe()), "config/attesi/tabella_che_sconfina.txt"));
     EXPECT_EQ(NumeroCaratteri(r.righe()[4].testo), 44u);
 }
 
@@ -136,17 +128,7 @@ TEST(ReportTesto, BloccoDeiParametri) {
         .parametro("Spia", "Solo indice mensile")
         .parametro("Indice mensile", "tutti")
         .rigaVuota();
-    const std::vector<std::string> attese = {
-        "Gorgo 2 - Ideato da Sergio Tordelli",
-        "",
-        "Intervallo di ricerca         : dal 01/01/2020 al 31/12/2020",
-        "Ruota/e di ricerca condizione : BA CA ",
-        "Spia                          : Solo indice mensile",
-        "Indice mensile                : tutti",
-        "",
-    };
-    ASSERT_EQ(r.righe().size(), attese.size());
-    for (std::size_t i = 0; i < attese.size(); ++i) EXPECT_EQ(r.righe()[i].testo, attese[i]) << i;
+    EXPECT_TRUE(ConfrontaConAtteso(TestoRighe(r.righe()), "config/attesi/blocco_parametri.txt"));
     // A label too long for its field keeps ":" one blank behind it.
     EXPECT_EQ(RigaParametro(std::string(31, 'x'), "v"), std::string(31, 'x') + " :v");
 }
@@ -207,14 +189,6 @@ protected:
         r.chiudiTabella();
         return r;
     }
-    static std::string Byte(const std::string& spia) {
-        return "Gorgo 2 - Ideato da Sergio Tordelli\r\n\r\n"
-               "Spia" +
-               B(26) + ": " + spia +
-               "\r\n\r\n"
-               "Algoritmo\r\n*-----\xB0---*\r\n| Pr. | \xE8 |\r\n*-----\xB0---*\r\n"
-               "  12     \xB0 \r\n*-----\xB0---*\r\n";
-    }
 
     gorgo::test::CartellaTemporanea temporanea_;
     fs::path cartella_ = temporanea_.percorso();
@@ -223,14 +197,16 @@ protected:
 TEST_F(ReportSuFile, NuovoScriveCp1252ConCrLf) {
     const auto p = cartella_ / "ReportAlgoritmi.Txt";
     EXPECT_TRUE(ScriviReportSuFile(p, Report("più"), ModoScrittura::Nuovo).vuoto());
-    EXPECT_EQ(Leggi(p), Byte("pi\xF9"));
+    // The file's bytes: Windows-1252, CRLF.
+    const std::string scritto = Leggi(p);
+    EXPECT_TRUE(ConfrontaConAtteso(scritto, "config/attesi/report_nuovo.txt"));
     EXPECT_EQ(Contenuto(), std::vector<fs::path>{"ReportAlgoritmi.Txt"});
 
     // Refused when the file exists, which is left as it was.
     const auto m = ScriviReportSuFile(p, Report("altro"), ModoScrittura::Nuovo);
     EXPECT_EQ(m.testo, "Il file " + p.string() + " è già esistente.");
     EXPECT_EQ(m.titolo, "Errore");
-    EXPECT_EQ(Leggi(p), Byte("pi\xF9"));
+    EXPECT_EQ(Leggi(p), scritto);
     EXPECT_EQ(Contenuto().size(), 1u);
 }
 
@@ -238,7 +214,7 @@ TEST_F(ReportSuFile, AccodaMetteIlSecondoSottoIlPrimo) {
     const auto p = cartella_ / "r.txt";
     EXPECT_TRUE(ScriviReportSuFile(p, Report("1"), ModoScrittura::Accoda).vuoto());  // creates it
     EXPECT_TRUE(ScriviReportSuFile(p, Report("2"), ModoScrittura::Accoda).vuoto());
-    EXPECT_EQ(Leggi(p), Byte("1") + Byte("2"));
+    EXPECT_TRUE(ConfrontaConAtteso(Leggi(p), "config/attesi/report_accodato.txt"));
 }
 
 TEST_F(ReportSuFile, SovrascriviSostituisceTuttoIlFile) {

@@ -15,11 +15,11 @@ namespace gorgo::test {
 
 class CopiaReale : public ::testing::Test {
 protected:
-    // Copies the archive, or skips the test when the real data or `fileAggiornamento` is absent.
+    // Copies the archive, or skips the test when the real data or `fileAggiornamento` is absent
+    // (fails it with CI=true when the archive is); the caller checks IsSkipped() and HasFatalFailure().
     void Prepara(const char* fileAggiornamento) {
-        auto reale = CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti ($GORGO_SHARED/dati/Archivi)";
-        reale_ = *reale;
+        GORGO_RICHIEDI_ARCHIVI_REALI(reale);
+        reale_ = reale;
         aggiornamenti_ = reale_.parent_path() / "aggiornamenti";
         if (!std::filesystem::exists(aggiornamenti_ / fileAggiornamento)) GTEST_SKIP() << fileAggiornamento << " assente";
         CopiaArchiviReali(reale_, cartella());

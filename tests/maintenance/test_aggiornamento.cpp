@@ -35,7 +35,7 @@ class AggiornamentoReale : public test::CopiaReale {
 protected:
     void SetUp() override {
         Prepara("AggiornamentoPz.bin");
-        if (IsSkipped()) return;
+        if (IsSkipped() || HasFatalFailure()) return;
         fileReale_ = aggiornamenti_ / "AggiornamentoPz.bin";
         aggiornamento_ = LeggiFile(fileReale_);
     }

@@ -8,7 +8,6 @@
 #include <fmt/format.h>
 #include <fstream>
 #include <sstream>
-#include <zip.h>
 
 #include "archives/archivio.h"
 #include "maintenance/aggiornamento.h"
@@ -22,27 +21,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::CartellaTemporanea;
+using test::CreaZip;
 using test::LeggiFile;
-
-// A zip made as the public archive is: the entries with their names, deflated.
-std::string CreaZip(const fs::path& cartella, const std::vector<std::pair<std::string, std::string>>& voci) {
-    const fs::path p = cartella / "prova.zip";
-    int errore = 0;
-    zip_t* z = zip_open(p.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &errore);
-    EXPECT_NE(z, nullptr);
-    for (const auto& [nome, contenuto] : voci) {
-        if (nome.back() == '/') {
-            zip_dir_add(z, nome.c_str(), 0);
-            continue;
-        }
-        zip_source_t* s = zip_source_buffer(z, contenuto.data(), contenuto.size(), 0);
-        EXPECT_GE(zip_file_add(z, nome.c_str(), s, 0), 0);
-    }
-    EXPECT_EQ(zip_close(z), 0);
-    std::string dati = LeggiFile(p);
-    fs::remove(p);
-    return dati;
-}
 
 // An empty program folder with its Archivi/ and the three files, as the command line makes it.
 archives::Archivio CartellaVuota(const fs::path& cartella) {
@@ -67,7 +47,7 @@ class Importazione : public test::CopiaReale {
 protected:
     void SetUp() override {
         Prepara("storico-2026.txt");
-        if (IsSkipped()) return;
+        if (IsSkipped() || HasFatalFailure()) return;
         storico_ = LeggiFile(aggiornamenti_ / "storico-2026.txt");
         aggiornamento_ = LeggiFile(aggiornamenti_ / "AggiornamentoPz.bin");
     }

@@ -66,108 +66,74 @@ protected:
 
 // ---------------------------------------------------------------- the decoder
 
-TEST_F(Inserimento, DecodificaCinquantacinqueNumeriConSeparatoriQualsiasi) {
-    auto caselle = Vuote(55);
-    const EsitoDecodifica e = DecodificaTesto(Testo55(), caselle);
-    EXPECT_TRUE(e.eseguita);
-    EXPECT_TRUE(e.errore.vuoto());
-    EXPECT_EQ(e.caselleRiempite, 55);
-    for (int i = 0; i < 55; ++i) EXPECT_EQ(caselle[static_cast<size_t>(i)], std::to_string(i + 1));
-}
+// The decoder on texts of every shape: what it fills, where it stops, what it leaves alone.
+TEST_F(Inserimento, DecodificaDelTesto) {
+    using Caselle = std::vector<std::pair<size_t, std::string>>;
+    struct Caso {
+        std::string testo;
+        Caselle prima, dopo;  // boxes set before; boxes expected after ("" for blank)
+        bool eseguita = true;
+        int riempite = -1, letti = -1;  // -1: not looked at
+        int errata = 0;
+        int caselle = 55;
+    };
+    std::vector<Caso> casi = {
+        // Nine characters: not decoded, boxes untouched; ten are enough.
+        {"1 2 3 4 5", {{0, "12"}}, {{0, "12"}, {1, ""}}, false},
+        {"1 2 3 4 56", {}, {{4, "56"}}, true, 5},
+        // Characters, not bytes: four dashes of three bytes each do not make ten.
+        {"1\u20132\u20133\u20134", {}, {{0, ""}}, false},
+        {"1\u20132\u20133\u20134\u20135\u20136", {}, {{5, "6"}}},
+        // The decoder knows no dates: 10/02 become the first two numbers, 2024 stops it.
+        {"10/02/2024 Bari 12 34 56 78 90", {}, {{0, "10"}, {1, "02"}}, true, -1, -1, 3},
+        // The 56th number is out of range but never read.
+        {Testo55() + " 999 12", {}, {{54, "55"}}, true, -1, 55},
+        // With fewer numbers the later boxes keep what they held; a number at the very end counts.
+        {"Estratti: 5, 6, 7, 8, 9, 10, 11", {{7, "88"}}, {{6, "11"}, {7, "88"}}, true, 7},
+        // The SuperEnalotto twin stops after eight numbers.
+        {"1 2 3 4 5 6 7 8 0 0 0", {}, {{7, "8"}}, true, -1, 8, 0, 8},
+        // Leading zeros stay as typed.
+        {"007 010 090 1 2 3", {}, {{0, "007"}, {2, "090"}}},
+    };
+    // A value out of 1..90 clears its box and stops there; the boxes before stay filled.
+    for (const char* fuori : {"0", "91", "00", "99999999999999999999999"})
+        casi.push_back({fmt::format("11 22 33 {} 44 55 66", fuori), {{3, "vecchio"}, {10, "77"}},
+                        {{0, "11"}, {2, "33"}, {3, ""}, {4, ""}, {10, "77"}}, true, 3, -1, 4});
+    // 55 numbers with a mix of separators.
+    Caso tutti{Testo55(), {}, {}, true, 55};
+    for (size_t i = 0; i < 55; ++i) tutti.dopo.emplace_back(i, std::to_string(i + 1));
+    casi.push_back(tutti);
 
-TEST_F(Inserimento, DecodificaTestoCortoNonFaNulla) {
-    auto caselle = Vuote(55);
-    caselle[0] = "12";
-    // Nine characters: not decoded, boxes untouched.
-    EXPECT_FALSE(DecodificaTesto("1 2 3 4 5", caselle).eseguita);
-    EXPECT_EQ(caselle[0], "12");
-    EXPECT_EQ(caselle[1], "");
-    // Ten characters are enough.
-    const EsitoDecodifica e = DecodificaTesto("1 2 3 4 56", caselle);
-    EXPECT_TRUE(e.eseguita);
-    EXPECT_EQ(e.caselleRiempite, 5);
-    EXPECT_EQ(caselle[4], "56");
-    // Characters, not bytes: four dashes of three bytes each do not make ten.
-    auto altre = Vuote(55);
-    EXPECT_FALSE(DecodificaTesto("1\u20132\u20133\u20134", altre).eseguita);
-    EXPECT_TRUE(DecodificaTesto("1\u20132\u20133\u20134\u20135\u20136", altre).eseguita);
-    EXPECT_EQ(altre[5], "6");
-}
-
-TEST_F(Inserimento, DecodificaFermaSulValoreFuoriLimiti) {
-    for (const char* fuori : {"0", "91", "00", "99999999999999999999999"}) {
-        auto caselle = Vuote(55);
-        caselle[3] = "vecchio";
-        caselle[10] = "77";
-        const std::string testo = fmt::format("11 22 33 {} 44 55 66", fuori);
-        const EsitoDecodifica e = DecodificaTesto(testo, caselle);
-        EXPECT_EQ(e.casellaErrata, 4) << fuori;
-        EXPECT_EQ(e.caselleRiempite, 3);
-        EXPECT_EQ(e.errore.testo, TestoValoriIncongruenti);
-        EXPECT_EQ(e.errore.titolo, "Errore");
-        EXPECT_EQ(e.errore.icona, archives::Icona::Stop);
-        EXPECT_EQ(caselle[0], "11");
-        EXPECT_EQ(caselle[2], "33");
-        EXPECT_EQ(caselle[3], "");  // cleared
-        EXPECT_EQ(caselle[4], "");  // the rest is not reached
-        EXPECT_EQ(caselle[10], "77");
+    for (const Caso& c : casi) {
+        SCOPED_TRACE(c.testo);
+        auto caselle = Vuote(c.caselle);
+        for (const auto& [i, v] : c.prima) caselle[i] = v;
+        const EsitoDecodifica e = DecodificaTesto(c.testo, caselle);
+        EXPECT_EQ(e.eseguita, c.eseguita);
+        EXPECT_TRUE(c.riempite < 0 || e.caselleRiempite == c.riempite) << e.caselleRiempite;
+        EXPECT_TRUE(c.letti < 0 || e.numeriLetti == c.letti) << e.numeriLetti;
+        EXPECT_EQ(e.casellaErrata, c.errata);
+        if (c.errata) {
+            EXPECT_EQ(e.errore.testo, TestoValoriIncongruenti);
+            EXPECT_EQ(e.errore.titolo, "Errore");
+            EXPECT_EQ(e.errore.icona, archives::Icona::Stop);
+        } else {
+            EXPECT_TRUE(e.errore.vuoto());
+        }
+        for (const auto& [i, v] : c.dopo) EXPECT_EQ(caselle[i], v) << "casella " << i;
     }
-}
-
-TEST_F(Inserimento, DecodificaUnaDataDavantiSpostaISlot) {
-    // The decoder knows no dates: 10/02 become the first two numbers, 2024 stops it.
-    auto caselle = Vuote(55);
-    const EsitoDecodifica e = DecodificaTesto("10/02/2024 Bari 12 34 56 78 90", caselle);
-    EXPECT_EQ(caselle[0], "10");
-    EXPECT_EQ(caselle[1], "02");
-    EXPECT_EQ(e.casellaErrata, 3);
-    EXPECT_EQ(e.errore.testo, TestoValoriIncongruenti);
-}
-
-TEST_F(Inserimento, DecodificaOltreLeCaselleIgnoraIlResto) {
-    auto caselle = Vuote(55);
-    // The 56th number is out of range but never read.
-    const EsitoDecodifica e = DecodificaTesto(Testo55() + " 999 12", caselle);
-    EXPECT_TRUE(e.errore.vuoto());
-    EXPECT_EQ(e.numeriLetti, 55);
-    // With fewer numbers the later boxes keep what they held; a number at the very end counts.
-    auto poche = Vuote(55);
-    poche[7] = "88";
-    const EsitoDecodifica f = DecodificaTesto("Estratti: 5, 6, 7, 8, 9, 10, 11", poche);
-    EXPECT_EQ(f.caselleRiempite, 7);
-    EXPECT_EQ(poche[6], "11");
-    EXPECT_EQ(poche[7], "88");
-    // The SuperEnalotto twin stops after eight numbers.
-    auto otto = Vuote(8);
-    const EsitoDecodifica s = DecodificaTesto("1 2 3 4 5 6 7 8 0 0 0", otto);
-    EXPECT_TRUE(s.errore.vuoto());
-    EXPECT_EQ(s.numeriLetti, 8);
-    EXPECT_EQ(otto[7], "8");
-    // Leading zeros stay as typed; the value counts.
-    auto zeri = Vuote(55);
-    EXPECT_TRUE(DecodificaTesto("007 010 090 1 2 3", zeri).errore.vuoto());
-    EXPECT_EQ(zeri[0], "007");
-    EXPECT_EQ(ValoreCasella(zeri[2]), 90);
+    EXPECT_EQ(ValoreCasella("090"), 90);
     EXPECT_TRUE(NumeriNelTesto("abc def ghi jkl", 55).empty());
 }
 
 // ---------------------------------------------------------------- the boxes
 
 TEST_F(Inserimento, CaselleNumeriche) {
-    EXPECT_TRUE(SoloCifre('0'));
-    EXPECT_TRUE(SoloCifre('9'));
-    EXPECT_TRUE(SoloCifre(8));   // backspace
-    EXPECT_TRUE(SoloCifre(22));  // ctrl-V
-    EXPECT_FALSE(SoloCifre('a'));
-    EXPECT_FALSE(SoloCifre(' '));
-    EXPECT_FALSE(SoloCifre('-'));
-    EXPECT_EQ(ValoreCasella(""), 0);
-    EXPECT_EQ(ValoreCasella("12abc"), 12);
-    EXPECT_EQ(ValoreCasella(" 7"), 7);
+    for (int c : {int{'0'}, int{'9'}, 8, 22}) EXPECT_TRUE(SoloCifre(c)) << c;  // digits, backspace, ctrl-V
+    for (int c : {'a', ' ', '-'}) EXPECT_FALSE(SoloCifre(c)) << c;
+    for (auto [testo, valore] : {std::pair{"", 0}, {"12abc", 12}, {" 7", 7}}) EXPECT_EQ(ValoreCasella(testo), valore);
     EXPECT_GT(ValoreCasella("123456789012345"), 90);
-    EXPECT_TRUE(ControllaCasella("").vuoto());
-    EXPECT_TRUE(ControllaCasella("0").vuoto());
-    EXPECT_TRUE(ControllaCasella("90").vuoto());
+    for (const char* buona : {"", "0", "90"}) EXPECT_TRUE(ControllaCasella(buona).vuoto()) << buona;
     const archives::Messaggio m = ControllaCasella("91");
     EXPECT_EQ(m.testo, "inserisci un numero tra 1 e 90 !");
     EXPECT_EQ(m.icona, archives::Icona::Esclamazione);

@@ -3,7 +3,6 @@
 // of the real archives (a refused download leaves them as they were, byte for byte).
 
 #include <gtest/gtest.h>
-#include <zip.h>
 
 #include <QCoreApplication>
 #include <algorithm>
@@ -50,19 +49,6 @@ std::optional<fs::path> Aggiornamenti() {
     const fs::path a = reale->parent_path() / "aggiornamenti";
     if (!fs::exists(a / "AggiornamentoPz.bin") || !fs::exists(a / "storico-2026.txt")) return std::nullopt;
     return a;
-}
-
-// A zip holding one file, built with libzip.
-std::string Zip(const std::string& nome, const std::string& contenuto, const fs::path& cartella) {
-    const fs::path file = cartella / "prova.zip";
-    int errore = 0;
-    zip_t* z = zip_open(file.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &errore);
-    EXPECT_NE(z, nullptr);
-    if (!z) return {};
-    zip_source_t* s = zip_source_buffer(z, contenuto.data(), contenuto.size(), 0);
-    EXPECT_GE(zip_file_add(z, nome.c_str(), s, ZIP_FL_ENC_UTF_8), 0);
-    EXPECT_EQ(zip_close(z), 0);
-    return LeggiFile(file);
 }
 
 // gorgo-cli as a child process; it talks to the test's server from there.
@@ -114,8 +100,9 @@ protected:
     std::optional<fs::path> agg_;
 };
 
-#define RICHIEDI_CARTELLA() \
-    if (!PreparaCartella()) GTEST_SKIP() << "gorgo-cli (GORGO_CLI) o archivi reali assenti"
+#define RICHIEDI_CARTELLA()                                \
+    if (!test::CartellaReale()) GORGO_ARCHIVI_REALI_ASSENTI(); \
+    if (!PreparaCartella()) GTEST_SKIP() << "gorgo-cli (GORGO_CLI) o file di aggiornamento assenti"
 
 // ---- The sieve and the steps after the fetch -------------------------------------------
 
@@ -187,6 +174,7 @@ TEST_F(Internet, SetaccioDeiPrimi150Byte) {
 }
 
 TEST_F(Internet, UnFileVeroPassaIlSetaccioMaUnaDataDel14Aprile2005No) {
+    if (!test::CartellaReale()) GORGO_ARCHIVI_REALI_ASSENTI();
     const auto agg = Aggiornamenti();
     if (!agg) GTEST_SKIP() << "file di aggiornamento assenti";
     const std::string vero = LeggiFile(*agg / "AggiornamentoPz.bin");
@@ -336,7 +324,7 @@ TEST_F(Internet, LaDomandaTornaComeRisultatoEPoiLaRisposta) {
 TEST_F(Internet, ControlloDellArchivioStoricoScaricato) {
     CartellaTemporanea c;
     const std::string testo = "2026/01/02\tBA\t1\t2\t3\t4\t5\n";
-    const std::string zip = Zip("storico-2026.txt", testo, c.percorso());
+    const std::string zip = test::CreaZip(c.percorso(), {{"storico-2026.txt", testo}});
     auto k = ControllaScaricamentoStorico(Completo(zip));
     EXPECT_TRUE(k.valido) << k.messaggio.testo;
     EXPECT_TRUE(k.zip);
@@ -603,7 +591,7 @@ TEST_F(Internet, ScaricaSuperEnalottoEIlSuo407) {
 TEST_F(Internet, ScaricaStoricoZipETesto) {
     RICHIEDI_CARTELLA();
     const std::string testo = LeggiFile(*agg_ / "storico-2026.txt");
-    const std::string zip = Zip("storico-2026.txt", testo, c_.percorso());
+    const std::string zip = test::CreaZip(c_.percorso(), {{"storico-2026.txt", testo}});
     const std::string prima = Archivi(cartella_);
 
     // Not set yet.

@@ -5,6 +5,9 @@
 #include <random>
 #include <sstream>
 #include <unistd.h>
+#include <zip.h>
+
+#include <gtest/gtest.h>
 
 namespace gorgo::test {
 
@@ -42,6 +45,26 @@ std::string LeggiFile(const fs::path& percorso) {
     std::ostringstream s;
     s << f.rdbuf();
     return s.str();
+}
+
+std::string CreaZip(const fs::path& cartella, const std::vector<std::pair<std::string, std::string>>& voci) {
+    const fs::path p = cartella / "prova-creata.zip";
+    int errore = 0;
+    zip_t* z = zip_open(p.c_str(), ZIP_CREATE | ZIP_TRUNCATE, &errore);
+    EXPECT_NE(z, nullptr);
+    if (!z) return {};
+    for (const auto& [nome, contenuto] : voci) {
+        if (nome.back() == '/') {
+            zip_dir_add(z, nome.c_str(), 0);
+            continue;
+        }
+        zip_source_t* s = zip_source_buffer(z, contenuto.data(), contenuto.size(), 0);
+        EXPECT_GE(zip_file_add(z, nome.c_str(), s, 0), 0);
+    }
+    EXPECT_EQ(zip_close(z), 0);
+    std::string dati = LeggiFile(p);
+    fs::remove(p);
+    return dati;
 }
 
 }  // namespace gorgo::test

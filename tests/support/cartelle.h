@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "archives/demo.h"
 
@@ -30,5 +32,9 @@ void CreaArchivioDemo(const std::filesystem::path& cartella, const archives::Par
 void CopiaArchiviReali(const std::filesystem::path& reale, const std::filesystem::path& cartella);
 
 std::string LeggiFile(const std::filesystem::path& percorso);
+
+// The bytes of a zip made as the public archive is: the entries with their names, deflated;
+// a name ending in "/" is a folder. Built in `cartella`, which is left as it was.
+std::string CreaZip(const std::filesystem::path& cartella, const std::vector<std::pair<std::string, std::string>>& voci);
 
 }  // namespace gorgo::test
