@@ -26,6 +26,7 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
     const config::FileIni ini(ctx.FileImpostazioni().string());
     const builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
     const builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
+    ValidaParametri(p, *cc.storia);
     // The file is settled before the search, so that a refusal costs nothing.
     if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
         throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",

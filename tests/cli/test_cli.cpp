@@ -285,10 +285,10 @@ TEST_F(Cli, VerificaEPrevisioni) {
     };
     const Caso casi[] = {
         {{"verifica", "--chiave", "123"}, "Calcolo impossibile: algoritmo mancante."},
-        {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "Calcolo impossibile: "},
+        {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "contraddice --tipo terzine-ambo"},
         {{"verifica", "--chiave", chiave, "--colpi", "0"}, "Inserire il n. di colpi di gioco !"},
         {{"previsioni", "--chiave", chiave, "--chiave", "1"}, "Calcolo impossibile: algoritmo mancante."},
-        {{"previsioni", "--chiave", chiave, "--tipo", "codici", "--terzine", (c_.percorso() / "manca.txt").string()},
+        {{"previsioni", "--chiave", "010001+_27111111", "--terzine", (c_.percorso() / "manca.txt").string()},
          "manca.txt"},
         {{"verifica"}, "Manca il parametro obbligatorio"},
     };
