@@ -73,8 +73,11 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
 
     const json d = json::parse(Su({"--json", "data", "31/12/1999", "--precedente"}).out);
     EXPECT_EQ(d["data"], "29/12/1999");
-    const json dieci = json::parse(Su({"--json", "dieci", "1"}).out);
-    EXPECT_EQ(dieci["esito"], -1);
+    // No 10eLotto draw before the first draw of every wheel from Bari to Venezia.
+    const Esito dieci = Su({"--json", "dieci", "1"});
+    EXPECT_EQ(dieci.codice, 2);
+    EXPECT_TRUE(dieci.out.empty());
+    EXPECT_EQ(dieci.err.rfind("Estrazione del 10eLotto inesistente per l'estrazione n. 1 del ", 0), 0u) << dieci.err;
     EXPECT_EQ(json::parse(Su({"--json", "dieci", "10000"}).out)["numeri"].size(), 20u);
     const json s = json::parse(Su({"--json", "super", "1"}).out);
     EXPECT_EQ(s["data"], a.DataEstrazione(1, archives::ArchivioSuper));
