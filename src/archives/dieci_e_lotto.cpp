@@ -20,6 +20,7 @@ Risultato10eLotto Estrazione10eLotto(const RecordEstrazione& record) {
             const int n = record.Numero(ruota, pos);
             if (n == 0 || n > 90) {
                 e.esito = -1;
+                e.manca = true;
                 return e;
             }
             segna(n);

@@ -15,6 +15,9 @@ struct Risultato10eLotto {
     // otherwise how many extra positions it took to reach 20 (0 to 30).
     int32_t esito = 0;
     std::array<int, 20> numeri{};  // ascending
+    // With esito -1: true when a first or second extract of wheels 1 to 10 is missing (no
+    // 10eLotto draw exists), false when the extra positions ran out before 20 numbers.
+    bool manca = false;
 };
 
 Risultato10eLotto Estrazione10eLotto(const RecordEstrazione& record);

@@ -45,7 +45,8 @@ RisultatoData Rifiuto(std::string testo) {
 // Steps shared by the checks: form, the month-and-day rule, limits; then the search.
 template <typename Cerca>
 RisultatoData Controlla(std::string_view testo, const Data& prima, std::string_view testoPrima,
-                        const Data& ultima, std::string_view testoUltima, Cerca cerca) {
+                        const Data& ultima, std::string_view testoUltima, std::string_view testoPrimaArchiviata,
+                        Cerca cerca) {
     if (testo.size() != 10 || !DataAccettata(testo)) return Rifiuto(std::string(MessaggioFormatoData));
     const Data d = *Data::daTesto(testo);
     if (DataErrata(d.giorno, d.mese, d.anno)) return Rifiuto(std::string(MessaggioDataErrata));
@@ -56,6 +57,9 @@ RisultatoData Controlla(std::string_view testo, const Data& prima, std::string_v
         r.IndiceTrovato = trovato->IndiceTrovato;
         r.DataTrovata = trovato->DataTrovata;
     }
+    // An archive that starts after the lower limit (SuperEnalotto from 2009) has nothing before
+    // its first draw: that date is the limit the user has to respect.
+    if (r.IndiceTrovato < 1) return Rifiuto(MessaggioDataInferiore(testoPrimaArchiviata));
     return r;
 }
 
@@ -67,7 +71,7 @@ RisultatoData ControllaData(std::string_view testo, const Archivio& archivio, bo
     const int32_t n = archivio.NumeroEstrazioni();
     if (n < 1) return ArchivioVuoto();
     const RecordEstrazione prima = archivio.LeggiEstrazione(1), ultima = archivio.LeggiEstrazione(n);
-    return Controlla(testo, prima.data(), prima.dataTesto(), ultima.data(), ultima.dataTesto(),
+    return Controlla(testo, prima.data(), prima.dataTesto(), ultima.data(), ultima.dataTesto(), prima.dataTesto(),
                      [&](const Data& d) { return archivio.CercaIndice(d, precedente); });
 }
 
@@ -75,7 +79,7 @@ RisultatoData ControllaData(std::string_view testo, const StoriaLotto& storia, b
     const int32_t n = storia.NumeroEstrazioni();
     if (n < 1) return ArchivioVuoto();
     return Controlla(testo, storia[1].data(), storia[1].dataTesto(), storia[n].data(), storia[n].dataTesto(),
-                     [&](const Data& d) { return storia.CercaIndice(d, precedente); });
+                     storia[1].dataTesto(), [&](const Data& d) { return storia.CercaIndice(d, precedente); });
 }
 
 RisultatoData ControllaDataSuper(std::string_view testo, const Archivio& archivio, bool precedente) {
@@ -86,7 +90,7 @@ RisultatoData ControllaDataSuper(std::string_view testo, const Archivio& archivi
     // The walk starts at a fixed index; an archive that holds fewer draws is walked whole.
     const int32_t inizio = n >= PrimoIndiceRicercaSuper ? PrimoIndiceRicercaSuper : 1;
     return Controlla(testo, prima, DataInizioSuper, ultima.data(), ultima.dataTesto(),
-                     [&](const Data& d) -> std::optional<RisultatoRicerca> {
+                     archivio.LeggiRecordSuper(1).dataTesto(), [&](const Data& d) -> std::optional<RisultatoRicerca> {
                          const auto tutti = archivio.LeggiTuttiSuper();
                          for (int32_t i = inizio; i <= n; ++i) {
                              const int32_t trovato =

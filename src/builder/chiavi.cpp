@@ -193,6 +193,17 @@ std::optional<CodaChiave> LeggiCoda(std::string_view chiave) {
     return coda;
 }
 
+std::optional<FormaChiave> FormaDellaChiave(std::string_view chiave) {
+    if (!LeggiCoda(chiave)) return std::nullopt;
+    switch (chiave.find('_')) {
+        case 9: return FormaChiave::Ambata;
+        case 12: return FormaChiave::Ambi;
+        case 6: return FormaChiave::Terzina;
+        case 7: return FormaChiave::Codice;
+        default: return std::nullopt;
+    }
+}
+
 ChiaveLetta LeggiChiave(std::string_view chiave, TipoRicerca tipo) {
     ChiaveLetta r;
     r.tipo = tipo;

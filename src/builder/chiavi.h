@@ -41,6 +41,11 @@ std::string ChiaveCodice(int cella, int terzina, Operazione op, const CodaChiave
 // or 11 (ambo); nothing when the key has no tail or the tail has another shape.
 std::optional<CodaChiave> LeggiCoda(std::string_view chiave);
 
+// The shape of a key, told by where its "_" stands: after 9 characters an Ambata, 12 Ambi,
+// 6 a terzina (x ambo and x terno alike), 7 a code; nothing without a readable tail.
+enum class FormaChiave { Ambata, Ambi, Terzina, Codice };
+std::optional<FormaChiave> FormaDellaChiave(std::string_view chiave);
+
 // One one-number rule of a key: cella op (cella2, or the constant when cella2 is 0).
 struct TermineChiave {
     int cella = 0;

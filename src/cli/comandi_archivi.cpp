@@ -117,6 +117,11 @@ void Dieci(const Contesto& ctx, const std::string& argomento) {
                                                  : LeggiIndice(argomento, a.NumeroEstrazioni(), "del Lotto");
     const archives::RecordEstrazione rec = a.LeggiEstrazione(indice);
     const archives::Risultato10eLotto r = archives::Estrazione10eLotto(rec);
+    // Before the first draw of a wheel there is no 10eLotto draw: nothing to show.
+    if (r.manca)
+        throw Rifiuta(fmt::format("Estrazione del 10eLotto inesistente per l'estrazione n. {} del {}: mancano i primi "
+                                  "due estratti di una ruota da Bari a Venezia.",
+                                  indice, rec.dataTesto()));
     if (ctx.json) {
         nlohmann::json numeri = nlohmann::json::array();
         if (r.esito >= 0)

@@ -1,8 +1,10 @@
 // verifica and previsioni: the replay of one algorithm with its recap, and the forecasts of a
 // set of algorithms, each named by its key under the parameters of its search.
 
+#include <algorithm>
 #include <fmt/format.h>
 #include <iostream>
+#include <optional>
 
 #include "builder/chiavi.h"
 #include "builder/previsioni.h"
@@ -40,14 +42,96 @@ std::string SpiaDellaRiga(const builder::ParametriRicerca& p) {
 // The fault of a key as the replay would tell it, before anything runs.
 void ControllaChiave(const std::string& chiave, const builder::ParametriRicerca& p,
                      const builder::ContestoCostruttore& cc) {
-    using builder::TipoRicerca;
-    if (chiave.size() < 9 || (p.tipoRicerca == TipoRicerca::Codici && chiave.size() != 16))
-        throw Rifiuto{{std::string(builder::AlgoritmoMancante), "Errore", archives::Icona::Esclamazione}};
     const archives::StoriaLotto& s = *cc.storia;
     if (s.vuota()) return;
     const builder::NumeriCalcolati n =
         builder::NumeriAlgoritmo(chiave, p.tipoRicerca, s[s.NumeroEstrazioni()], cc.Contesto().terzine);
     if (!n.errore.vuoto()) throw Rifiuto{n.errore};
+}
+
+constexpr std::string_view NomiTipi[] = {"ambate", "ambi", "terzine-ambo", "terzine-terno", "codici"};
+
+[[noreturn]] void Contraddizione(const std::string& chiave, std::string_view cosa, std::string_view opzione) {
+    throw Rifiuta(fmt::format("La chiave \"{}\" indica {}: contraddice {}.", chiave, cosa, opzione));
+}
+
+std::string TestoPosizioni(const std::string& posizioni) {
+    std::string t;
+    for (size_t i = 0; i < posizioni.size(); ++i)
+        if (posizioni[i] == '1') t += static_cast<char>('1' + i);
+    return t;
+}
+
+// The key carries the kind (by its shape), the spy and its positions: they are read from it, as
+// the screen reads them from the row. An option given with it that says otherwise is refused;
+// so is a second key of another search.
+void ApplicaChiave(const std::string& chiave, const ArgomentiRicerca& a, builder::ParametriRicerca& p,
+                   std::optional<builder::ParametriRicerca>& prima) {
+    using builder::TipoRicerca;
+    using builder::TipoSpia;
+    const std::optional<builder::FormaChiave> forma = builder::FormaDellaChiave(chiave);
+    const std::optional<builder::CodaChiave> coda = builder::LeggiCoda(chiave);
+    if (!forma || !coda) throw Rifiuto{{std::string(builder::AlgoritmoMancante), "Errore", archives::Icona::Esclamazione}};
+
+    TipoRicerca tipo = TipoRicerca::Ambate;
+    switch (*forma) {
+        case builder::FormaChiave::Ambata: tipo = TipoRicerca::Ambate; break;
+        case builder::FormaChiave::Ambi: tipo = TipoRicerca::Ambi; break;
+        case builder::FormaChiave::Codice: tipo = TipoRicerca::Codici; break;
+        case builder::FormaChiave::Terzina:
+            // Both kinds of terzine share the shape: only the user can say which.
+            if (a.tipo.empty())
+                throw Rifiuta(fmt::format("La chiave \"{}\" è di una terzina: indicare --tipo terzine-ambo oppure "
+                                          "--tipo terzine-terno.",
+                                          chiave));
+            tipo = a.tipo == "terzine-terno" ? TipoRicerca::TerzineTerno : TipoRicerca::TerzineAmbo;
+            break;
+    }
+    const std::string_view nomeTipo = NomiTipi[static_cast<int>(tipo)];
+    if (!a.tipo.empty() && a.tipo != nomeTipo)
+        Contraddizione(chiave, fmt::format("un algoritmo di tipo {}", nomeTipo), "--tipo " + a.tipo);
+    p.tipoRicerca = tipo;
+
+    const bool ambo = coda->ambo, sommaODifferenza = !ambo && coda->posizioni.empty();
+    if (ambo) {
+        if (!a.spia.empty() && a.spia != "ambo") Contraddizione(chiave, "un ambo spia", "--spia " + a.spia);
+        p.tipoSpia = TipoSpia::Ambo;
+        const std::array<int, 2> dallaChiave{coda->spia, coda->spia2};
+        if (!a.ambo.empty() && std::minmax(p.amboSpia[0], p.amboSpia[1]) != std::minmax(coda->spia, coda->spia2))
+            Contraddizione(chiave, fmt::format("l'ambo spia {}-{}", coda->spia, coda->spia2), "--ambo " + a.ambo);
+        p.amboSpia = dallaChiave;
+    } else if (sommaODifferenza) {
+        if (a.spia != "somma" && a.spia != "differenza") {
+            if (a.spia.empty())
+                throw Rifiuta(fmt::format("La chiave \"{}\" è di una spia somma o differenza: indicare --spia somma "
+                                          "oppure --spia differenza.",
+                                          chiave));
+            Contraddizione(chiave, "una spia somma o differenza", "--spia " + a.spia);
+        }
+    } else if (!a.spia.empty() && a.spia != "numero") {
+        Contraddizione(chiave, "un numero spia", "--spia " + a.spia);
+    }
+    if (!ambo) {
+        if (!a.valore.empty() && p.modoSpia != builder::ModoSpia::SoloIndiceMensile && p.valoreSpia != coda->spia)
+            Contraddizione(chiave, fmt::format("la spia {}", coda->spia), "--valore " + a.valore);
+        p.valoreSpia = coda->spia;
+    }
+    if (!coda->posizioni.empty()) {
+        std::array<bool, 6> posizioni{};
+        for (size_t i = 0; i < 5; ++i) posizioni[i + 1] = coda->posizioni[i] == '1';
+        if (!a.posizioni.empty() && p.posizioniSpia != posizioni)
+            Contraddizione(chiave, "le posizioni " + TestoPosizioni(coda->posizioni), "--posizioni " + a.posizioni);
+        // "11111" is every position, the default choice.
+        p.posizioneDeterminata = coda->posizioni != "11111";
+        p.posizioniSpia = posizioni;
+    }
+    if (prima && (prima->tipoRicerca != p.tipoRicerca || prima->tipoSpia != p.tipoSpia ||
+                  prima->valoreSpia != p.valoreSpia || prima->amboSpia != p.amboSpia ||
+                  prima->posizioneDeterminata != p.posizioneDeterminata || prima->posizioniSpia != p.posizioniSpia))
+        throw Rifiuta(fmt::format("La chiave \"{}\" è di un'altra ricerca: le chiavi di un calcolo devono avere lo stesso "
+                                  "tipo, la stessa spia e le stesse posizioni.",
+                                  chiave));
+    if (!prima) prima = p;
 }
 
 struct Preparati {
@@ -60,6 +144,8 @@ Preparati Prepara(const Contesto& ctx, const ArgomentiVerifica& a) {
     archives::Archivio archivio = ctx.ApriArchivi();
     const config::FileIni ini(ctx.FileImpostazioni().string());
     builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
+    std::optional<builder::ParametriRicerca> prima;
+    for (const std::string& k : a.chiavi) ApplicaChiave(k, a.ricerca, p, prima);
     p.colpiDaGiocare = a.colpiDaGiocare;
     // The period and the spy are refused as the search refuses them.
     builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
@@ -180,7 +266,8 @@ void AggiungiComandiVerifica(CLI::App& app, Contesto& ctx) {
     c->add_option("--colpi-da-giocare", v->colpiDaGiocare,
                   "Previsione in corso con al massimo questi colpi al termine (predefinito 9)");
     AggiungiOpzioniRicerca(c, v->ricerca);
-    c->footer("La spia della riga è quella dei parametri: --valore, --ambo, oppure -- con --modo indice.");
+    c->footer("Il tipo di ricerca, la spia e le sue posizioni si leggono dalla chiave; --tipo serve per le "
+              "terzine (x ambo o x terno), --spia per somma e differenza.");
     c->callback([&ctx, v] { Verifica(ctx, *v); });
 
     auto p = std::make_shared<ArgomentiVerifica>();

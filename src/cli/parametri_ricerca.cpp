@@ -52,25 +52,32 @@ void AggiungiOpzioniRicerca(CLI::App* c, ArgomentiRicerca& a) {
     c->add_option("--spia", a.spia, "Tipo di spia")->check(CLI::IsMember({"numero", "somma", "differenza", "ambo"}));
     c->add_option("--modo", a.modo, "fisso, tutti (tutti i numeri/somme/differenze), indice (solo indice mensile)")
         ->check(CLI::IsMember({"fisso", "tutti", "indice"}));
-    c->add_option("--valore", a.valore, "Numero, somma o differenza spia (predefinito 1)");
+    c->add_option("--valore", a.valore, "Numero, somma o differenza spia, da 1 a 90 (predefinito 1)");
     c->add_option("--ambo", a.ambo, "Ambo spia, come 12-34");
     c->add_flag("--tutti-gli-ambi", a.tuttiGliAmbi, "Con l'ambo spia: tutti gli ambi");
     c->add_option("--posizioni", a.posizioni, "Posizione determinata della spia, come 135 (predefinito: tutte)");
     c->add_option("--da", a.da, "Inizio del periodo GG/MM/AAAA (predefinito: dieci anni prima dell'ultima)");
     c->add_option("--a", a.a, "Fine del periodo GG/MM/AAAA (predefinito: l'ultima estrazione)");
-    c->add_option("--ultime", a.ultime, "Le ultime n sortite della spia invece del periodo");
+    c->add_option("--ultime", a.ultime, "Le ultime n sortite della spia (da 1 a 90) invece del periodo");
     c->add_option("--indice-mese", a.indiceMese, "U (ultima del mese, predefinito), 1..21 oppure tutti");
     c->add_option("--ruote-ricerca", a.ruoteRicerca, "tutte, tutte+nz o sigle BA,CA,...,NZ (predefinito: impostazioni)");
     c->add_option("--ruote-gioco", a.ruoteGioco, "Come --ruote-ricerca");
-    c->add_option("--colpi", a.colpi, "Colpi di gioco (predefinito 9)");
+    c->add_option("--colpi", a.colpi, "Colpi di gioco, al massimo tre cifre (predefinito 9)");
     c->add_flag("--senza-ultime", a.senzaUltime, "Non usare come spia le ultime estrazioni del periodo (\"Controlla le ultime 9 estraz.\" spento)");
-    c->add_option("--tipo", a.tipo, "ambate, ambi, terzine-ambo, terzine-terno, codici")
+    c->add_option("--tipo", a.tipo, "ambate (predefinito), ambi, terzine-ambo, terzine-terno, codici")
         ->check(CLI::IsMember({"ambate", "ambi", "terzine-ambo", "terzine-terno", "codici"}));
     c->add_flag("--solo-posizione", a.soloPosizione, "Solo posizione sul q.e.");
     c->add_option("--posizioni-valide", a.posizioniValide, "Validità dell'ambata, come 12345");
     c->add_option("--sorte", a.sorte, "Codici: 2 (ambi) o 3 (terni)")->check(CLI::IsMember({2, 3}));
     c->add_option("--operazioni", a.operazioni, "Codici: operazioni fra +, - e x (predefinito +-x)");
     c->add_option("--terzine", a.terzine, "File delle terzine ridotte (predefinito: impostazione FileTerzine o Terzine.txt)");
+}
+
+std::optional<int> LeggiCasella(const std::string& testo, size_t cifre) {
+    if (testo.empty() || testo.size() > cifre) return std::nullopt;
+    for (char c : testo)
+        if (c < '0' || c > '9') return std::nullopt;
+    return std::stoi(testo);
 }
 
 builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const config::FileIni& ini) {
@@ -84,24 +91,36 @@ builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const 
                                                      {"terzine-ambo", TipoRicerca::TerzineAmbo},
                                                      {"terzine-terno", TipoRicerca::TerzineTerno},
                                                      {"codici", TipoRicerca::Codici}};
-    p.tipoSpia = spie.at(a.spia);
+    p.tipoSpia = spie.at(a.spia.empty() ? "numero" : a.spia);
     p.modoSpia = modi.at(a.modo);
-    p.tipoRicerca = tipi.at(a.tipo);
-    p.valoreSpia = a.valore;
+    p.tipoRicerca = tipi.at(a.tipo.empty() ? "ambate" : a.tipo);
+    // The list of kinds for an ambo spy holds only these two.
+    if (p.tipoSpia == TipoSpia::Ambo && p.tipoRicerca != TipoRicerca::Ambate && p.tipoRicerca != TipoRicerca::Ambi)
+        throw Rifiuta("Con l'ambo spia il tipo di ricerca è ambate oppure ambi.");
+    // cboNumero lists 1 to 90: anything else is no value, as an empty box.
+    if (!a.valore.empty()) {
+        const std::optional<int> v = LeggiCasella(a.valore, 2);
+        p.valoreSpia = v && *v <= 90 ? *v : 0;
+    }
     if (!a.ambo.empty()) {
-        int x = 0, y = 0;
-        if (std::sscanf(a.ambo.c_str(), "%d-%d", &x, &y) != 2)
-            throw Rifiuta("--ambo: indicare i due numeri come 12-34.");
-        p.amboSpia = {x, y};
+        // Two boxes of at most two digits each.
+        const size_t trattino = a.ambo.find('-');
+        const std::optional<int> x = LeggiCasella(a.ambo.substr(0, trattino), 2);
+        const std::optional<int> y =
+            trattino == std::string::npos ? std::nullopt : LeggiCasella(a.ambo.substr(trattino + 1), 2);
+        if (!x || !y) throw Rifiuta("--ambo: indicare i due numeri come 12-34.");
+        p.amboSpia = {*x, *y};
     }
     p.tuttiGliAmbi = a.tuttiGliAmbi;
     if (!a.posizioni.empty()) {
         p.posizioneDeterminata = true;
         p.posizioniSpia = LeggiPosizioni(a.posizioni, "--posizioni");
     }
-    if (a.ultime > 0) {
+    if (!a.ultime.empty()) {
+        // cboSortite lists 1 to 90; the search refuses what is below 1.
+        const std::optional<int> n = LeggiCasella(a.ultime, 2);
         p.perData = 1;
-        p.sortiteDaCercare = a.ultime;
+        p.sortiteDaCercare = n && *n <= 90 ? *n : 0;
     }
     p.dataDa = a.da;
     p.dataA = a.a;
@@ -122,9 +141,16 @@ builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const 
             config::CaricaRuoteConNz(config::LeggiImpostazione(ini, S, chiave, config::Predefinito(S, chiave)));
         return std::array<bool, 12>(c);
     };
-    p.ruoteRicerca = a.ruoteRicerca.empty() ? daImpostazione("RuoteConNz") : LeggiRuote(a.ruoteRicerca, "--ruote-ricerca");
-    p.ruoteGioco = a.ruoteGioco.empty() ? daImpostazione("RuoteConNzGioco") : LeggiRuote(a.ruoteGioco, "--ruote-gioco");
-    p.colpi = a.colpi;
+    // Given empty, a set of wheels is no wheel at all.
+    auto ruote = [&](const std::optional<std::string>& testo, const char* chiave, const char* opzione) {
+        if (!testo) return daImpostazione(chiave);
+        if (testo->empty()) return std::array<bool, 12>{};
+        return LeggiRuote(*testo, opzione);
+    };
+    p.ruoteRicerca = ruote(a.ruoteRicerca, "RuoteConNz", "--ruote-ricerca");
+    p.ruoteGioco = ruote(a.ruoteGioco, "RuoteConNzGioco", "--ruote-gioco");
+    // txtColpi takes three digits; what it cannot hold counts as empty.
+    p.colpi = LeggiCasella(a.colpi, 3).value_or(0);
     p.controllaUltime = !a.senzaUltime;
     p.soloPosizione = a.soloPosizione;
     p.posizioniValide = LeggiPosizioni(a.posizioniValide, "--posizioni-valide");
@@ -141,6 +167,9 @@ builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio,
     if (const builder::RicercaValidata v = builder::ValidaRicerca(p, *cc.storia, &cc.terzine, cc.fileTerzine);
         !v.errore.vuoto())
         throw Rifiuto{v.errore};
+    // The search has no word for a search without play wheels (it would find nothing); a
+    // command line can ask for one, so it gets a refusal in the same words.
+    if (builder::ContaRuoteScelte(p.ruoteGioco) == 0) throw Rifiuta("Scegliere almeno una ruota di gioco !");
     return cc;
 }
 

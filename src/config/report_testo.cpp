@@ -22,14 +22,12 @@ namespace fs = std::filesystem;
 
 // ---------------------------------------------------------------- rows
 
-RigaReport::RigaReport(int larghezza) : larghezza_(std::max(larghezza, 0)) {}
+RigaReport::RigaReport(int larghezza) : celle_(static_cast<std::size_t>(std::max(larghezza, 0)), U' ') {}
 
 void RigaReport::posa(int inizio, std::u32string_view valore) {
-    const auto a = valore.find_first_not_of(U' ');
-    if (a == std::u32string_view::npos) return;
-    const auto b = valore.find_last_not_of(U' ');
-    pezzi_.push_back(
-        {std::max(inizio, 0) + static_cast<int>(a), std::u32string(valore.substr(a, b - a + 1))});
+    const auto da = static_cast<std::size_t>(std::max(inizio, 0));
+    if (celle_.size() < da + valore.size()) celle_.resize(da + valore.size(), U' ');
+    std::copy(valore.begin(), valore.end(), celle_.begin() + static_cast<std::ptrdiff_t>(da));
 }
 
 RigaReport& RigaReport::metti(int colonna, std::string_view testo) {
@@ -50,27 +48,7 @@ RigaReport& RigaReport::mettiCentrato(int colonnaInizio, int colonnaFine, std::s
     return *this;
 }
 
-std::string RigaReport::testo() const {
-    // Laid out by column, whatever the order of placing, so a push moves only what follows.
-    std::vector<const Pezzo*> ordine;
-    for (const auto& p : pezzi_) ordine.push_back(&p);
-    std::stable_sort(ordine.begin(), ordine.end(),
-                     [](const Pezzo* x, const Pezzo* y) { return x->inizio < y->inizio; });
-
-    std::u32string celle(static_cast<std::size_t>(larghezza_), U' ');
-    int fine = 0;  // one past the last character placed
-    bool spinto = false;
-    for (const Pezzo* p : ordine) {
-        int inizio = p->inizio;
-        const bool urta = inizio < fine || (spinto && inizio == fine);
-        if (urta) inizio = fine + 1;
-        spinto = urta;
-        fine = inizio + static_cast<int>(p->testo.size());
-        if (celle.size() < static_cast<std::size_t>(fine)) celle.resize(static_cast<std::size_t>(fine), U' ');
-        std::copy(p->testo.begin(), p->testo.end(), celle.begin() + inizio);
-    }
-    return CodiciInUtf8(celle);
-}
+std::string RigaReport::testo() const { return CodiciInUtf8(celle_); }
 
 std::string RigaParametro(std::string_view etichetta, std::string_view valore) {
     RigaReport r(LarghezzaParametro);

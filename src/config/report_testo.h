@@ -37,11 +37,10 @@ struct RigaTesto {
 };
 
 // One row of a table: a text of blanks of the table's width with values placed by column.
-// A value longer than its cell runs on into the next one and the row grows when needed;
-// nothing is cut. Values never cover each other: one that would land on the text of the
-// value before it (by column) moves right to one blank past it, and so does one that would
-// touch a value moved that way, so a long value pushes the rest of the row, not over it.
-// Blanks at the ends of a value are padding and take no room.
+// A row built in a text of blanks of the report's width, values written in by position in the
+// order they are placed: a value longer than its cell overruns the next cell (and is
+// overwritten there by what is placed after it), and the row grows past the width when a value
+// ends beyond it. Nothing is cut or wrapped.
 class RigaReport {
 public:
     explicit RigaReport(int larghezza);
@@ -53,13 +52,8 @@ public:
     std::string testo() const;
 
 private:
-    struct Pezzo {
-        int inizio;  // cell from 0
-        std::u32string testo;
-    };
-    void posa(int inizio, std::u32string_view valore);
-    int larghezza_;
-    std::vector<Pezzo> pezzi_;
+    void posa(int inizio, std::u32string_view valore);  // inizio from 0
+    std::u32string celle_;
 };
 
 // "Spia" + 26 blanks + ": " + value.

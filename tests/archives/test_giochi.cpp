@@ -76,6 +76,7 @@ TEST(DieciELotto, CasiDiBase) {
     // A zero in the first two positions of any of the ten wheels.
     r.Ruota[9][1] = 0;
     EXPECT_EQ(Estrazione10eLotto(r).esito, -1);
+    EXPECT_TRUE(Estrazione10eLotto(r).manca);
     // Nazionale plays no part.
     RecordEstrazione s = DieciRuotePiene();
     for (int w = 0; w < 10; ++w) s.Ruota[w][0] = s.Ruota[w][1] = static_cast<uint8_t>(81 + w);
@@ -83,6 +84,7 @@ TEST(DieciELotto, CasiDiBase) {
     for (int w = 0; w < 10; ++w)
         for (int p = 0; p < 5; ++p) s.Ruota[w][p] = 1;
     EXPECT_EQ(Estrazione10eLotto(s).esito, -1);  // positions run out
+    EXPECT_FALSE(Estrazione10eLotto(s).manca);
     StoriaLotto storia({DieciRuotePiene()});
     EXPECT_EQ(Estrazione10eLotto(storia, 0).esito, 0);
 }
@@ -113,6 +115,7 @@ TEST(DieciELotto, TuttaLaStoriaReale) {
         bool zero = false;
         for (int w = 1; w <= 10; ++w) zero = zero || r.Numero(w, 1) == 0 || r.Numero(w, 2) == 0;
         ASSERT_EQ(e.esito == -1, zero) << i;
+        ASSERT_EQ(e.manca, zero) << i;
         if (zero) continue;
         ++derivabili;
         ASSERT_GE(e.esito, 0);

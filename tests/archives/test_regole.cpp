@@ -136,6 +136,14 @@ TEST(ControlloDataSuper, ArchivioCorto) {
     EXPECT_FALSE(r.ErroreData);
     EXPECT_EQ(r.IndiceTrovato, 10);
     EXPECT_EQ(ControllaDataSuper("01/01/2000", a, false).IndiceTrovato, 1);
+    // Nothing stands before the first stored draw: its date is the limit the message names.
+    const std::string primaArchiviata = a.DataEstrazione(1, ArchivioSuper);
+    for (const char* data : {"01/01/2000", "04/01/1947"}) {
+        const RisultatoData p = ControllaDataSuper(data, a, true);
+        EXPECT_TRUE(p.ErroreData) << data;
+        EXPECT_EQ(p.messaggio.testo, MessaggioDataInferiore(primaArchiviata)) << data;
+    }
+    EXPECT_EQ(ControllaDataSuper(primaArchiviata, a, true).IndiceTrovato, 1);
 }
 
 TEST(ControlloDataReale, SuperEnalottoReale) {

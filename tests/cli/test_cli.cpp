@@ -94,8 +94,11 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
 
     const json d = json::parse(Su({"--json", "data", "31/12/1999", "--precedente"}).out);
     EXPECT_EQ(d["data"], "29/12/1999");
-    const json dieci = json::parse(Su({"--json", "dieci", "1"}).out);
-    EXPECT_EQ(dieci["esito"], -1);
+    // No 10eLotto draw before the first draw of every wheel from Bari to Venezia.
+    const Esito dieci = Su({"--json", "dieci", "1"});
+    EXPECT_EQ(dieci.codice, 2);
+    EXPECT_TRUE(dieci.out.empty());
+    EXPECT_EQ(dieci.err.rfind("Estrazione del 10eLotto inesistente per l'estrazione n. 1 del ", 0), 0u) << dieci.err;
     EXPECT_EQ(json::parse(Su({"--json", "dieci", "10000"}).out)["numeri"].size(), 20u);
     const json s = json::parse(Su({"--json", "super", "1"}).out);
     EXPECT_EQ(s["data"], a.DataEstrazione(1, archives::ArchivioSuper));
@@ -278,10 +281,10 @@ TEST_F(Cli, VerificaEPrevisioni) {
     // Refusals: the key's own fault, the period's, a missing key; nothing written, nothing printed.
     AttesiRifiuti(cartella_, {
         {{"verifica", "--chiave", "123"}, "Calcolo impossibile: algoritmo mancante."},
-        {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "Calcolo impossibile: "},
+        {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "contraddice --tipo terzine-ambo"},
         {{"verifica", "--chiave", chiave, "--colpi", "0"}, "Inserire il n. di colpi di gioco !"},
         {{"previsioni", "--chiave", chiave, "--chiave", "1"}, "Calcolo impossibile: algoritmo mancante."},
-        {{"previsioni", "--chiave", chiave, "--tipo", "codici", "--terzine", (c_.percorso() / "manca.txt").string()},
+        {{"previsioni", "--chiave", "010001+_27111111", "--terzine", (c_.percorso() / "manca.txt").string()},
          "manca.txt"},
         {{"verifica"}, "Manca il parametro obbligatorio"},
                   },

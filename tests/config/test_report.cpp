@@ -92,7 +92,7 @@ TEST(ReportTesto, TabellaConValoreCheSconfina) {
                .metti(15, "Pos.1 + Pos.2")
                .mettiDestra(39, "12")
                .mettiDestra(43, "3"));
-    // The description runs past its cell: the next values move on, one blank apart, nothing is cut.
+    // The description overruns the next cells, and the values placed after it are written over it.
     r.riga(r.rigaTabella()
                .metti(2, "05/01/2021")
                .metti(15, "Ambo 12-34 ris. 45 (fuori 90)")
@@ -106,13 +106,16 @@ TEST(ReportTesto, TabellaConValoreCheSconfina) {
 TEST(ReportTesto, RigaPerColonne) {
     // Places count characters: "°" and "à" take one cell each.
     EXPECT_EQ(RigaReport(10).metti(1, "°C").mettiDestra(10, "città").testo(), "°C   città");
-    // Placing order does not matter; blanks of a value are padding only.
+    // Values that do not overlap land the same in any order.
     EXPECT_EQ(RigaReport(12).mettiDestra(12, "  99").metti(1, "Bari  ").metti(6, " 1").testo(),
               "Bari  1   99");
     EXPECT_EQ(RigaReport(12).metti(6, " 1").metti(1, "Bari  ").mettiDestra(12, "  99").testo(),
               "Bari  1   99");
-    // Right-aligned text longer than the room on the left starts at column 1 and pushes on.
-    EXPECT_EQ(RigaReport(6).mettiDestra(3, "123456").metti(5, "x").testo(), "123456 x");
+    // Right-aligned text longer than the room on the left starts at column 1; what is placed
+    // later overwrites it, blanks included, and a value past the width grows the row.
+    EXPECT_EQ(RigaReport(6).mettiDestra(3, "123456").metti(5, "x").testo(), "1234x6");
+    EXPECT_EQ(RigaReport(6).metti(1, "123456").metti(3, " ").testo(), "12 456");
+    EXPECT_EQ(RigaReport(4).metti(3, "abcd").testo(), "  abcd");
     // A value that ends where the next begins, as placed, is left alone.
     EXPECT_EQ(RigaReport(4).metti(1, "ab").metti(3, "cd").testo(), "abcd");
     EXPECT_EQ(RigaReport(7).mettiCentrato(2, 6, "è").testo(), "   è   ");
@@ -129,8 +132,8 @@ TEST(ReportTesto, BloccoDeiParametri) {
         .parametro("Indice mensile", "tutti")
         .rigaVuota();
     EXPECT_TRUE(ConfrontaConAtteso(TestoRighe(r.righe()), "config/attesi/blocco_parametri.txt"));
-    // A label too long for its field keeps ":" one blank behind it.
-    EXPECT_EQ(RigaParametro(std::string(31, 'x'), "v"), std::string(31, 'x') + " :v");
+    // A label too long for its field is overwritten by ":" at column 31.
+    EXPECT_EQ(RigaParametro(std::string(31, 'x'), "v"), std::string(30, 'x') + ": v");
 }
 
 TEST(ReportTesto, IntestazioneDiPagina) {
