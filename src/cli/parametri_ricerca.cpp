@@ -52,17 +52,17 @@ void AggiungiOpzioniRicerca(CLI::App* c, ArgomentiRicerca& a) {
     c->add_option("--spia", a.spia, "Tipo di spia")->check(CLI::IsMember({"numero", "somma", "differenza", "ambo"}));
     c->add_option("--modo", a.modo, "fisso, tutti (tutti i numeri/somme/differenze), indice (solo indice mensile)")
         ->check(CLI::IsMember({"fisso", "tutti", "indice"}));
-    c->add_option("--valore", a.valore, "Numero, somma o differenza spia, da 1 a 90 (predefinito 1)");
+    c->add_option("--valore", a.valore, "Numero, somma o differenza spia, da 1 a 90 (predefinito 1)")->type_name("NUMERO");
     c->add_option("--ambo", a.ambo, "Ambo spia, come 12-34");
     c->add_flag("--tutti-gli-ambi", a.tuttiGliAmbi, "Con l'ambo spia: tutti gli ambi");
     c->add_option("--posizioni", a.posizioni, "Posizione determinata della spia, come 135 (predefinito: tutte)");
     c->add_option("--da", a.da, "Inizio del periodo GG/MM/AAAA (predefinito: dieci anni prima dell'ultima)");
     c->add_option("--a", a.a, "Fine del periodo GG/MM/AAAA (predefinito: l'ultima estrazione)");
-    c->add_option("--ultime", a.ultime, "Le ultime n sortite della spia (da 1 a 90) invece del periodo");
+    c->add_option("--ultime", a.ultime, "Le ultime n sortite della spia (da 1 a 90) invece del periodo")->type_name("NUMERO");
     c->add_option("--indice-mese", a.indiceMese, "U (ultima del mese, predefinito), 1..21 oppure tutti");
     c->add_option("--ruote-ricerca", a.ruoteRicerca, "tutte, tutte+nz o sigle BA,CA,...,NZ (predefinito: impostazioni)");
     c->add_option("--ruote-gioco", a.ruoteGioco, "Come --ruote-ricerca");
-    c->add_option("--colpi", a.colpi, "Colpi di gioco, al massimo tre cifre (predefinito 9)");
+    c->add_option("--colpi", a.colpi, "Colpi di gioco, al massimo tre cifre (predefinito 9)")->type_name("NUMERO");
     c->add_flag("--senza-ultime", a.senzaUltime, "Non usare come spia le ultime estrazioni del periodo (\"Controlla le ultime 9 estraz.\" spento)");
     c->add_option("--tipo", a.tipo, "ambate (predefinito), ambi, terzine-ambo, terzine-terno, codici")
         ->check(CLI::IsMember({"ambate", "ambi", "terzine-ambo", "terzine-terno", "codici"}));
