@@ -33,7 +33,9 @@ std::vector<gorgo::archives::Data> DateCasuali(int n) {
     std::mt19937 g(1);
     const int32_t da = gorgo::archives::Data{7, 1, 1871}.giorni(), a = gorgo::archives::Data{30, 12, 2025}.giorni();
     std::vector<gorgo::archives::Data> v;
-    for (int i = 0; i < n; ++i) v.push_back(gorgo::archives::Data::daGiorni(da + static_cast<int32_t>(g() % static_cast<unsigned>(a - da + 1))));
+    for (int i = 0; i < n; ++i)
+        v.push_back(
+            gorgo::archives::Data::daGiorni(da + static_cast<int32_t>(g() % static_cast<unsigned>(a - da + 1))));
     return v;
 }
 
@@ -62,5 +64,3 @@ void ControlloIntegrita(benchmark::State& state) {
 BENCHMARK(ControlloIntegrita)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
-
-

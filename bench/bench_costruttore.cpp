@@ -32,8 +32,8 @@ struct Ambiente {
         // 1002 triples, fixed, as a file of reduced triples would give them.
         std::mt19937 g(1002);
         for (int i = 0; i < 1002; ++i)
-            terzine.terzine.push_back({1 + static_cast<int>(g() % 90), 1 + static_cast<int>(g() % 90),
-                                       1 + static_cast<int>(g() % 90)});
+            terzine.terzine.push_back(
+                {1 + static_cast<int>(g() % 90), 1 + static_cast<int>(g() % 90), 1 + static_cast<int>(g() % 90)});
         contesto = ContestoRicerca{storia.get(), {}, &indici, &terzine};
         contesto.restrizioni.GiornoAmmesso.fill(true);
         contesto.restrizioni.MeseAmmesso.fill(true);
@@ -113,8 +113,8 @@ void Veloce(benchmark::State& state, Crea crea, const char* da) {
     state.counters["casi"] = static_cast<double>(e.casi.size());
     state.counters["righe"] = static_cast<double>(e.righe.size());
     if (p.tipoRicerca == TipoRicerca::Ambi)
-        state.counters["valutazioni/s"] =
-            benchmark::Counter(ValutazioniAmbi(p, e) * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+        state.counters["valutazioni/s"] = benchmark::Counter(
+            ValutazioniAmbi(p, e) * static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }
 
 void Letterale(benchmark::State& state, Crea crea, const char* da) {

@@ -3,11 +3,11 @@
 #include <QCryptographicHash>
 #include <QDir>
 
+#include "app/programma.h"
 #include "archives/demo.h"
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
 #include "maintenance/aggiornamento.h"
-#include "app/programma.h"
 #include "screens/common/messaggi.h"
 
 namespace gorgo::screens {
@@ -21,10 +21,10 @@ std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorso) 
     else
         file = QDir::temp().filePath(
             QStringLiteral("gorgo-%1.lock")
-                .arg(QString::fromLatin1(QCryptographicHash::hash(QByteArray::fromStdString(percorso.string()),
-                                                                  QCryptographicHash::Sha1)
-                                             .toHex()
-                                             .left(16))));
+                .arg(QString::fromLatin1(
+                    QCryptographicHash::hash(QByteArray::fromStdString(percorso.string()), QCryptographicHash::Sha1)
+                        .toHex()
+                        .left(16))));
     auto blocco = std::make_unique<QLockFile>(file);
     // A lock whose process is gone is stale at once; a live one never is.
     blocco->setStaleLockTime(0);

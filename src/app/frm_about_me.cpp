@@ -1,11 +1,11 @@
 #include "app/frm_about_me.h"
 
+#include <fmt/format.h>
 #include <QLabel>
 #include <QPushButton>
 #include <QSysInfo>
 #include <QThread>
 #include <QVBoxLayout>
-#include <fmt/format.h>
 
 #include "screens/common/messaggi.h"
 
@@ -16,10 +16,11 @@ QString TestoInfoSistema(const Programma& a) {
                                     QSysInfo::prettyProductName().toStdString(), qVersion(),
                                     QThread::idealThreadCount(), a.sessione.PercorsoProgramma.string());
     if (a.archivio) {
-        testo += fmt::format("Estrazioni.ind: {} estrazioni ({} byte)\nanni.ind: {} anni ({} byte)\n"
-                             "SuperEnalotto.ind: {} estrazioni ({} byte)",
-                             a.archivio->NumeroEstrazioni(), a.archivio->LunghezzaEstrazioni(), a.archivio->NumeroAnni(),
-                             a.archivio->LunghezzaAnni(), a.archivio->NumeroEstrazioniSuper(), a.archivio->LunghezzaSuper());
+        testo += fmt::format(
+            "Estrazioni.ind: {} estrazioni ({} byte)\nanni.ind: {} anni ({} byte)\n"
+            "SuperEnalotto.ind: {} estrazioni ({} byte)",
+            a.archivio->NumeroEstrazioni(), a.archivio->LunghezzaEstrazioni(), a.archivio->NumeroAnni(),
+            a.archivio->LunghezzaAnni(), a.archivio->NumeroEstrazioniSuper(), a.archivio->LunghezzaSuper());
     }
     if (a.demo) testo += "\nArchivio dimostrativo: estrazioni sintetiche, non reali";
     return QString::fromStdString(testo);
@@ -29,12 +30,13 @@ FrmAboutMe::FrmAboutMe(const Programma& programma, QWidget* parent) : QDialog(pa
     setObjectName("frmAboutMe");
     setWindowTitle(QStringLiteral("Informazioni su Gorgo 2"));
     auto* l = new QVBoxLayout(this);
-    auto* titolo = new QLabel(QStringLiteral("<b>Gorgo 2 - Tris metodologie</b><br>Versione %1").arg(GORGO_VERSIONE), this);
+    auto* titolo =
+        new QLabel(QStringLiteral("<b>Gorgo 2 - Tris metodologie</b><br>Versione %1").arg(GORGO_VERSIONE), this);
     titolo->setObjectName("lblTitolo");
-    auto* testo = new QLabel(
-        QStringLiteral("Il costruttore di algoritmi, la scia inversa dei precursori e l'ambo enucleato\n"
-                       "per Lotto, 10eLotto e SuperEnalotto."),
-        this);
+    auto* testo =
+        new QLabel(QStringLiteral("Il costruttore di algoritmi, la scia inversa dei precursori e l'ambo enucleato\n"
+                                  "per Lotto, 10eLotto e SuperEnalotto."),
+                   this);
     testo->setObjectName("lblDescrizione");
     auto* info = new QPushButton(QStringLiteral("Info sistema..."), this);
     info->setObjectName("cmdSysInfo");

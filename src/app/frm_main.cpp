@@ -1,5 +1,6 @@
 #include "app/frm_main.h"
 
+#include <fmt/format.h>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -9,28 +10,27 @@
 #include <QScreen>
 #include <QStatusBar>
 #include <QVBoxLayout>
-#include <fmt/format.h>
 
+#include "app/frm_about_me.h"
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
-#include "app/frm_about_me.h"
 #include "maintenance/importazione.h"
-#include "screens/common/twips.h"
-#include "screens/common/elaborazioni.h"
-#include "screens/maintenance/frm_aggiornamenti.h"
-#include "screens/maintenance/frm_esportazione.h"
-#include "screens/common/scelta_file.h"
 #include "screens/builder/frm_costruttore.h"
 #include "screens/common/browser.h"
+#include "screens/common/elaborazioni.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/scelta_file.h"
+#include "screens/common/stile.h"
+#include "screens/common/twips.h"
 #include "screens/config/frm_colori.h"
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
-#include "screens/common/messaggi.h"
-#include "screens/common/stile.h"
+#include "screens/maintenance/frm_aggiorna_internet.h"
+#include "screens/maintenance/frm_aggiornamenti.h"
+#include "screens/maintenance/frm_esportazione.h"
 #include "screens/maintenance/frm_input_estrazioni.h"
 #include "screens/maintenance/frm_stampa_estrazioni.h"
-#include "screens/maintenance/frm_aggiorna_internet.h"
 
 namespace gorgo::screens {
 
@@ -47,7 +47,9 @@ QString TestoUltima(int numeroAnno, const std::string& data) {
 }  // namespace
 
 FrmMain::FrmMain(std::unique_ptr<Programma> programma, QWidget* parent)
-    : QMainWindow(parent), programma_(std::move(programma)), sessione_(programma_->sessione),
+    : QMainWindow(parent),
+      programma_(std::move(programma)),
+      sessione_(programma_->sessione),
       archivio_(*programma_->archivio) {
     setObjectName("frmMain");
     QString titolo = QString::fromUtf8(CaptionPrincipale);
@@ -119,7 +121,8 @@ void FrmMain::CreaMenu() {
          [this] { ApriDialogoArchivio(new FrmEsportazione(sessione_, archivio_, this)); });
     voce(lotto, "mnuEstrazioniImporta", QStringLiteral("Importa archivio da file di testo..."),
          [this] { ImportaArchivioTesto(); });
-    voce(lotto, "mnuEstrazioniStampa", QStringLiteral("Stampa..."), [this] { ApriEstrazioni(FinestraEstrazioni::Stampa); });
+    voce(lotto, "mnuEstrazioniStampa", QStringLiteral("Stampa..."),
+         [this] { ApriEstrazioni(FinestraEstrazioni::Stampa); });
 
     QMenu* dieci = mb->addMenu(QStringLiteral("Estrazioni 10eLotto"));
     voce(dieci, "mnuEstrazioniConsulta10elotto", QStringLiteral("Consulta"), nullptr);
@@ -143,7 +146,8 @@ void FrmMain::CreaMenu() {
     voce(strumenti, "mnuStrumentiWeb", QStringLiteral("Sito web Ardesia"), [this] { ApriSitoWeb(); });
     voce(strumenti, "mnuStrumentiUrl", QStringLiteral("Url predefinita"), [this] { ApriUrl(); });
     voce(strumenti, "mnuColori", QStringLiteral("Colori"), [this] { ApriColori(); });
-    voce(strumenti, "mnuStrumentiPannello", QStringLiteral("Ripristina tutti i pannelli"), [this] { RipristinaPannelli(); });
+    voce(strumenti, "mnuStrumentiPannello", QStringLiteral("Ripristina tutti i pannelli"),
+         [this] { RipristinaPannelli(); });
 
     QMenu* utility = mb->addMenu(QStringLiteral("&Utility"));
     voce(utility, "mnuUtilitySommaCinquine", QStringLiteral("Utility somma cinquine"), nullptr);
@@ -197,8 +201,8 @@ void FrmMain::CreaPannello() {
     auto* testaRestrizioni = new QLabel(QStringLiteral("Restrizioni attive in ricerche statistiche:"), restrizioni);
     testaRestrizioni->setObjectName("lblTestaRestrizioni");
     r->addWidget(testaRestrizioni);
-    lblNessuna_ = new QLabel(QString::fromUtf8(config::TestoNessuna.data(), static_cast<int>(config::TestoNessuna.size())),
-                             restrizioni);
+    lblNessuna_ = new QLabel(
+        QString::fromUtf8(config::TestoNessuna.data(), static_cast<int>(config::TestoNessuna.size())), restrizioni);
     lblNessuna_->setObjectName("lblNessuna");
     r->addWidget(lblNessuna_);
     for (size_t i = 0; i < lblRestrizioni_.size(); ++i) {
@@ -208,8 +212,7 @@ void FrmMain::CreaPannello() {
         r->addWidget(lblRestrizioni_[i]);
     }
     auto* cambia = Pulsante("cmdCambiaImpostazioniRestrizione", QStringLiteral("Cambia..."));
-    cambia->setToolTip(
-        QStringLiteral("Permette di impostare i parametri di esclusione per le ricerche statistiche"));
+    cambia->setToolTip(QStringLiteral("Permette di impostare i parametri di esclusione per le ricerche statistiche"));
     connect(cambia, &QPushButton::clicked, this, [this] { ApriOpzioni(); });
     r->addWidget(cambia, 0, Qt::AlignLeft);
     r->addStretch();
@@ -393,10 +396,10 @@ void FrmMain::ApriDialogoArchivio(QDialog* dialogo) {
 }
 
 void FrmMain::ImportaArchivioTesto() {
-    const QString file = ScegliFileManutenzione(
-        this, ModoSceltaFile::Apri, QStringLiteral("Importa archivio da file di testo"),
-        QStringLiteral("Archivio storico (*.txt *.zip)|*.txt;*.zip|Tutti i file (*.*)|*.*"),
-        QString::fromStdString(sessione_.PercorsoProgramma.string()));
+    const QString file =
+        ScegliFileManutenzione(this, ModoSceltaFile::Apri, QStringLiteral("Importa archivio da file di testo"),
+                               QStringLiteral("Archivio storico (*.txt *.zip)|*.txt;*.zip|Tutti i file (*.*)|*.*"),
+                               QString::fromStdString(sessione_.PercorsoProgramma.string()));
     if (file.isEmpty()) return;
     CMouse mouse;
     const maintenance::EsitoImportazione e =
@@ -424,15 +427,11 @@ void FrmMain::ApriEstrazioni(FinestraEstrazioni quale) {
             f = input;
             break;
         }
-        case FinestraEstrazioni::Stampa:
-            f = new FrmStampaEstrazioni(sessione_, archivio_, this);
-            break;
+        case FinestraEstrazioni::Stampa: f = new FrmStampaEstrazioni(sessione_, archivio_, this); break;
         case FinestraEstrazioni::StampaSuper:
             f = new FrmStampaEstrazioniSuperEnalotto(sessione_, archivio_, this);
             break;
-        case FinestraEstrazioni::Stampa10eLotto:
-            f = new FrmStampaEstrazioni10eLotto(sessione_, archivio_, this);
-            break;
+        case FinestraEstrazioni::Stampa10eLotto: f = new FrmStampaEstrazioni10eLotto(sessione_, archivio_, this); break;
     }
     aperta = f;
     f->show();

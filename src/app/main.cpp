@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 
-#include "archives/percorso.h"
 #include "app/avvio.h"
+#include "archives/percorso.h"
 
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
@@ -12,7 +12,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(GORGO_VERSIONE));
 
     QCommandLineParser opzioni;
-    opzioni.setApplicationDescription(QStringLiteral("Gorgo 2 - Tris metodologie: banco di lavoro per Lotto, 10eLotto e SuperEnalotto"));
+    opzioni.setApplicationDescription(
+        QStringLiteral("Gorgo 2 - Tris metodologie: banco di lavoro per Lotto, 10eLotto e SuperEnalotto"));
     opzioni.addHelpOption();
     const QCommandLineOption cartella(QStringLiteral("cartella"),
                                       QStringLiteral("Cartella del programma (contiene Gorgo.ini e Archivi/)."),
@@ -22,7 +23,8 @@ int main(int argc, char** argv) {
 
     std::optional<std::filesystem::path> scelta;
     if (opzioni.isSet(cartella)) scelta = opzioni.value(cartella).toStdString();
-    const std::filesystem::path percorso = gorgo::archives::TrovaPercorsoProgramma(gorgo::archives::AmbienteCorrente(scelta));
+    const std::filesystem::path percorso =
+        gorgo::archives::TrovaPercorsoProgramma(gorgo::archives::AmbienteCorrente(scelta));
 
     std::unique_ptr<QLockFile> blocco;
     std::unique_ptr<gorgo::screens::FrmMain> principale = gorgo::screens::AvviaProgramma(percorso, blocco);

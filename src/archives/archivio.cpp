@@ -1,8 +1,8 @@
 #include "archives/archivio.h"
 
-#include <algorithm>
 #include <fcntl.h>
 #include <fmt/format.h>
+#include <algorithm>
 
 #include "archives/file_record.h"
 
@@ -86,8 +86,7 @@ std::string Archivio::DataEstrazione(int32_t indice, int archivio) const {
     const int32_t n = archivio == ArchivioSuper ? numeroEstrazioniSuper_ : numeroEstrazioni_;
     if (n < 1) return {};
     indice = std::clamp<int32_t>(indice, 1, n);
-    return archivio == ArchivioSuper ? LeggiRecordSuper(indice).dataTesto()
-                                     : LeggiEstrazione(indice).dataTesto();
+    return archivio == ArchivioSuper ? LeggiRecordSuper(indice).dataTesto() : LeggiEstrazione(indice).dataTesto();
 }
 
 std::optional<RisultatoRicerca> Archivio::CercaIndice(const Data& data, bool precedente) const {
@@ -194,16 +193,18 @@ Messaggio VerificaIntegrita(const Archivio& archivio) {
     auto errore = [](std::string testo) { return Messaggio{std::move(testo), "Errore", Icona::Stop}; };
     const fs::path cartella = archivio.CartellaArchivi();
     if (const uint64_t l = archivio.LunghezzaEstrazioni(); l % LunghezzaRecordEstrazione != 0)
-        return errore(fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}; "
-                                  "l'ultima estrazione è incompleta.",
-                                  (cartella / "Estrazioni.ind").string(), l, LunghezzaRecordEstrazione));
+        return errore(
+            fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}; "
+                        "l'ultima estrazione è incompleta.",
+                        (cartella / "Estrazioni.ind").string(), l, LunghezzaRecordEstrazione));
     if (const uint64_t l = archivio.LunghezzaAnni(); l % LunghezzaRecordAnno != 0)
         return errore(fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}.",
                                   (cartella / "anni.ind").string(), l, LunghezzaRecordAnno));
     if (const uint64_t l = archivio.LunghezzaSuper(); l % LunghezzaRecordSuper != 0)
-        return errore(fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}; "
-                                  "l'ultima estrazione è incompleta.",
-                                  (cartella / "SuperEnalotto.ind").string(), l, LunghezzaRecordSuper));
+        return errore(
+            fmt::format("Il file {} è danneggiato: la sua lunghezza ({} byte) non è un multiplo di {}; "
+                        "l'ultima estrazione è incompleta.",
+                        (cartella / "SuperEnalotto.ind").string(), l, LunghezzaRecordSuper));
 
     const auto storia = archivio.Storia();
     const auto anni = archivio.LeggiAnni();
@@ -218,23 +219,26 @@ Messaggio VerificaIntegrita(const Archivio& archivio) {
             return errore(fmt::format("L'estrazione n. {} dell'archivio ha una data non valida ({}).", i,
                                       std::string(r.dataCifre())));
         if (i > 1 && storia->giorni(i) <= storia->giorni(i - 1))
-            return errore(fmt::format("L'estrazione n. {} del {} non segue la precedente del {}: "
-                                      "l'archivio non è in ordine di data.",
-                                      i, r.dataTesto(), (*storia)[i - 1].dataTesto()));
+            return errore(
+                fmt::format("L'estrazione n. {} del {} non segue la precedente del {}: "
+                            "l'archivio non è in ordine di data.",
+                            i, r.dataTesto(), (*storia)[i - 1].dataTesto()));
         if (d.anno != annoAtteso) {
             annoAtteso = d.anno;
             if (prossimoAnno >= anni.size() || anni[prossimoAnno].anno() != d.anno ||
                 anni[prossimoAnno].primaEstrazione() != i)
-                return errore(fmt::format("Il file {} non corrisponde alle estrazioni: manca o è errato "
-                                          "l'anno {} (prima estrazione n. {}).",
-                                          nomeAnni, d.anno, i));
+                return errore(
+                    fmt::format("Il file {} non corrisponde alle estrazioni: manca o è errato "
+                                "l'anno {} (prima estrazione n. {}).",
+                                nomeAnni, d.anno, i));
             ++prossimoAnno;
         }
     }
     if (prossimoAnno != anni.size())
-        return errore(fmt::format("Il file {} non corrisponde alle estrazioni: contiene {} anni, "
-                                  "le estrazioni ne coprono {}.",
-                                  nomeAnni, anni.size(), prossimoAnno));
+        return errore(
+            fmt::format("Il file {} non corrisponde alle estrazioni: contiene {} anni, "
+                        "le estrazioni ne coprono {}.",
+                        nomeAnni, anni.size(), prossimoAnno));
     return {};
 }
 

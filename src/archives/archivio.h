@@ -29,8 +29,7 @@ class Archivio {
 public:
     // Opens Archivi/ below the program folder. Throws ErroreArchivio only when an
     // existing file cannot be opened.
-    static Archivio Apri(const std::filesystem::path& percorsoProgramma,
-                         ModoApertura modo = ModoApertura::Lettura);
+    static Archivio Apri(const std::filesystem::path& percorsoProgramma, ModoApertura modo = ModoApertura::Lettura);
     Archivio(Archivio&&) noexcept;
     Archivio& operator=(Archivio&&) noexcept;
     ~Archivio();

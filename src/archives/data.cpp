@@ -1,8 +1,8 @@
 #include "archives/data.h"
 
+#include <fmt/format.h>
 #include <algorithm>
 #include <array>
-#include <fmt/format.h>
 
 namespace gorgo::archives {
 
@@ -30,11 +30,11 @@ int Numero(std::string_view s) {
     return n;
 }
 
-constexpr std::array<std::string_view, 13> kMesi = {
-    "",        "gennaio", "febbraio", "marzo",     "aprile",  "maggio",   "giugno",
-    "luglio",  "agosto",  "settembre", "ottobre",  "novembre", "dicembre"};
-constexpr std::array<std::string_view, 8> kGiorni = {
-    "", "domenica", "lunedì", "martedì", "mercoledì", "giovedì", "venerdì", "sabato"};
+constexpr std::array<std::string_view, 13> kMesi = {"",        "gennaio",  "febbraio", "marzo",  "aprile",
+                                                    "maggio",  "giugno",   "luglio",   "agosto", "settembre",
+                                                    "ottobre", "novembre", "dicembre"};
+constexpr std::array<std::string_view, 8> kGiorni = {"",          "domenica", "lunedì",  "martedì",
+                                                     "mercoledì", "giovedì",  "venerdì", "sabato"};
 
 }  // namespace
 
@@ -87,8 +87,7 @@ int Data::giornoSettimana() const {
 }
 
 bool Data::valida() const {
-    return anno >= 1 && anno <= 9999 && mese >= 1 && mese <= 12 && giorno >= 1 &&
-           giorno <= GiorniNelMese(mese, anno);
+    return anno >= 1 && anno <= 9999 && mese >= 1 && mese <= 12 && giorno >= 1 && giorno <= GiorniNelMese(mese, anno);
 }
 
 int Data::giornoAnno() const { return giorni() - Data{1, 1, anno}.giorni(); }

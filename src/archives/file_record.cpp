@@ -1,11 +1,11 @@
 #include "archives/file_record.h"
 
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <cerrno>
+#include <cstring>
 
 namespace gorgo::archives {
 
@@ -81,8 +81,7 @@ void FileRecord::tronca(uint64_t lunghezza) {
 
 void FileRecord::ripristina(uint64_t lunghezzaPrima, uint64_t lunghezzaRecord) noexcept {
     if (fd_ < 0 || lunghezzaRecord == 0) return;
-    if (::ftruncate(fd_, static_cast<off_t>(lunghezzaPrima / lunghezzaRecord * lunghezzaRecord)) == 0)
-        ::fdatasync(fd_);
+    if (::ftruncate(fd_, static_cast<off_t>(lunghezzaPrima / lunghezzaRecord * lunghezzaRecord)) == 0) ::fdatasync(fd_);
 }
 
 void FileRecord::Errore(const char* azione) const {

@@ -55,7 +55,9 @@ void OrdinaCasuale(std::span<T> t, long primo, long ultimo) {
 inline void OrdinaInteri(std::span<int16_t> t, long primo, long ultimo) { dettaglio::OrdinaCasuale(t, primo, ultimo); }
 inline void OrdinaLunghi(std::span<int32_t> t, long primo, long ultimo) { dettaglio::OrdinaCasuale(t, primo, ultimo); }
 // Text by code values, not by language.
-inline void OrdinaTesti(std::span<std::string> t, long primo, long ultimo) { dettaglio::OrdinaCasuale(t, primo, ultimo); }
+inline void OrdinaTesti(std::span<std::string> t, long primo, long ultimo) {
+    dettaglio::OrdinaCasuale(t, primo, ultimo);
+}
 inline void OrdinaTuttiTesti(std::span<std::string> t) {
     dettaglio::OrdinaCasuale(t, 0, static_cast<long>(t.size()) - 1);
 }

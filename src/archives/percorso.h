@@ -12,7 +12,7 @@ struct AmbientePercorso {
     std::optional<std::filesystem::path> cartella;  // --cartella
     std::optional<std::string> gorgoHome;           // $GORGO_HOME
     std::filesystem::path cartellaEseguibile;
-    std::optional<std::string> home;                // $HOME
+    std::optional<std::string> home;  // $HOME
 };
 
 std::filesystem::path TrovaPercorsoProgramma(const AmbientePercorso& ambiente);

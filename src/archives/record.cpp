@@ -1,13 +1,13 @@
 #include "archives/record.h"
 
-#include <cstring>
 #include <fmt/format.h>
+#include <cstring>
 
 namespace gorgo::archives {
 
-const std::array<std::string_view, 12> NomiRuota = {
-    "Tutte     ", "Bari      ", "Cagliari  ", "Firenze   ", "Genova    ", "Milano    ",
-    "Napoli    ", "Palermo   ", "Roma      ", "Torino    ", "Venezia   ", "Nazionale "};
+const std::array<std::string_view, 12> NomiRuota = {"Tutte     ", "Bari      ", "Cagliari  ", "Firenze   ",
+                                                    "Genova    ", "Milano    ", "Napoli    ", "Palermo   ",
+                                                    "Roma      ", "Torino    ", "Venezia   ", "Nazionale "};
 
 const std::array<std::string_view, 12> SigleRuota = {"Tu", "BA", "CA", "FI", "GE", "MI",
                                                      "NA", "PA", "RO", "TO", "VE", "NZ"};

@@ -19,8 +19,7 @@ std::string MessaggioDataInferiore(std::string_view primaData) {
 }
 
 std::string MessaggioDataSuperiore(std::string_view ultimaData) {
-    return "La data non può essere superiore alla data ultima estrazione inserita (" + std::string(ultimaData) +
-           ")";
+    return "La data non può essere superiore alla data ultima estrazione inserita (" + std::string(ultimaData) + ")";
 }
 
 bool DataAccettata(std::string_view testo) { return Data::daTesto(testo).has_value(); }
@@ -44,9 +43,8 @@ RisultatoData Rifiuto(std::string testo) {
 
 // Steps shared by the checks: form, the month-and-day rule, limits; then the search.
 template <typename Cerca>
-RisultatoData Controlla(std::string_view testo, const Data& prima, std::string_view testoPrima,
-                        const Data& ultima, std::string_view testoUltima, std::string_view testoPrimaArchiviata,
-                        Cerca cerca) {
+RisultatoData Controlla(std::string_view testo, const Data& prima, std::string_view testoPrima, const Data& ultima,
+                        std::string_view testoUltima, std::string_view testoPrimaArchiviata, Cerca cerca) {
     if (testo.size() != 10 || !DataAccettata(testo)) return Rifiuto(std::string(MessaggioFormatoData));
     const Data d = *Data::daTesto(testo);
     if (DataErrata(d.giorno, d.mese, d.anno)) return Rifiuto(std::string(MessaggioDataErrata));

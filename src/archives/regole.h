@@ -24,8 +24,8 @@ struct RisultatoData {
 };
 
 // The fixed texts of the date check.
-extern const std::string_view MessaggioFormatoData;   // the four lines about GG/MM/AAAA
-extern const std::string_view MessaggioDataErrata;    // "Data errata !"
+extern const std::string_view MessaggioFormatoData;  // the four lines about GG/MM/AAAA
+extern const std::string_view MessaggioDataErrata;   // "Data errata !"
 std::string MessaggioDataInferiore(std::string_view primaData);
 std::string MessaggioDataSuperiore(std::string_view ultimaData);
 

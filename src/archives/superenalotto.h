@@ -13,7 +13,7 @@ class Archivio;
 
 // Result codes of LeggiEstrazioneSuper.
 enum EsitoSuper : int {
-    SuperIncompleta = 0,        // a zero among the six: the reading stopped there
+    SuperIncompleta = 0,  // a zero among the six: the reading stopped there
     SuperSoloSei = 1,
     SuperConJolly = 2,
     SuperConSuperStar = 3,

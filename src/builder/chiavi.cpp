@@ -114,9 +114,7 @@ int CalcolaRegola(const TermineChiave& t, const archives::RecordEstrazione& e) {
 }
 
 // An Ambata key has its "_" (or its end) at character 10; an Ambi key has a digit there.
-bool LayoutAmbi(std::string_view chiave) {
-    return chiave.size() > SeparatoreAmbata && chiave[SeparatoreAmbata] != '_';
-}
+bool LayoutAmbi(std::string_view chiave) { return chiave.size() > SeparatoreAmbata && chiave[SeparatoreAmbata] != '_'; }
 
 NumeriCalcolati Errore(archives::Messaggio m) {
     NumeriCalcolati r;
@@ -152,8 +150,7 @@ std::string ChiaveAmbata(int cella, Operazione op, int cella2, int k, const Coda
     return t + "_" + TestoCoda(coda);
 }
 
-std::string ChiaveAmbi(int cellaB, Operazione op1, int k1, int cellaA, Operazione op2, int k2,
-                       const CodaChiave& coda) {
+std::string ChiaveAmbi(int cellaB, Operazione op1, int k1, int cellaA, Operazione op2, int k2, const CodaChiave& coda) {
     auto regola = [](int c, Operazione op, int k) {
         return std::to_string(PosizioneDiCella(c)) + Numero2(RuotaDiCella(c)) + Segno(op) + Numero2(k);
     };

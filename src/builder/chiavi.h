@@ -62,7 +62,7 @@ struct ChiaveLetta {
     std::array<int, 3> celle{};  // Terzina
     int terzina = 0;             // Codice: 1..9999, checked against the table when calculated
     std::optional<CodaChiave> coda;
-    archives::Messaggio errore;            // "Calcolo impossibile: ..." on a bad key; the fields are then unset
+    archives::Messaggio errore;  // "Calcolo impossibile: ..." on a bad key; the fields are then unset
 };
 ChiaveLetta LeggiChiave(std::string_view chiave, TipoRicerca tipo);
 
@@ -74,11 +74,12 @@ std::string DescrizioneCodice(int cella, Operazione op, int terzina, const std::
 
 // ---- calculation of an algorithm at a draw ----
 struct NumeriCalcolati {
-    std::vector<int> numeri;  // empty on a fault
-    archives::Messaggio errore;         // "Calcolo impossibile: ..." on a bad key
+    std::vector<int> numeri;     // empty on a fault
+    archives::Messaggio errore;  // "Calcolo impossibile: ..." on a bad key
 };
 // The number of an Ambata key, or of the first (primo) or second rule of an Ambi key.
-NumeriCalcolati CalcolaTermine(std::string_view chiave, const archives::RecordEstrazione& estrazione, bool primo = true);
+NumeriCalcolati CalcolaTermine(std::string_view chiave, const archives::RecordEstrazione& estrazione,
+                               bool primo = true);
 // The three numbers of a code (with 45 or 90 and "x": the number itself).
 NumeriCalcolati CalcolaCodice(std::string_view chiave, const archives::RecordEstrazione& estrazione,
                               const TerzineRidotte& terzine);

@@ -9,8 +9,9 @@ ContestoCostruttore PreparaCostruttore(archives::StoriaCondivisa storia, const c
                                        std::optional<std::string> fileTerzine) {
     ContestoCostruttore c;
     c.storia = std::move(storia);
-    const std::string giorni = config::LeggiImpostazione(ini, config::sezioni::Options, "Giorni estrazione",
-                                                         config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
+    const std::string giorni =
+        config::LeggiImpostazione(ini, config::sezioni::Options, "Giorni estrazione",
+                                  config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
     c.indici = CalcolaIndiciMensili(*c.storia, giorni);
     c.restrizioni = config::LeggiRestrizioni(ini);
     if (!fileTerzine || fileTerzine->empty()) {

@@ -17,8 +17,8 @@ struct ContestoCostruttore {
     archives::StoriaCondivisa storia;
     IndiciMensili indici;
     config::Restrizioni restrizioni;
-    EsitoTerzine terzine;          // terzine.valido false: codes unavailable
-    std::string fileTerzine;       // the file tried
+    EsitoTerzine terzine;     // terzine.valido false: codes unavailable
+    std::string fileTerzine;  // the file tried
 
     ContestoRicerca Contesto() const {
         return ContestoRicerca{storia.get(), restrizioni, &indici, terzine.valido ? &terzine.terzine : nullptr};

@@ -1,10 +1,10 @@
 // Ambate body: one cell with a constant, two cells, or the cell alone; the ambo-spy
 // variant shares it.
 
-#include <algorithm>
-#include <memory>
 #include <tbb/enumerable_thread_specific.h>
 #include <tbb/parallel_for.h>
+#include <algorithm>
+#include <memory>
 
 #include "builder/corpo_ambate.h"
 
@@ -173,7 +173,8 @@ RisultatoValore CorpoAmbate(const Preparata& r, const Spia& spia, const std::vec
         },
         [&](int cella, int n) {
             if (n > 0)
-                aggiungi(t->solaH[static_cast<size_t>(cella)], t->solaQ[static_cast<size_t>(cella)], {2, 0, cella, 0, 0});
+                aggiungi(t->solaH[static_cast<size_t>(cella)], t->solaQ[static_cast<size_t>(cella)],
+                         {2, 0, cella, 0, 0});
         });
 
     // Only the top of the ordered list can be selected: order just that much.

@@ -6,10 +6,10 @@
 // (nine rules x 56 second cells x 45 x 45 constants) are filled over all cases, in
 // parallel over (rule, second constant), emitted, and reused for the next A.
 
+#include <tbb/parallel_for.h>
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <tbb/parallel_for.h>
 
 #include "builder/corpo_ambi.h"
 
@@ -22,7 +22,7 @@ constexpr int kRegole = 9;
 constexpr Operazione kOpB[kRegole] = {Operazione::Piu,  Operazione::Piu,  Operazione::Piu,
                                       Operazione::Meno, Operazione::Meno, Operazione::Per,
                                       Operazione::Per,  Operazione::Meno, Operazione::Per};
-constexpr Operazione kOpA[kRegole] = {Operazione::Piu, Operazione::Meno, Operazione::Per,
+constexpr Operazione kOpA[kRegole] = {Operazione::Piu,  Operazione::Meno, Operazione::Per,
                                       Operazione::Meno, Operazione::Per,  Operazione::Per,
                                       Operazione::Meno, Operazione::Piu,  Operazione::Piu};
 // Each operation tries 45 constants: "+" 0..44, "-" and "x" 1..45.
@@ -50,8 +50,8 @@ struct TabellaRisultatiB {
     std::array<std::array<uint8_t, kCostanti>, 91> per{};  // "x"
     TabellaRisultatiB() {
         for (int xb = 0; xb <= 90; ++xb)
-            for (int j = 0; j < kCostanti; ++j) per[static_cast<size_t>(xb)][static_cast<size_t>(j)] =
-                static_cast<uint8_t>(OperaPer(xb, j + 1));
+            for (int j = 0; j < kCostanti; ++j)
+                per[static_cast<size_t>(xb)][static_cast<size_t>(j)] = static_cast<uint8_t>(OperaPer(xb, j + 1));
     }
 };
 const TabellaRisultatiB& RisultatiPer() {

@@ -8,11 +8,11 @@
 // is "the triple of three distinct results drawn together". The results depend on the
 // cell's number only, so each number of the draw is worked out once.
 
+#include <tbb/enumerable_thread_specific.h>
+#include <tbb/parallel_for.h>
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <tbb/enumerable_thread_specific.h>
-#include <tbb/parallel_for.h>
 
 #include "builder/corpo_codici.h"
 

@@ -1,11 +1,11 @@
 // Terzine body: three cells of the draw, scored on the pairs ("Terzine x ambo") or on the
 // triples ("Terzine x terno") of the window.
 
+#include <tbb/enumerable_thread_specific.h>
+#include <tbb/parallel_for.h>
 #include <algorithm>
 #include <array>
 #include <memory>
-#include <tbb/enumerable_thread_specific.h>
-#include <tbb/parallel_for.h>
 
 #include "builder/corpo_terzine.h"
 
@@ -57,7 +57,8 @@ void Segna(const Preparata& r, const Caso& c, Finestre& f, Punteggi& s, bool per
     for (int i = 1; i <= 53; ++i)
         for (int j = i + 1; j <= 54; ++j)
             for (int k = j + 1; k <= 55; ++k, ++t) {
-                std::array<int, 3> n = {qe[static_cast<size_t>(i)], qe[static_cast<size_t>(j)], qe[static_cast<size_t>(k)]};
+                std::array<int, 3> n = {qe[static_cast<size_t>(i)], qe[static_cast<size_t>(j)],
+                                        qe[static_cast<size_t>(k)]};
                 if (n[0] > n[1]) std::swap(n[0], n[1]);
                 if (n[1] > n[2]) std::swap(n[1], n[2]);
                 if (n[0] > n[1]) std::swap(n[0], n[1]);

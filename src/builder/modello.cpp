@@ -31,9 +31,12 @@ constexpr std::array<int16_t, 91> CostruisciVertibili() {
     for (int n = 1; n <= 90; ++n) {
         const int decine = n / 10, unita = n % 10;
         int v;
-        if (decine == unita) v = decine * 10 + 9;            // 11 -> 19
-        else if (unita == 9 && decine >= 1) v = decine * 11;  // 19 -> 11: the swap would leave 1..90
-        else v = unita * 10 + decine;                          // 12 -> 21, 1 -> 10, 90 -> 9
+        if (decine == unita)
+            v = decine * 10 + 9;  // 11 -> 19
+        else if (unita == 9 && decine >= 1)
+            v = decine * 11;  // 19 -> 11: the swap would leave 1..90
+        else
+            v = unita * 10 + decine;  // 12 -> 21, 1 -> 10, 90 -> 9
         t[static_cast<size_t>(n)] = static_cast<int16_t>(v);
     }
     return t;

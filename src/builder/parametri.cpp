@@ -55,9 +55,7 @@ std::string DescrizioneSpia(TipoSpia tipo, ModoSpia modo, int indiceMese, int va
         case TipoSpia::Numero: t = "Sortite del numero " + std::to_string(valore); break;
         case TipoSpia::Somma: t = "Sortite della somma " + std::to_string(valore); break;
         case TipoSpia::Differenza: t = "Sortite della differenza " + std::to_string(valore); break;
-        case TipoSpia::Ambo:
-            t = "Sortite dell'ambo " + std::to_string(valore) + "-" + std::to_string(valore2);
-            break;
+        case TipoSpia::Ambo: t = "Sortite dell'ambo " + std::to_string(valore) + "-" + std::to_string(valore2); break;
     }
     return t + " sulle ruote di ricerca nel periodo considerato: ";
 }
@@ -102,8 +100,7 @@ RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaL
     std::array<bool, 6> posizioni{false, true, true, true, true, true};
     if (p.posizioneDeterminata) posizioni = p.posizioniSpia;
     const auto scelte = std::count(posizioni.begin() + 1, posizioni.end(), true);
-    if (!ambo && p.posizioneDeterminata && scelte == 0)
-        return Rifiuto("Scegliere almeno una posizione estrattiva !");
+    if (!ambo && p.posizioneDeterminata && scelte == 0) return Rifiuto("Scegliere almeno una posizione estrattiva !");
     if (ambo && scelte < 2) return Rifiuto("Scegliere almeno due posizioni estrattive !");
 
     // 2. Positions in which an ambata counts.
@@ -117,7 +114,8 @@ RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaL
     // 4. The period, its dates turned into draws; a refused date brings its own message.
     RicercaValidata r;
     if (p.perData == 0) {
-        const archives::RisultatoData da = archives::ControllaData(p.dataDa.empty() ? DataDaPredefinita(storia) : p.dataDa, storia, false);
+        const archives::RisultatoData da =
+            archives::ControllaData(p.dataDa.empty() ? DataDaPredefinita(storia) : p.dataDa, storia, false);
         if (da.ErroreData) {
             RicercaValidata e;
             e.errore = da.messaggio;
@@ -127,7 +125,8 @@ RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaL
     } else {
         r.primo = 1;
     }
-    const archives::RisultatoData a = archives::ControllaData(p.dataA.empty() ? DataAPredefinita(storia) : p.dataA, storia, true);
+    const archives::RisultatoData a =
+        archives::ControllaData(p.dataA.empty() ? DataAPredefinita(storia) : p.dataA, storia, true);
     if (a.ErroreData) {
         RicercaValidata e;
         e.errore = a.messaggio;

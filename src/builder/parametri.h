@@ -22,20 +22,21 @@ struct ParametriRicerca {
     // optPosizioni / optPosizioniAmbi with chkPosizione(1..5).
     bool posizioneDeterminata = false;
     std::array<bool, 6> posizioniSpia{false, true, true, true, true, true};
-    int perData = 0;                       // optPeriodo: 0 dates, 1 last n hits
-    std::string dataDa, dataA;             // "GG/MM/AAAA"; empty = the screen's defaults
-    int sortiteDaCercare = 10;             // cboSortite
-    int indiceMese = 0;                    // cboIndice: 0 "Ultima", 1..21, 22 "Tutti"
+    int perData = 0;            // optPeriodo: 0 dates, 1 last n hits
+    std::string dataDa, dataA;  // "GG/MM/AAAA"; empty = the screen's defaults
+    int sortiteDaCercare = 10;  // cboSortite
+    int indiceMese = 0;         // cboIndice: 0 "Ultima", 1..21, 22 "Tutti"
     // Box 0 stands for the ten regional wheels; the settings default ticks Bari alone.
-    std::array<bool, 12> ruoteRicerca{false, true, false, false, false, false, false, false, false, false, false, false};
+    std::array<bool, 12> ruoteRicerca{false, true,  false, false, false, false,
+                                      false, false, false, false, false, false};
     std::array<bool, 12> ruoteGioco{false, true, false, false, false, false, false, false, false, false, false, false};
-    int colpi = 9;                         // txtColpi
-    bool controllaUltime = true;           // chkUltime
+    int colpi = 9;                // txtColpi
+    bool controllaUltime = true;  // chkUltime
     TipoRicerca tipoRicerca = TipoRicerca::Ambate;
-    bool soloPosizione = false;            // chkPosizionale
+    bool soloPosizione = false;                                                // chkPosizionale
     std::array<bool, 6> posizioniValide{false, true, true, true, true, true};  // chkPosizioneA(1..5)
-    int sorte = 2;                         // optSorte: 2 ambi, 3 terni
-    std::array<bool, 3> operazioni{true, true, true};  // chkOper: "+", "-", "x"
+    int sorte = 2;                                                             // optSorte: 2 ambi, 3 terni
+    std::array<bool, 3> operazioni{true, true, true};                          // chkOper: "+", "-", "x"
     int colpiDaGiocare = 9;
 };
 
@@ -56,10 +57,10 @@ std::string DescrizioneSpia(TipoSpia tipo, ModoSpia modo, int indiceMese, int va
 
 // What validation makes of the parameters: the failure to show, or the ready values.
 struct RicercaValidata {
-    archives::Messaggio errore;   // empty when valid
-    std::string focus;  // control to focus on a failure ("txtColpi", "cboNumero", ...)
-    int32_t primo = 1, ultimo = 0;  // the period as progressive indices (ultimo lowered without ControllaUltime)
-    int32_t ultimoPeriodo = 0;      // DataA's draw, before the lowering
+    archives::Messaggio errore;           // empty when valid
+    std::string focus;                    // control to focus on a failure ("txtColpi", "cboNumero", ...)
+    int32_t primo = 1, ultimo = 0;        // the period as progressive indices (ultimo lowered without ControllaUltime)
+    int32_t ultimoPeriodo = 0;            // DataA's draw, before the lowering
     std::array<bool, 12> ruoteRicerca{};  // effective flags of wheels 1..11 (index 0 unused)
     std::array<bool, 12> ruoteGioco{};
     int numeroRuoteRicerca = 0;

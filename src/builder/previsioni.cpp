@@ -2,8 +2,8 @@
 
 #include "builder/previsioni.h"
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <algorithm>
 
 #include "builder/report.h"
 #include "builder/statistiche.h"
@@ -19,8 +19,8 @@ using interno::Valore;
 using interno::Verifica;
 
 std::string TitoloPrevisioni(const ParametriRicerca& p) {
-    std::string t = "Calcolo previsioni degli algoritmi selezionati: " +
-                    std::string(NomeTipoRicerca(p.tipoRicerca, p.tipoSpia));
+    std::string t =
+        "Calcolo previsioni degli algoritmi selezionati: " + std::string(NomeTipoRicerca(p.tipoRicerca, p.tipoSpia));
     if (p.tipoRicerca == TipoRicerca::Codici) t += p.sorte == 3 ? " (terni)" : " (ambi)";
     return t;
 }

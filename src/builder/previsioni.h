@@ -10,16 +10,16 @@ namespace gorgo::builder {
 
 // One row of lvConvergenze.
 struct RigaPrevisione {
-    std::string descrizione;  // column 0
-    std::string previsione;   // column 1: lblCapo
+    std::string descrizione;                     // column 0
+    std::string previsione;                      // column 1: lblCapo
     std::string ritardo, ritardoMax, frequenza;  // columns 2..4, or "N.D."
     std::string indiceConvenienza;               // column 5; empty for "Terzine x terno"
     bool conIndice = true;                       // false: there is no column 5
 };
 
 struct EsitoPrevisioni {
-    archives::Messaggio errore;    // NessunAlgoritmoSelezionato under TitoloErrore
-    std::string titolo;  // "Calcolo previsioni degli algoritmi selezionati: " + the kind
+    archives::Messaggio errore;  // NessunAlgoritmoSelezionato under TitoloErrore
+    std::string titolo;          // "Calcolo previsioni degli algoritmi selezionati: " + the kind
     std::vector<RigaPrevisione> righe;
     bool aperta = false;  // frmAlgoritmiCalcolati opened (at least one checked row)
 };

@@ -1,7 +1,7 @@
 #include "builder/report.h"
 
-#include <array>
 #include <fmt/format.h>
+#include <array>
 
 namespace gorgo::builder {
 
@@ -29,8 +29,9 @@ std::string TestoSpiaReport(const ParametriRicerca& p) {
     static constexpr std::string_view kOpzioni[] = {"Numero spia", "Somma spia", "Differenza spia", "Ambo spia"};
     std::string s(kOpzioni[static_cast<int>(p.tipoSpia)]);
     if (p.tipoSpia == TipoSpia::Ambo)
-        s += p.tuttiGliAmbi ? " tutti gli ambi" : fmt::format(" {}-{}", std::min(p.amboSpia[0], p.amboSpia[1]),
-                                                                std::max(p.amboSpia[0], p.amboSpia[1]));
+        s += p.tuttiGliAmbi ? " tutti gli ambi"
+                            : fmt::format(" {}-{}", std::min(p.amboSpia[0], p.amboSpia[1]),
+                                          std::max(p.amboSpia[0], p.amboSpia[1]));
     else
         s += p.modoSpia == ModoSpia::Tutti ? std::string(" tutti i valori") : fmt::format(" {}", p.valoreSpia);
     const bool perPosizione = p.tipoSpia == TipoSpia::Numero || p.tipoSpia == TipoSpia::Ambo;
@@ -57,10 +58,9 @@ config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const arc
     const RicercaValidata v = ValidaRicerca(p, storia);
     config::ReportTesto r;
     r.titolo();
-    r.parametro("Intervallo di ricerca",
-                p.perData == 1 ? fmt::format("ultime {} sortite", p.sortiteDaCercare)
-                               : fmt::format("dal {} al {}", storia.DataEstrazione(v.primo),
-                                             storia.DataEstrazione(v.ultimoPeriodo)));
+    r.parametro("Intervallo di ricerca", p.perData == 1 ? fmt::format("ultime {} sortite", p.sortiteDaCercare)
+                                                        : fmt::format("dal {} al {}", storia.DataEstrazione(v.primo),
+                                                                      storia.DataEstrazione(v.ultimoPeriodo)));
     r.parametro("Ruota/e di ricerca condizione", Ruote(p.ruoteRicerca));
     r.parametro("Ruota/e di gioco", Ruote(p.ruoteGioco));
     std::string tipo(NomeTipoRicerca(p.tipoRicerca, p.tipoSpia));
@@ -72,13 +72,15 @@ config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const arc
     else
         r.parametro("Spia", TestoSpiaReport(p));
     r.parametro("Colpi di gioco", fmt::format("{}", p.colpi));
-    r.parametro("Indice mensile",
-                p.indiceMese == 22 ? std::string("tutti") : p.indiceMese == 0 ? std::string("Ultima") : fmt::format("{}", p.indiceMese));
+    r.parametro("Indice mensile", p.indiceMese == 22  ? std::string("tutti")
+                                  : p.indiceMese == 0 ? std::string("Ultima")
+                                                      : fmt::format("{}", p.indiceMese));
     r.rigaVuota();
     return r;
 }
 
-config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito, const archives::StoriaLotto& storia) {
+config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito,
+                                    const archives::StoriaLotto& storia) {
     config::ReportTesto r = IntestazioneCostruttore(p, storia);
     const std::string_view testa = TestaColonnaSpia(p.tipoSpia);
     for (const RigaAlgoritmo& riga : esito.righe)
@@ -147,10 +149,10 @@ config::ReportTesto ReportVerifica(const ParametriRicerca& p, const EsitoVerific
     const std::string_view testa = TestaColonnaSpia(p.tipoSpia);
     for (const RigaVerifica& x : v.righe) {
         const auto& c = x.colonne;
-        r.riga(fmt::format("Data spia: {}, R.: {}, {}: {}, Pos.: {}, Ind.m.: {}, Ind.a.: {}, Prev.: {}, "
-                           "Data sor.: {}, R.: {}, C.po.: {}",
-                           c[0], SenzaBlanchi(c[1]), testa, c[2], c[3], c[4], c[5], c[7], c[8], SenzaBlanchi(c[9]),
-                           c[10]));
+        r.riga(fmt::format(
+            "Data spia: {}, R.: {}, {}: {}, Pos.: {}, Ind.m.: {}, Ind.a.: {}, Prev.: {}, "
+            "Data sor.: {}, R.: {}, C.po.: {}",
+            c[0], SenzaBlanchi(c[1]), testa, c[2], c[3], c[4], c[5], c[7], c[8], SenzaBlanchi(c[9]), c[10]));
     }
     return r;
 }
@@ -167,7 +169,8 @@ config::ReportTesto StampaPrevisioniRighe(const ParametriRicerca& p, const Esito
     return Previsioni(p, e, storia, true);
 }
 
-config::ReportTesto ReportPrevisioni(const ParametriRicerca& p, const EsitoPrevisioni& e, const archives::StoriaLotto& storia) {
+config::ReportTesto ReportPrevisioni(const ParametriRicerca& p, const EsitoPrevisioni& e,
+                                     const archives::StoriaLotto& storia) {
     return Previsioni(p, e, storia, false);
 }
 

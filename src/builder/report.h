@@ -4,8 +4,8 @@
 
 #include <string>
 
-#include "builder/ricerca.h"
 #include "builder/previsioni.h"
+#include "builder/ricerca.h"
 #include "builder/riepilogo.h"
 #include "builder/verifica.h"
 #include "config/report_testo.h"
@@ -23,7 +23,8 @@ std::string_view NomeTipoRicerca(TipoRicerca tipo, TipoSpia spia);
 config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const archives::StoriaLotto& storia);
 
 // The header, then one line a row: "Algoritmo: ..., Sort.: ..., Pres./quantità: ...".
-config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito, const archives::StoriaLotto& storia);
+config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito,
+                                    const archives::StoriaLotto& storia);
 
 // ---- verification, recap, forecasts, list of cases ----
 

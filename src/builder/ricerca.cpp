@@ -2,10 +2,10 @@
 
 #include "builder/ricerca.h"
 
-#include <algorithm>
-#include <mutex>
 #include <fmt/format.h>
 #include <tbb/parallel_for.h>
+#include <algorithm>
+#include <mutex>
 
 #include "builder/corpo_ambate.h"
 #include "builder/corpo_ambi.h"

@@ -22,7 +22,7 @@ namespace gorgo::builder {
 // What a search reads besides its parameters, prepared once when the screen opens.
 struct ContestoRicerca {
     const archives::StoriaLotto* storia = nullptr;
-    config::Restrizioni restrizioni;          // GiornoValido comes from the day restrictions
+    config::Restrizioni restrizioni;  // GiornoValido comes from the day restrictions
     const IndiciMensili* indiciMensili = nullptr;
     const TerzineRidotte* terzine = nullptr;  // null or empty: codes unavailable
 };
@@ -35,16 +35,16 @@ struct Avanzamento {
 };
 
 struct EsitoRicerca {
-    archives::Messaggio errore;         // validation failure: nothing was run
+    archives::Messaggio errore;  // validation failure: nothing was run
     std::string focus;
-    std::string descrizione;  // the description of the search (without the count)
-    std::vector<CasoSpia> casi;         // newest first
-    std::vector<RigaAlgoritmo> righe;   // sorted on "Presenze/quantità" descending
-    std::string sortite;      // lblSortite
-    std::string previsioni;   // lblPrevisioni
-    uint32_t colorePrevisioni = 0;  // 0, or 128 (dark red) while a forecast runs
-    bool parziale = false;    // stopped
-    int32_t ultimo = 0;       // the period's last draw (txtDataFine)
+    std::string descrizione;           // the description of the search (without the count)
+    std::vector<CasoSpia> casi;        // newest first
+    std::vector<RigaAlgoritmo> righe;  // sorted on "Presenze/quantità" descending
+    std::string sortite;               // lblSortite
+    std::string previsioni;            // lblPrevisioni
+    uint32_t colorePrevisioni = 0;     // 0, or 128 (dark red) while a forecast runs
+    bool parziale = false;             // stopped
+    int32_t ultimo = 0;                // the period's last draw (txtDataFine)
 };
 
 // The fast engine: all cores, exactly the rows of the literal algorithm.

@@ -21,8 +21,8 @@ struct Spia {
 struct Caso {
     int32_t indice = 0;
     int ruota = 0;
-    int posizione = 0;   // position of the spy (first number of an ambo); 0 when not by position
-    int posizione2 = 0;  // ambo: position of the second number
+    int posizione = 0;         // position of the spy (first number of an ambo); 0 when not by position
+    int posizione2 = 0;        // ambo: position of the second number
     int32_t fineFinestra = 0;  // last draw of the window; below indice + 1 when empty
     const archives::RecordEstrazione* estrazione = nullptr;
     uint8_t numero(int cella) const { return estrazione->Ruota[(cella - 1) / 5][(cella - 1) % 5]; }
@@ -36,8 +36,8 @@ struct Preparata {
     RicercaValidata v;
     std::vector<uint8_t> ammessa;  // by index: GiornoValido and the month test
     std::vector<int> ruoteRicerca, ruoteGioco;
-    bool tuttiIValori = false;     // every value of the spy (or every ambo)
-    std::string testoPosizioni;    // key field: "11111", chosen ones, or empty
+    bool tuttiIValori = false;   // every value of the spy (or every ambo)
+    std::string testoPosizioni;  // key field: "11111", chosen ones, or empty
     const Avanzamento* avanzamento = nullptr;
 
     bool fermata() const { return avanzamento && avanzamento->stop.stop_requested(); }

@@ -2,8 +2,8 @@
 
 #include "builder/riepilogo.h"
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <algorithm>
 
 #include "builder/chiavi.h"
 #include "builder/verifica_interna.h"
@@ -56,15 +56,12 @@ std::string_view RigaSorte(const ParametriRicerca& p) {
     return {};
 }
 
-std::string Percentuale(int parte, int tutto) {
-    return config::Formato(parte * 100.0 / tutto, "##0.0");
-}
+std::string Percentuale(int parte, int tutto) { return config::Formato(parte * 100.0 / tutto, "##0.0"); }
 
 }  // namespace
 
 EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& p, const ContestoRicerca& contesto,
-                                const EsitoVerifica& verifica, std::string_view descrizione,
-                                std::string_view chiave) {
+                                const EsitoVerifica& verifica, std::string_view descrizione, std::string_view chiave) {
     EsitoRiepilogo e;
     if (p.colpi < 1) {
         e.errore = Avviso(ColpiMancanti);
@@ -86,9 +83,9 @@ EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& p, const ContestoRicerca
     if (p.perData == 1) {
         static constexpr std::string_view kDescrivi[] = {"sortite del numero spia", "sortite della somma spia",
                                                          "sortite della differenza spia", "sortite dell'ambo spia"};
-        t.push_back(fmt::format("Ultime {} {}", p.sortiteDaCercare,
-                                soloIndice ? std::string_view("occorrenze dell'indice mensile")
-                                           : kDescrivi[static_cast<int>(p.tipoSpia)]));
+        t.push_back(fmt::format(
+            "Ultime {} {}", p.sortiteDaCercare,
+            soloIndice ? std::string_view("occorrenze dell'indice mensile") : kDescrivi[static_cast<int>(p.tipoSpia)]));
     } else {
         t.push_back("Data inizio ricerca " + s.DataEstrazione(v.primo));
         t.push_back("Data fine ricerca " + s.DataEstrazione(v.ultimoPeriodo));
@@ -130,7 +127,8 @@ EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& p, const ContestoRicerca
         t.push_back("Indice mensile " + (p.indiceMese == 0 ? std::string("Ultima") : std::to_string(p.indiceMese)) +
                     " del mese");
     std::string algoritmo(descrizione);
-    const bool tutteValide = std::all_of(p.posizioniValide.begin() + 1, p.posizioniValide.end(), [](bool b) { return b; });
+    const bool tutteValide =
+        std::all_of(p.posizioniValide.begin() + 1, p.posizioniValide.end(), [](bool b) { return b; });
     if (p.tipoRicerca == TipoRicerca::Ambate && !tutteValide) {
         algoritmo += " in posizione ";
         for (int k = 1; k <= 5; ++k)

@@ -15,7 +15,7 @@ struct FigureRiepilogo {
 };
 
 struct EsitoRiepilogo {
-    archives::Messaggio errore;                // ColpiMancanti
+    archives::Messaggio errore;  // ColpiMancanti
     FigureRiepilogo figure;
     std::vector<std::string> testa;  // the head block of frmReportGorgo
     std::vector<std::string> righe;  // " Casi rilevati   : " ... " Attesa media    : "
@@ -25,7 +25,6 @@ struct EsitoRiepilogo {
 FigureRiepilogo FigureTecnica(const std::vector<RigaVerifica>& righe, int32_t fine, int colpi);
 
 EsitoRiepilogo RiepilogoTecnica(const ParametriRicerca& parametri, const ContestoRicerca& contesto,
-                                const EsitoVerifica& verifica, std::string_view descrizione,
-                                std::string_view chiave);
+                                const EsitoVerifica& verifica, std::string_view descrizione, std::string_view chiave);
 
 }  // namespace gorgo::builder

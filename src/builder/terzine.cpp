@@ -47,7 +47,8 @@ EsitoTerzine CaricaTerzine(const std::string& percorso) {
     std::stringstream buffer;
     buffer << in.rdbuf();
     if (!in) {
-        esito.messaggio = {"Impossibile leggere il file terzine ridotte: " + percorso, "", archives::Icona::Esclamazione};
+        esito.messaggio = {"Impossibile leggere il file terzine ridotte: " + percorso, "",
+                           archives::Icona::Esclamazione};
         return esito;
     }
     const std::string testo = buffer.str();
@@ -75,7 +76,8 @@ EsitoTerzine CaricaTerzine(const std::string& percorso) {
     esito.terzine = std::move(t);
     esito.valido = esito.terzine.disponibili();
     if (esito.terzine.quante() != NumeroTerzineAttese)
-        esito.messaggio = {std::to_string(esito.terzine.quante()) + " terzine caricate!\"", "", archives::Icona::Informazione};
+        esito.messaggio = {std::to_string(esito.terzine.quante()) + " terzine caricate!\"", "",
+                           archives::Icona::Informazione};
     return esito;
 }
 

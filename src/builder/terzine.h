@@ -18,8 +18,8 @@ struct TerzineRidotte {
 };
 struct EsitoTerzine {
     TerzineRidotte terzine;
-    bool valido = false;     // false: codes unavailable
-    archives::Messaggio messaggio;     // " File terzine non valido!" or "N terzine caricate!\"" or a missing file
+    bool valido = false;            // false: codes unavailable
+    archives::Messaggio messaggio;  // " File terzine non valido!" or "N terzine caricate!\"" or a missing file
     bool fileMancante = false;
 };
 // Each line: first number in characters 1-2, second in 4-5, third in the last two.

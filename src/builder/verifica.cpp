@@ -2,10 +2,10 @@
 
 #include "builder/verifica.h"
 
-#include <algorithm>
-#include <cstdlib>
 #include <fmt/format.h>
 #include <tbb/parallel_for.h>
+#include <algorithm>
+#include <cstdlib>
 
 #include "builder/chiavi.h"
 #include "builder/verifica_interna.h"
@@ -99,8 +99,8 @@ Spia LeggiSpia(std::string_view testo, TipoSpia tipo) {
 }
 
 // The spy condition on one wheel; where it stood, when by position.
-bool SpiaPresente(const Preparazione& r, const uint8_t* x, const std::array<bool, 6>& posizioni, Spia spia,
-                  int& pos, int& pos2) {
+bool SpiaPresente(const Preparazione& r, const uint8_t* x, const std::array<bool, 6>& posizioni, Spia spia, int& pos,
+                  int& pos2) {
     if (r.soloIndice) return true;
     switch (r.p->tipoSpia) {
         case TipoSpia::Numero:

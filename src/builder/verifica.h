@@ -11,8 +11,8 @@
 
 #include "archives/messaggio.h"
 #include "archives/storia.h"
-#include "builder/modello.h"
 #include "builder/chiavi.h"
+#include "builder/modello.h"
 #include "builder/parametri.h"
 #include "builder/ricerca.h"
 
@@ -36,16 +36,16 @@ struct RigaVerifica {
     std::string chiave;  // the key column: the description in a hit row, "Nessuno" otherwise
 
     // The same, raw.
-    int32_t indiceSpia = 0;     // column 11
-    int32_t indiceEsito = 0;    // column 12: the hit; without hit the last index walked + 1
-    int ruota = 0;              // wheel of the spy
-    int spia = 0, spia2 = 0;    // 0 with ModoSpia 2
-    int posizione = 0;          // 0 for sum, difference and ModoSpia 2
+    int32_t indiceSpia = 0;       // column 11
+    int32_t indiceEsito = 0;      // column 12: the hit; without hit the last index walked + 1
+    int ruota = 0;                // wheel of the spy
+    int spia = 0, spia2 = 0;      // 0 with ModoSpia 2
+    int posizione = 0;            // 0 for sum, difference and ModoSpia 2
     std::vector<int> previsione;  // the numbers of column 7
-    bool vincita = false;       // a hit row
-    int ruotaEsito = 0;         // the hit's wheel
-    int colpo = 0;              // the hit's colpo; for a running case the colpi left
-    bool inCorso = false;       // "IN CORSO": columns 7, 8, 10 red (ColoreInCorso) and bold
+    bool vincita = false;         // a hit row
+    int ruotaEsito = 0;           // the hit's wheel
+    int colpo = 0;                // the hit's colpo; for a running case the colpi left
+    bool inCorso = false;         // "IN CORSO": columns 7, 8, 10 red (ColoreInCorso) and bold
 };
 
 struct EsitoVerifica {

@@ -1,7 +1,7 @@
 // info, estrazione, data, dieci, super, demo, cartella.
 
-#include <charconv>
 #include <fmt/format.h>
+#include <charconv>
 #include <iostream>
 
 #include "archives/demo.h"
@@ -16,7 +16,9 @@ namespace gorgo::cli {
 namespace {
 
 // The main panel's "Ultima estrazione memorizzata :" text.
-std::string TestoUltima(int numeroAnno, const std::string& data) { return fmt::format("n.{} del {}", numeroAnno, data); }
+std::string TestoUltima(int numeroAnno, const std::string& data) {
+    return fmt::format("n.{} del {}", numeroAnno, data);
+}
 
 std::string NumeroODash(int n) { return n == 0 ? "--" : fmt::format("{:02}", n); }
 
@@ -27,9 +29,10 @@ int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view 
     int32_t indice = 0;
     const auto [p, ec] = std::from_chars(testo.data(), testo.data() + testo.size(), indice);
     if (ec != std::errc{} || p != testo.data() + testo.size())
-        throw Rifiuta(fmt::format("\"{}\" non è un indice valido: indicare un numero progressivo "
-                                  "oppure una data GG/MM/AAAA.",
-                                  testo));
+        throw Rifiuta(
+            fmt::format("\"{}\" non è un indice valido: indicare un numero progressivo "
+                        "oppure una data GG/MM/AAAA.",
+                        testo));
     if (indice < 1 || indice > massimo)
         throw Rifiuta(fmt::format("L'indice {} è fuori dall'archivio {}: le estrazioni memorizzate vanno da 1 a {}.",
                                   indice, archivio, massimo));
@@ -57,13 +60,12 @@ void Info(const Contesto& ctx) {
                     {"restrizioni", restrizioni}});
         return;
     }
-    if (demo)
-        std::cout << "*** ARCHIVIO DIMOSTRATIVO: estrazioni sintetiche, non reali ***\n";
+    if (demo) std::cout << "*** ARCHIVIO DIMOSTRATIVO: estrazioni sintetiche, non reali ***\n";
     std::cout << "Cartella del programma: " << a.PercorsoProgramma().string() << "\n\n"
               << "Lotto / 10eLotto\n"
               << "  Ultima estrazione memorizzata : " << lotto << "\n"
-              << "  Estrazioni in archivio        : " << a.NumeroEstrazioni() << " (dal "
-              << a.DataEstrazione(1) << ")\n\n"
+              << "  Estrazioni in archivio        : " << a.NumeroEstrazioni() << " (dal " << a.DataEstrazione(1)
+              << ")\n\n"
               << "SuperEnalotto\n"
               << "  Ultima estrazione memorizzata : " << super << "\n"
               << "  Estrazioni in archivio        : " << a.NumeroEstrazioniSuper() << " (dal "
@@ -102,7 +104,8 @@ void MostraEstrazione(const Contesto& ctx, const std::string& argomento) {
 
 void CercaData(const Contesto& ctx, const std::string& testo, bool precedente, bool super) {
     const archives::Archivio a = ctx.ApriArchivi();
-    const archives::RisultatoData r = super ? archives::ControllaDataSuper(testo, a, precedente) : archives::ControllaData(testo, a, precedente);
+    const archives::RisultatoData r =
+        super ? archives::ControllaDataSuper(testo, a, precedente) : archives::ControllaData(testo, a, precedente);
     if (r.ErroreData) throw Rifiuto{r.messaggio};
     if (ctx.json) {
         StampaJson({{"indice", r.IndiceTrovato}, {"data", r.DataTrovata}});
@@ -119,9 +122,10 @@ void Dieci(const Contesto& ctx, const std::string& argomento) {
     const archives::Risultato10eLotto r = archives::Estrazione10eLotto(rec);
     // Before the first draw of a wheel there is no 10eLotto draw: nothing to show.
     if (r.manca)
-        throw Rifiuta(fmt::format("Estrazione del 10eLotto inesistente per l'estrazione n. {} del {}: mancano i primi "
-                                  "due estratti di una ruota da Bari a Venezia.",
-                                  indice, rec.dataTesto()));
+        throw Rifiuta(
+            fmt::format("Estrazione del 10eLotto inesistente per l'estrazione n. {} del {}: mancano i primi "
+                        "due estratti di una ruota da Bari a Venezia.",
+                        indice, rec.dataTesto()));
     if (ctx.json) {
         nlohmann::json numeri = nlohmann::json::array();
         if (r.esito >= 0)
@@ -176,10 +180,11 @@ void Demo(const Contesto& ctx, const std::string& cartella) {
                     {"superenalotto", a.NumeroEstrazioniSuper()}});
         return;
     }
-    std::cout << fmt::format("Archivio dimostrativo creato in {}: {} estrazioni del Lotto dal {} al {}, "
-                             "{} estrazioni del SuperEnalotto.\n",
-                             a.PercorsoProgramma().string(), a.NumeroEstrazioni(), a.DataEstrazione(1),
-                             a.DataEstrazione(a.NumeroEstrazioni()), a.NumeroEstrazioniSuper());
+    std::cout << fmt::format(
+        "Archivio dimostrativo creato in {}: {} estrazioni del Lotto dal {} al {}, "
+        "{} estrazioni del SuperEnalotto.\n",
+        a.PercorsoProgramma().string(), a.NumeroEstrazioni(), a.DataEstrazione(1),
+        a.DataEstrazione(a.NumeroEstrazioni()), a.NumeroEstrazioniSuper());
 }
 
 }  // namespace

@@ -38,10 +38,11 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
             std::cerr << config::NullaDaEsportare << "\n";
             return;
         }
-        const auto modo = a.accoda ? config::ModoScrittura::Accoda
+        const auto modo = a.accoda        ? config::ModoScrittura::Accoda
                           : a.sovrascrivi ? config::ModoScrittura::Sovrascrivi
                                           : config::ModoScrittura::Nuovo;
-        if (archives::Messaggio m = config::ScriviReportSuFile(a.report, builder::ReportAlgoritmi(p, e, *cc.storia), modo);
+        if (archives::Messaggio m =
+                config::ScriviReportSuFile(a.report, builder::ReportAlgoritmi(p, e, *cc.storia), modo);
             !m.vuoto())
             throw Rifiuto{m, ErroreInterno};
         if (!ctx.json) {
@@ -87,10 +88,12 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
 
 void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
     auto a = std::make_shared<ArgomentiCostruttore>();
-    auto* c = app.add_subcommand("costruttore", "Ricerca degli algoritmi (il costruttore): casi della spia e algoritmi migliori");
+    auto* c = app.add_subcommand("costruttore",
+                                 "Ricerca degli algoritmi (il costruttore): casi della spia e algoritmi migliori");
     AggiungiOpzioniRicerca(c, a->ricerca);
     c->add_flag("--seleziona", a->seleziona, "Righe già selezionate");
-    c->add_option("--report", a->report, "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
+    c->add_option("--report", a->report,
+                  "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
     c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
     c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
     c->callback([&ctx, a] { Costruttore(ctx, *a); });

@@ -33,10 +33,10 @@ struct ArgomentiImpostazione {
 void Impostazione(const Contesto& ctx, const ArgomentiImpostazione& a) {
     config::FileIni ini = Impostazioni(ctx);
     const config::VoceImpostazione* voce = config::CercaImpostazione(a.sezione, a.chiave);
-    if (!voce)
-        throw Rifiuto{config::ControllaValoreImpostazione(a.sezione, a.chiave, "")};
+    if (!voce) throw Rifiuto{config::ControllaValoreImpostazione(a.sezione, a.chiave, "")};
     if (a.valore) {
-        if (archives::Messaggio m = config::ControllaValoreImpostazione(voce->sezione, voce->chiave, *a.valore); !m.vuoto())
+        if (archives::Messaggio m = config::ControllaValoreImpostazione(voce->sezione, voce->chiave, *a.valore);
+            !m.vuoto())
             throw Rifiuto{m};
         if (!config::ScriviImpostazione(ini, voce->sezione, voce->chiave, *a.valore))
             throw Rifiuta(fmt::format("Impossibile scrivere il file {}", ini.FileName()), ErroreInterno);
@@ -48,10 +48,8 @@ void Impostazione(const Contesto& ctx, const ArgomentiImpostazione& a) {
     const std::string predefinito = config::Predefinito(voce->sezione, voce->chiave, numero);
     const std::string valore = config::LeggiImpostazione(ini, voce->sezione, voce->chiave, predefinito);
     if (ctx.json) {
-        StampaJson({{"sezione", voce->sezione},
-                    {"chiave", voce->chiave},
-                    {"valore", valore},
-                    {"predefinito", predefinito}});
+        StampaJson(
+            {{"sezione", voce->sezione}, {"chiave", voce->chiave}, {"valore", valore}, {"predefinito", predefinito}});
         return;
     }
     std::cout << valore << "\n";

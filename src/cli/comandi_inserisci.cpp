@@ -62,7 +62,8 @@ void Inserisci(const Contesto& ctx, const ArgomentiInserisci& arg) {
     Inserimento ins(a, gioco);
     const int32_t totale = ins.TotaleEstrazioni();
     if (totale < 1) throw Rifiuta("L'archivio non contiene estrazioni: importarlo prima di inserire.");
-    const archives::Data ultima = *archives::Data::daTesto(arg.super ? a.DataEstrazione(totale, archives::ArchivioSuper) : a.DataEstrazione(totale));
+    const archives::Data ultima = *archives::Data::daTesto(arg.super ? a.DataEstrazione(totale, archives::ArchivioSuper)
+                                                                     : a.DataEstrazione(totale));
 
     std::vector<std::string> domande;
     auto chiedi = [&](const archives::Messaggio& domanda) {
@@ -73,12 +74,14 @@ void Inserisci(const Contesto& ctx, const ArgomentiInserisci& arg) {
     };
 
     const config::FileIni ini(ctx.FileImpostazioni().string());
-    const std::string giorni = config::LeggiImpostazione(ini, config::sezioni::Options, "Giorni estrazione",
-                                                         config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
+    const std::string giorni =
+        config::LeggiImpostazione(ini, config::sezioni::Options, "Giorni estrazione",
+                                  config::Predefinito(config::sezioni::Options, "Giorni estrazione"));
     if (arg.data.empty()) {
         if (archives::Messaggio m = ins.Nuova(giorni); !m.vuoto()) throw Rifiuto{m};
     } else {
-        if (arg.data.size() != 10 || !archives::DataAccettata(arg.data)) throw Rifiuta(std::string(archives::MessaggioFormatoData));
+        if (arg.data.size() != 10 || !archives::DataAccettata(arg.data))
+            throw Rifiuta(std::string(archives::MessaggioFormatoData));
         const archives::Data d = *archives::Data::daTesto(arg.data);
         if (archives::DataErrata(d.giorno, d.mese, d.anno)) throw Rifiuta(std::string(archives::MessaggioDataErrata));
         if (ultima < d) {
@@ -87,9 +90,10 @@ void Inserisci(const Contesto& ctx, const ArgomentiInserisci& arg) {
         } else {
             const int32_t indice = IndiceDellaData(a, d, arg.super);
             if (indice < 1)
-                throw Rifiuta(fmt::format("In archivio non c'è un'estrazione del {}: una nuova estrazione deve seguire "
-                                          "l'ultima memorizzata ({}).",
-                                          d.testo(), ultima.testo()));
+                throw Rifiuta(
+                    fmt::format("In archivio non c'è un'estrazione del {}: una nuova estrazione deve seguire "
+                                "l'ultima memorizzata ({}).",
+                                d.testo(), ultima.testo()));
             ins.Mostra(indice);
             ins.Correggi();
             // A correction overwrites a stored draw: the command line asks before it does.

@@ -121,8 +121,8 @@ void Importa(const Contesto& ctx, const std::string& file, bool super) {
     std::error_code ec;
     fs::create_directories(cartella / "Archivi", ec);
     if (ec)
-        throw Rifiuta(fmt::format("Impossibile creare la cartella {} : {}", (cartella / "Archivi").string(),
-                                  ec.message()));
+        throw Rifiuta(
+            fmt::format("Impossibile creare la cartella {} : {}", (cartella / "Archivi").string(), ec.message()));
     ArchivioScrittura a = ApriPerScrivere(ctx);
     StampaRiparazione(a.riparazione);
     const auto e = maintenance::ImportaDati(a.archivio, *dati, gioco);
@@ -140,16 +140,18 @@ void Importa(const Contesto& ctx, const std::string& file, bool super) {
         return;
     }
     std::cout << e.messaggio.testo << "\n"
-              << fmt::format("Estrazioni lette: {} (dal {} al {}); aggiunte: {}; estrazioni in archivio: {}; "
-                             "ultima estrazione memorizzata: {}\n",
-                             e.estrazioni, e.primaData, e.ultimaData, e.aggiunte, Conteggio(a.archivio, gioco),
-                             Ultima(a.archivio, gioco));
+              << fmt::format(
+                     "Estrazioni lette: {} (dal {} al {}); aggiunte: {}; estrazioni in archivio: {}; "
+                     "ultima estrazione memorizzata: {}\n",
+                     e.estrazioni, e.primaData, e.ultimaData, e.aggiunte, Conteggio(a.archivio, gioco),
+                     Ultima(a.archivio, gioco));
     // The workbench opens only on all three archives: say what is still missing.
     if (a.archivio.NumeroEstrazioniSuper() == 0)
         std::cout << "Per aprire il programma serve anche l'archivio del SuperEnalotto: importarlo con "
                      "gorgo-cli importa FILE --super\n";
     else if (a.archivio.NumeroEstrazioni() == 0)
-        std::cout << "Per aprire il programma serve anche l'archivio del Lotto: importarlo con gorgo-cli importa FILE\n";
+        std::cout
+            << "Per aprire il programma serve anche l'archivio del Lotto: importarlo con gorgo-cli importa FILE\n";
 }
 
 void EsportaTesto(const Contesto& ctx, const std::string& file) {
@@ -159,9 +161,9 @@ void EsportaTesto(const Contesto& ctx, const std::string& file) {
     if (ar.NumeroEstrazioni() < 1) throw Rifiuta("L'archivio delle estrazioni del Lotto è vuoto.");
     if (maintenance::FileDellArchivio(ar, file)) throw Rifiuto{maintenance::MessaggioFileDellArchivio(file)};
     maintenance::EsportaTesto(ar, file);
-    const std::string testo = fmt::format("Archivio del Lotto esportato in {}: {} estrazioni dal {} al {}.", file,
-                                          ar.NumeroEstrazioni(), ar.DataEstrazione(1),
-                                          ar.DataEstrazione(ar.NumeroEstrazioni()));
+    const std::string testo =
+        fmt::format("Archivio del Lotto esportato in {}: {} estrazioni dal {} al {}.", file, ar.NumeroEstrazioni(),
+                    ar.DataEstrazione(1), ar.DataEstrazione(ar.NumeroEstrazioni()));
     if (ctx.json) {
         StampaJson({{"messaggio", testo},
                     {"esportate", ar.NumeroEstrazioni()},
@@ -195,8 +197,9 @@ void AggiungiComandiManutenzione(CLI::App& app, Contesto& ctx) {
     esporta->callback([&ctx, a] { Esporta(ctx, a->file, a->da); });
 
     auto* importa = app.add_subcommand(
-        "importa", "Importa un archivio pubblico in formato testo (o uno zip che lo contiene): crea l'archivio se "
-                   "manca, altrimenti aggiunge le estrazioni successive all'ultima memorizzata");
+        "importa",
+        "Importa un archivio pubblico in formato testo (o uno zip che lo contiene): crea l'archivio se "
+        "manca, altrimenti aggiunge le estrazioni successive all'ultima memorizzata");
     importa->add_option("file", a->file, "File di testo o zip")->required();
     importa->add_flag("--super", a->super,
                       "Elenco del SuperEnalotto (data, sei numeri, Jolly, SuperStar; tabulazioni o punti e virgola)");

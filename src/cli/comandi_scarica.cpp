@@ -1,7 +1,7 @@
 // scarica: the Internet update from Url, and the public archive from UrlStorico.
 
-#include <QCoreApplication>
 #include <fmt/format.h>
+#include <QCoreApplication>
 #include <iostream>
 #include <memory>
 
@@ -49,7 +49,8 @@ std::string LeggiOpzione(const Contesto& ctx, std::string_view chiave) {
 }
 
 // A refusal: with --json the object on stdout too, so that scripts read what failed.
-[[noreturn]] void RifiutaScarica(const Contesto& ctx, nlohmann::json j, const archives::Messaggio& m, const std::string& dettaglio) {
+[[noreturn]] void RifiutaScarica(const Contesto& ctx, nlohmann::json j, const archives::Messaggio& m,
+                                 const std::string& dettaglio) {
     std::string testo = m.testo;
     if (!dettaglio.empty() && testo.find(dettaglio) == std::string::npos) testo += "\n" + dettaglio;
     if (ctx.json) {
@@ -83,8 +84,10 @@ void AggiornaDaInternet(const Contesto& ctx, const ArgomentiScarica& a) {
         m::AggiornamentoInternet(archivio, r.PerIlNucleo(), gioco, copia, m::RispostaAllineamento::Si);
     if (e.erroreCopia) throw Rifiuto{e.messaggio, ErroreInterno};
     if (e.scaricamento.esito != m::EsitoScaricamento::Pronto)
-        RifiutaScarica(ctx, j, e.messaggio.vuoto() ? archives::Messaggio{e.testoStato, "Errore", archives::Icona::Stop} : e.messaggio,
-                       e.dettaglio);
+        RifiutaScarica(
+            ctx, j,
+            e.messaggio.vuoto() ? archives::Messaggio{e.testoStato, "Errore", archives::Icona::Stop} : e.messaggio,
+            e.dettaglio);
     j["copia_locale"] = copia.string();
     j["ultima_file"] = e.controllo.ultimaData;
     if (e.stato == m::StatoInternet::NienteDiNuovo) {
@@ -109,8 +112,9 @@ void ScaricaStorico(const Contesto& ctx, const ArgomentiScarica& a) {
     nlohmann::json j{{"indirizzo", indirizzo}, {"gioco", "lotto"}};
     if (indirizzo.empty())
         RifiutaScarica(ctx, j,
-                archives::Messaggio{std::string(m::TestoStoricoNonImpostato), std::string(m::TitoloStorico), archives::Icona::Esclamazione},
-                "gorgo-cli impostazione Options UrlStorico http://...");
+                       archives::Messaggio{std::string(m::TestoStoricoNonImpostato), std::string(m::TitoloStorico),
+                                           archives::Icona::Esclamazione},
+                       "gorgo-cli impostazione Options UrlStorico http://...");
     // The public archive may build the Lotto archive from nothing: an empty one is no refusal.
     archives::Archivio archivio = archives::Archivio::Apri(ctx.PercorsoProgramma(), archives::ModoApertura::Lettura);
     if (archives::Messaggio mi = archives::VerificaIntegrita(archivio); !mi.vuoto()) throw Rifiuto{mi};
@@ -152,8 +156,7 @@ void AggiungiComandiScarica(CLI::App& app, Contesto& ctx) {
     s->callback([&ctx, a] {
         if (a->super && a->storico)
             throw Rifiuta("Le opzioni --super e --storico non vanno insieme: l'archivio storico è quello del Lotto.");
-        if (a->secondi < 1 || a->secondi > 3600)
-            throw Rifiuta("Il tempo massimo va da 1 a 3600 secondi.");
+        if (a->secondi < 1 || a->secondi > 3600) throw Rifiuta("Il tempo massimo va da 1 a 3600 secondi.");
         if (a->storico)
             ScaricaStorico(ctx, *a);
         else

@@ -1,8 +1,8 @@
 // verifica and previsioni: the replay of one algorithm with its recap, and the forecasts of a
 // set of algorithms, each named by its key under the parameters of its search.
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <algorithm>
 #include <iostream>
 #include <optional>
 
@@ -71,7 +71,8 @@ void ApplicaChiave(const std::string& chiave, const ArgomentiRicerca& a, builder
     using builder::TipoSpia;
     const std::optional<builder::FormaChiave> forma = builder::FormaDellaChiave(chiave);
     const std::optional<builder::CodaChiave> coda = builder::LeggiCoda(chiave);
-    if (!forma || !coda) throw Rifiuto{{std::string(builder::AlgoritmoMancante), "Errore", archives::Icona::Esclamazione}};
+    if (!forma || !coda)
+        throw Rifiuto{{std::string(builder::AlgoritmoMancante), "Errore", archives::Icona::Esclamazione}};
 
     TipoRicerca tipo = TipoRicerca::Ambate;
     switch (*forma) {
@@ -81,9 +82,10 @@ void ApplicaChiave(const std::string& chiave, const ArgomentiRicerca& a, builder
         case builder::FormaChiave::Terzina:
             // Both kinds of terzine share the shape: only the user can say which.
             if (a.tipo.empty())
-                throw Rifiuta(fmt::format("La chiave \"{}\" è di una terzina: indicare --tipo terzine-ambo oppure "
-                                          "--tipo terzine-terno.",
-                                          chiave));
+                throw Rifiuta(
+                    fmt::format("La chiave \"{}\" è di una terzina: indicare --tipo terzine-ambo oppure "
+                                "--tipo terzine-terno.",
+                                chiave));
             tipo = a.tipo == "terzine-terno" ? TipoRicerca::TerzineTerno : TipoRicerca::TerzineAmbo;
             break;
     }
@@ -103,9 +105,10 @@ void ApplicaChiave(const std::string& chiave, const ArgomentiRicerca& a, builder
     } else if (sommaODifferenza) {
         if (a.spia != "somma" && a.spia != "differenza") {
             if (a.spia.empty())
-                throw Rifiuta(fmt::format("La chiave \"{}\" è di una spia somma o differenza: indicare --spia somma "
-                                          "oppure --spia differenza.",
-                                          chiave));
+                throw Rifiuta(
+                    fmt::format("La chiave \"{}\" è di una spia somma o differenza: indicare --spia somma "
+                                "oppure --spia differenza.",
+                                chiave));
             Contraddizione(chiave, "una spia somma o differenza", "--spia " + a.spia);
         }
     } else if (!a.spia.empty() && a.spia != "numero") {
@@ -128,9 +131,10 @@ void ApplicaChiave(const std::string& chiave, const ArgomentiRicerca& a, builder
     if (prima && (prima->tipoRicerca != p.tipoRicerca || prima->tipoSpia != p.tipoSpia ||
                   prima->valoreSpia != p.valoreSpia || prima->amboSpia != p.amboSpia ||
                   prima->posizioneDeterminata != p.posizioneDeterminata || prima->posizioniSpia != p.posizioniSpia))
-        throw Rifiuta(fmt::format("La chiave \"{}\" è di un'altra ricerca: le chiavi di un calcolo devono avere lo stesso "
-                                  "tipo, la stessa spia e le stesse posizioni.",
-                                  chiave));
+        throw Rifiuta(
+            fmt::format("La chiave \"{}\" è di un'altra ricerca: le chiavi di un calcolo devono avere lo stesso "
+                        "tipo, la stessa spia e le stesse posizioni.",
+                        chiave));
     if (!prima) prima = p;
 }
 
@@ -158,8 +162,8 @@ void Verifica(const Contesto& ctx, const ArgomentiVerifica& a) {
     const std::string& chiave = a.chiavi.front();
     const builder::ContestoRicerca contesto = x.cc.Contesto();
     const std::string descrizione = builder::DescrizioneDaChiave(chiave, x.p, contesto.terzine);
-    const builder::EsitoVerifica v = builder::VerificaAlgoritmo(x.p, contesto, descrizione, chiave, SpiaDellaRiga(x.p),
-                                                                false, x.p.colpiDaGiocare);
+    const builder::EsitoVerifica v =
+        builder::VerificaAlgoritmo(x.p, contesto, descrizione, chiave, SpiaDellaRiga(x.p), false, x.p.colpiDaGiocare);
     if (!v.errore.vuoto()) throw Rifiuto{v.errore};
     const builder::EsitoRiepilogo r = builder::RiepilogoTecnica(x.p, contesto, v, descrizione, chiave);
     if (!r.errore.vuoto()) throw Rifiuto{r.errore};
@@ -266,13 +270,15 @@ void AggiungiComandiVerifica(CLI::App& app, Contesto& ctx) {
     c->add_option("--colpi-da-giocare", v->colpiDaGiocare,
                   "Previsione in corso con al massimo questi colpi al termine (predefinito 9)");
     AggiungiOpzioniRicerca(c, v->ricerca);
-    c->footer("Il tipo di ricerca, la spia e le sue posizioni si leggono dalla chiave; --tipo serve per le "
-              "terzine (x ambo o x terno), --spia per somma e differenza.");
+    c->footer(
+        "Il tipo di ricerca, la spia e le sue posizioni si leggono dalla chiave; --tipo serve per le "
+        "terzine (x ambo o x terno), --spia per somma e differenza.");
     c->callback([&ctx, v] { Verifica(ctx, *v); });
 
     auto p = std::make_shared<ArgomentiVerifica>();
-    auto* d = app.add_subcommand("previsioni", "Calcolo previsioni degli algoritmi: ritardo, ritardo massimo, "
-                                               "frequenza e indice di convenienza");
+    auto* d = app.add_subcommand("previsioni",
+                                 "Calcolo previsioni degli algoritmi: ritardo, ritardo massimo, "
+                                 "frequenza e indice di convenienza");
     d->add_option("--chiave", p->chiavi, "Chiave di un algoritmo; ripetere per più algoritmi")->required();
     d->add_option("--colpi-da-giocare", p->colpiDaGiocare, "Come per verifica (predefinito 9)");
     AggiungiOpzioniRicerca(d, p->ricerca);

@@ -21,7 +21,8 @@ std::string TraduciErrore(const CLI::ParseError& e) {
         return "Manca il parametro obbligatorio " + (p == std::string::npos ? testo : testo.substr(0, p)) + ".";
     }
     if (dynamic_cast<const CLI::ExtrasError*>(&e)) return "Parametro non previsto: " + dopo(": ");
-    if (dynamic_cast<const CLI::ConversionError*>(&e) || dynamic_cast<const CLI::ValidationError*>(&e)) return "Valore non valido: " + dopo(": ");
+    if (dynamic_cast<const CLI::ConversionError*>(&e) || dynamic_cast<const CLI::ValidationError*>(&e))
+        return "Valore non valido: " + dopo(": ");
     if (dynamic_cast<const CLI::ArgumentMismatch*>(&e)) return "Numero di valori errato: " + testo;
     return "Comando non valido: " + testo;
 }
@@ -30,9 +31,10 @@ std::string TraduciErrore(const CLI::ParseError& e) {
 
 int main(int argc, char** argv) {
     gorgo::cli::Contesto ctx;
-    CLI::App app{"gorgo-cli: il banco di lavoro per Lotto, 10eLotto e SuperEnalotto da riga di comando.\n"
-                 "Workbench for the Italian number games, from the command line.",
-                 "gorgo-cli"};
+    CLI::App app{
+        "gorgo-cli: il banco di lavoro per Lotto, 10eLotto e SuperEnalotto da riga di comando.\n"
+        "Workbench for the Italian number games, from the command line.",
+        "gorgo-cli"};
     app.option_defaults()->group("Opzioni");
     app.set_help_flag("-h,--help", "Mostra questo aiuto ed esce");
     app.set_help_all_flag("--aiuto-completo", "Mostra l'aiuto di tutti i comandi ed esce");

@@ -2,10 +2,10 @@
 
 #include "cli/parametri_ricerca.h"
 
+#include <fmt/format.h>
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
-#include <fmt/format.h>
 #include <map>
 
 #include "config/impostazioni.h"
@@ -27,11 +27,13 @@ std::array<bool, 12> LeggiRuote(const std::string& testo, const char* opzione) {
         const std::string sigla = t.substr(inizio, fine - inizio);
         bool trovata = false;
         for (int w = 1; w <= archives::NumeroRuote; ++w)
-            if (sigla == archives::SigleRuota[static_cast<size_t>(w)] || (w == 8 && sigla == "RM")) r[static_cast<size_t>(w)] = trovata = true;
+            if (sigla == archives::SigleRuota[static_cast<size_t>(w)] || (w == 8 && sigla == "RM"))
+                r[static_cast<size_t>(w)] = trovata = true;
         if (!trovata)
-            throw Rifiuta(fmt::format("{}: ruota \"{}\" sconosciuta. Indicare tutte, tutte+nz oppure le sigle "
-                                      "BA,CA,FI,GE,MI,NA,PA,RO,TO,VE,NZ separate da virgole.",
-                                      opzione, sigla));
+            throw Rifiuta(
+                fmt::format("{}: ruota \"{}\" sconosciuta. Indicare tutte, tutte+nz oppure le sigle "
+                            "BA,CA,FI,GE,MI,NA,PA,RO,TO,VE,NZ separate da virgole.",
+                            opzione, sigla));
         inizio = fine + 1;
     }
     return r;
@@ -52,25 +54,30 @@ void AggiungiOpzioniRicerca(CLI::App* c, ArgomentiRicerca& a) {
     c->add_option("--spia", a.spia, "Tipo di spia")->check(CLI::IsMember({"numero", "somma", "differenza", "ambo"}));
     c->add_option("--modo", a.modo, "fisso, tutti (tutti i numeri/somme/differenze), indice (solo indice mensile)")
         ->check(CLI::IsMember({"fisso", "tutti", "indice"}));
-    c->add_option("--valore", a.valore, "Numero, somma o differenza spia, da 1 a 90 (predefinito 1)")->type_name("NUMERO");
+    c->add_option("--valore", a.valore, "Numero, somma o differenza spia, da 1 a 90 (predefinito 1)")
+        ->type_name("NUMERO");
     c->add_option("--ambo", a.ambo, "Ambo spia, come 12-34");
     c->add_flag("--tutti-gli-ambi", a.tuttiGliAmbi, "Con l'ambo spia: tutti gli ambi");
     c->add_option("--posizioni", a.posizioni, "Posizione determinata della spia, come 135 (predefinito: tutte)");
     c->add_option("--da", a.da, "Inizio del periodo GG/MM/AAAA (predefinito: dieci anni prima dell'ultima)");
     c->add_option("--a", a.a, "Fine del periodo GG/MM/AAAA (predefinito: l'ultima estrazione)");
-    c->add_option("--ultime", a.ultime, "Le ultime n sortite della spia (da 1 a 90) invece del periodo")->type_name("NUMERO");
+    c->add_option("--ultime", a.ultime, "Le ultime n sortite della spia (da 1 a 90) invece del periodo")
+        ->type_name("NUMERO");
     c->add_option("--indice-mese", a.indiceMese, "U (ultima del mese, predefinito), 1..21 oppure tutti");
-    c->add_option("--ruote-ricerca", a.ruoteRicerca, "tutte, tutte+nz o sigle BA,CA,...,NZ (predefinito: impostazioni)");
+    c->add_option("--ruote-ricerca", a.ruoteRicerca,
+                  "tutte, tutte+nz o sigle BA,CA,...,NZ (predefinito: impostazioni)");
     c->add_option("--ruote-gioco", a.ruoteGioco, "Come --ruote-ricerca");
     c->add_option("--colpi", a.colpi, "Colpi di gioco, al massimo tre cifre (predefinito 9)")->type_name("NUMERO");
-    c->add_flag("--senza-ultime", a.senzaUltime, "Non usare come spia le ultime estrazioni del periodo (\"Controlla le ultime 9 estraz.\" spento)");
+    c->add_flag("--senza-ultime", a.senzaUltime,
+                "Non usare come spia le ultime estrazioni del periodo (\"Controlla le ultime 9 estraz.\" spento)");
     c->add_option("--tipo", a.tipo, "ambate (predefinito), ambi, terzine-ambo, terzine-terno, codici")
         ->check(CLI::IsMember({"ambate", "ambi", "terzine-ambo", "terzine-terno", "codici"}));
     c->add_flag("--solo-posizione", a.soloPosizione, "Solo posizione sul q.e.");
     c->add_option("--posizioni-valide", a.posizioniValide, "Validità dell'ambata, come 12345");
     c->add_option("--sorte", a.sorte, "Codici: 2 (ambi) o 3 (terni)")->check(CLI::IsMember({2, 3}));
     c->add_option("--operazioni", a.operazioni, "Codici: operazioni fra +, - e x (predefinito +-x)");
-    c->add_option("--terzine", a.terzine, "File delle terzine ridotte (predefinito: impostazione FileTerzine o Terzine.txt)");
+    c->add_option("--terzine", a.terzine,
+                  "File delle terzine ridotte (predefinito: impostazione FileTerzine o Terzine.txt)");
 }
 
 std::optional<int> LeggiCasella(const std::string& testo, size_t cifre) {
@@ -83,11 +90,14 @@ std::optional<int> LeggiCasella(const std::string& testo, size_t cifre) {
 builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const config::FileIni& ini) {
     using namespace builder;
     ParametriRicerca p;
-    const std::map<std::string, TipoSpia> spie = {{"numero", TipoSpia::Numero}, {"somma", TipoSpia::Somma},
-                                                  {"differenza", TipoSpia::Differenza}, {"ambo", TipoSpia::Ambo}};
-    const std::map<std::string, ModoSpia> modi = {{"fisso", ModoSpia::Fisso}, {"tutti", ModoSpia::Tutti},
-                                                  {"indice", ModoSpia::SoloIndiceMensile}};
-    const std::map<std::string, TipoRicerca> tipi = {{"ambate", TipoRicerca::Ambate}, {"ambi", TipoRicerca::Ambi},
+    const std::map<std::string, TipoSpia> spie = {{"numero", TipoSpia::Numero},
+                                                  {"somma", TipoSpia::Somma},
+                                                  {"differenza", TipoSpia::Differenza},
+                                                  {"ambo", TipoSpia::Ambo}};
+    const std::map<std::string, ModoSpia> modi = {
+        {"fisso", ModoSpia::Fisso}, {"tutti", ModoSpia::Tutti}, {"indice", ModoSpia::SoloIndiceMensile}};
+    const std::map<std::string, TipoRicerca> tipi = {{"ambate", TipoRicerca::Ambate},
+                                                     {"ambi", TipoRicerca::Ambi},
                                                      {"terzine-ambo", TipoRicerca::TerzineAmbo},
                                                      {"terzine-terno", TipoRicerca::TerzineTerno},
                                                      {"codici", TipoRicerca::Codici}};
@@ -162,8 +172,9 @@ builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const 
 
 builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio, const config::FileIni& ini,
                                              const ArgomentiRicerca& a, const builder::ParametriRicerca& p) {
-    builder::ContestoCostruttore cc = builder::PreparaCostruttore(
-        archivio.Storia(), ini, archivio.PercorsoProgramma(), a.terzine.empty() ? std::nullopt : std::optional(a.terzine));
+    builder::ContestoCostruttore cc =
+        builder::PreparaCostruttore(archivio.Storia(), ini, archivio.PercorsoProgramma(),
+                                    a.terzine.empty() ? std::nullopt : std::optional(a.terzine));
     if (const builder::RicercaValidata v = builder::ValidaRicerca(p, *cc.storia, &cc.terzine, cc.fileTerzine);
         !v.errore.vuoto())
         throw Rifiuto{v.errore};

@@ -121,8 +121,7 @@ std::string Componi(Decimale d, const Figura& f) {
     if (static_cast<int>(interi.size()) < f.minimoInteri)
         interi.insert(0, static_cast<std::size_t>(f.minimoInteri) - interi.size(), '0');
     // Trailing zeros go where their placeholder is "#".
-    while (!decimali.empty() && decimali.back() == '0' && f.decimali[decimali.size() - 1] == '#')
-        decimali.pop_back();
+    while (!decimali.empty() && decimali.back() == '0' && f.decimali[decimali.size() - 1] == '#') decimali.pop_back();
 
     std::string out;
     if (d.negativo) out += '-';

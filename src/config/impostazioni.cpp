@@ -106,7 +106,6 @@ constexpr Finestra kFinestre[] = {
     {"frm10Estrazioni10eLotto", {"Consulta10eLotto10Left", "Consulta10eLotto10Top"}},
 };
 
-
 std::optional<int64_t> Intero(std::string_view t) {
     while (!t.empty() && t.front() == ' ') t.remove_prefix(1);
     while (!t.empty() && t.back() == ' ') t.remove_suffix(1);
@@ -134,17 +133,13 @@ const VoceImpostazione* CercaImpostazione(std::string_view sezione, std::string_
     return nullptr;
 }
 
-std::string Predefinito(std::string_view sezione, std::string_view chiave, int32_t numeroEstrazioni,
-                        int32_t centrato) {
+std::string Predefinito(std::string_view sezione, std::string_view chiave, int32_t numeroEstrazioni, int32_t centrato) {
     const VoceImpostazione* v = CercaImpostazione(sezione, chiave);
     if (!v) return {};
     switch (v->tipo) {
-        case TipoPredefinito::NumeroEstrazioni:
-            return fmt::format("{}", numeroEstrazioni);
-        case TipoPredefinito::Centrato:
-            return fmt::format("{}", centrato);
-        case TipoPredefinito::Testo:
-            break;
+        case TipoPredefinito::NumeroEstrazioni: return fmt::format("{}", numeroEstrazioni);
+        case TipoPredefinito::Centrato: return fmt::format("{}", centrato);
+        case TipoPredefinito::Testo: break;
     }
     return std::string(v->predefinito);
 }
@@ -232,17 +227,18 @@ bool GiornoMese(std::string_view v) {
 
 }  // namespace
 
-archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view chiave, std::string_view valore) {
+archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view chiave,
+                                                std::string_view valore) {
     auto errore = [&](std::string_view atteso) {
-        return archives::Messaggio{fmt::format("Valore non valido per {} nella sezione {}: \"{}\". {}", chiave, sezione,
-                                     valore, atteso),
-                         "Errore", archives::Icona::Esclamazione};
+        return archives::Messaggio{
+            fmt::format("Valore non valido per {} nella sezione {}: \"{}\". {}", chiave, sezione, valore, atteso),
+            "Errore", archives::Icona::Esclamazione};
     };
     const VoceImpostazione* v = CercaImpostazione(sezione, chiave);
     if (!v)
-        return {fmt::format("La chiave \"{}\" della sezione \"{}\" non è un'impostazione del programma.", chiave,
-                            sezione),
-                "Errore", archives::Icona::Esclamazione};
+        return {
+            fmt::format("La chiave \"{}\" della sezione \"{}\" non è un'impostazione del programma.", chiave, sezione),
+            "Errore", archives::Icona::Esclamazione};
     if (const std::size_t n = NumeroCaratteri(valore); n > LunghezzaMassimaValore)
         return {fmt::format("Il valore di {} è troppo lungo ({} caratteri): il massimo è {}.", chiave, n,
                             LunghezzaMassimaValore),
@@ -263,20 +259,23 @@ archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::s
                    ? archives::Messaggio{}
                    : errore("Serve un numero intero positivo.");
     if (k == "RuoteConNz" || k == "RuoteConNzGioco" || k == "Ruota" || k == "Ruote")
-        return SoloLettere(valore, "YN", 11) ? archives::Messaggio{} : errore("Servono 11 lettere Y o N, una per ruota.");
+        return SoloLettere(valore, "YN", 11) ? archives::Messaggio{}
+                                             : errore("Servono 11 lettere Y o N, una per ruota.");
     if (k == "Giorni estrazione" || k == "Giorni")
         return SoloLettere(valore, "YN", 7) ? archives::Messaggio{}
                                             : errore("Servono 7 lettere Y o N, una per giorno dalla domenica.");
     if (k == "Mesi")
-        return SoloLettere(valore, "YN", 12) ? archives::Messaggio{} : errore("Servono 12 lettere Y o N, una per mese.");
+        return SoloLettere(valore, "YN", 12) ? archives::Messaggio{}
+                                             : errore("Servono 12 lettere Y o N, una per mese.");
     if (k == "Giorno" || k == "Mese" || k == "Periodo" || k == "Numero")
         return valore == "Y" || valore == "N" || (k == "Numero" && valore.empty()) ? archives::Messaggio{}
-                                                                                    : errore("Serve Y oppure N.");
+                                                                                   : errore("Serve Y oppure N.");
     if (k == "Numeri" || k == "NumeriTordelli")
         return valore.empty() || SoloLettere(valore, "01", 90) ? archives::Messaggio{}
                                                                : errore("Servono 90 cifre 0 o 1, una per numero.");
     if (k == "Dal" || k == "Al")
-        return GiornoMese(valore) ? archives::Messaggio{} : errore("Serve il giorno in due cifre seguito dal mese, come 01gennaio.");
+        return GiornoMese(valore) ? archives::Messaggio{}
+                                  : errore("Serve il giorno in due cifre seguito dal mese, come 01gennaio.");
     if (k == "Show Tips at Startup")
         return valore == "0" || valore == "1" ? archives::Messaggio{} : errore("Serve 1 oppure 0.");
     if (k == "Minimizza" || k == "Riepilogo")
@@ -291,7 +290,8 @@ archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::s
     if (k == "Url") {
         // As the address dialog: "http://" in front when missing, then at least 12 characters.
         const std::string url = valore.starts_with("http") ? std::string(valore) : "http://" + std::string(valore);
-        return url.size() >= 12 ? archives::Messaggio{} : archives::Messaggio{"Url non valida", "", archives::Icona::Nessuna};
+        return url.size() >= 12 ? archives::Messaggio{}
+                                : archives::Messaggio{"Url non valida", "", archives::Icona::Nessuna};
     }
     return {};
 }

@@ -59,7 +59,8 @@ std::string Predefinito(std::string_view sezione, std::string_view chiave, int32
 // Checks a value before it is written from outside the screens (the command line): the key
 // must be in the table and the value of the form its readers expect. An empty message when
 // the value can be written.
-archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view chiave, std::string_view valore);
+archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view chiave,
+                                                std::string_view valore);
 // The longest value the settings give back whole.
 inline constexpr std::size_t LunghezzaMassimaValore = 1000;
 

@@ -36,7 +36,6 @@ std::string_view TogliSpazi(std::string_view s) {
     return s;
 }
 
-
 bool Utf8Valido(std::string_view s) {
     const auto* p = reinterpret_cast<const unsigned char*>(s.data());
     const auto* fine = p + s.size();
@@ -166,8 +165,7 @@ std::optional<std::size_t> TrovaSezione(const Documento& doc, std::string_view s
 }
 
 // The raw value as the profile reader finds it: first section of that name, first key in it.
-std::optional<std::string> ValoreGrezzo(const Documento& doc, std::string_view sezione,
-                                        std::string_view chiave) {
+std::optional<std::string> ValoreGrezzo(const Documento& doc, std::string_view sezione, std::string_view chiave) {
     const auto intestazione = TrovaSezione(doc, sezione);
     if (!intestazione) return std::nullopt;
     for (std::size_t i = *intestazione + 1; i < doc.righe.size(); ++i) {
@@ -270,8 +268,7 @@ bool FileIni::SetValue(std::string_view chiave, std::string_view valore) {
     return Scrivi(applicationKey_, chiave, valore);
 }
 
-std::string FileIni::Leggi(std::string_view sezione, std::string_view chiave,
-                           std::string_view predefinito) const {
+std::string FileIni::Leggi(std::string_view sezione, std::string_view chiave, std::string_view predefinito) const {
     const Documento doc = Carica(fileName_);
     const auto trovato = ValoreGrezzo(doc, TogliBianchi(sezione), TogliBianchi(chiave));
     // The profile reader drops trailing blanks from the default it hands back.
@@ -304,8 +301,7 @@ bool FileIni::Scrivi(std::string_view sezione, std::span<const CoppiaChiaveValor
     Documento doc = Carica(fileName_);
     if (doc.illeggibile) return false;
     const std::string prima = Serializza(doc);
-    for (const auto& [chiave, valore] : valori)
-        Imposta(doc, sezione, TogliBianchi(chiave), ValoreScrivibile(valore));
+    for (const auto& [chiave, valore] : valori) Imposta(doc, sezione, TogliBianchi(chiave), ValoreScrivibile(valore));
     const std::string dopo = Serializza(doc);
     if (doc.esiste && dopo == prima) return true;
     return ScriviAtomico(fileName_, dopo);
@@ -316,8 +312,7 @@ std::string LeggiImpostazione(const FileIni& ini, std::string_view sezione, std:
     return ini.Leggi(sezione, chiave, predefinito);
 }
 
-bool ScriviImpostazione(FileIni& ini, std::string_view sezione, std::string_view chiave,
-                        std::string_view valore) {
+bool ScriviImpostazione(FileIni& ini, std::string_view sezione, std::string_view chiave, std::string_view valore) {
     return ini.Scrivi(sezione, chiave, valore);
 }
 
@@ -327,8 +322,8 @@ char Minuscola(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A'
 }  // namespace
 
 bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(),
-                                              [](char x, char y) { return Minuscola(x) == Minuscola(y); });
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return Minuscola(x) == Minuscola(y); });
 }
 
 }  // namespace gorgo::config

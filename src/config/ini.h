@@ -46,7 +46,6 @@ bool UgualiSenzaMaiuscole(std::string_view a, std::string_view b);
 
 std::string LeggiImpostazione(const FileIni& ini, std::string_view sezione, std::string_view chiave,
                               std::string_view predefinito);
-bool ScriviImpostazione(FileIni& ini, std::string_view sezione, std::string_view chiave,
-                        std::string_view valore);
+bool ScriviImpostazione(FileIni& ini, std::string_view sezione, std::string_view chiave, std::string_view valore);
 
 }  // namespace gorgo::config

@@ -125,8 +125,7 @@ std::vector<RigaTesto> IntestazionePagina(std::string_view titolo1, std::string_
 namespace {
 
 std::string Motivo(std::error_code ec) {
-    if (ec == std::errc::no_such_file_or_directory || ec == std::errc::not_a_directory)
-        return "la cartella non esiste";
+    if (ec == std::errc::no_such_file_or_directory || ec == std::errc::not_a_directory) return "la cartella non esiste";
     if (ec == std::errc::permission_denied || ec == std::errc::operation_not_permitted ||
         ec == std::errc::read_only_file_system)
         return "accesso negato";
@@ -275,8 +274,7 @@ archives::Messaggio Scrivi(const fs::path& percorso, std::string_view dati, Modo
             auto vero = fs::is_symlink(percorso, ec) ? fs::canonical(percorso, ec) : percorso;
             return ScriviNuovo(ec ? percorso : vero, dati, true);
         }
-        case ModoScrittura::Accoda:
-            return esiste ? Accoda(percorso, dati) : ScriviNuovo(percorso, dati, false);
+        case ModoScrittura::Accoda: return esiste ? Accoda(percorso, dati) : ScriviNuovo(percorso, dati, false);
     }
     return {};
 }
@@ -284,19 +282,17 @@ archives::Messaggio Scrivi(const fs::path& percorso, std::string_view dati, Modo
 }  // namespace
 
 archives::Messaggio ScriviReportSuFile(const fs::path& percorso, std::span<const RigaTesto> righe, ModoScrittura modo) {
-    return Scrivi(percorso,
-                  Contenuto(righe, [](const RigaTesto& r) -> const std::string& { return r.testo; }), modo);
+    return Scrivi(percorso, Contenuto(righe, [](const RigaTesto& r) -> const std::string& { return r.testo; }), modo);
 }
 
 archives::Messaggio ScriviReportSuFile(const fs::path& percorso, std::span<const std::string> righe,
-                             ModoScrittura modo) {
-    return Scrivi(percorso, Contenuto(righe, [](const std::string& r) -> const std::string& { return r; }),
-                  modo);
+                                       ModoScrittura modo) {
+    return Scrivi(percorso, Contenuto(righe, [](const std::string& r) -> const std::string& { return r; }), modo);
 }
 
 archives::Messaggio DomandaInCalce(std::string_view nome) {
-    return {fmt::format("Il file {} è già esistente. Le informazioni vanno aggiunte in calce ?", nome),
-            "Conferma", archives::Icona::Domanda};
+    return {fmt::format("Il file {} è già esistente. Le informazioni vanno aggiunte in calce ?", nome), "Conferma",
+            archives::Icona::Domanda};
 }
 
 archives::Messaggio DomandaSovrascrivi(std::string_view nome) {

@@ -112,11 +112,11 @@ enum class ModoScrittura {
 // creates no file. Returns an empty message on success, else the error to show; a file
 // that fails is left as it was (an append is cut back to its old length).
 archives::Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, std::span<const RigaTesto> righe,
-                             ModoScrittura modo);
+                                       ModoScrittura modo);
 archives::Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, std::span<const std::string> righe,
-                             ModoScrittura modo);
+                                       ModoScrittura modo);
 inline archives::Messaggio ScriviReportSuFile(const std::filesystem::path& percorso, const ReportTesto& report,
-                                    ModoScrittura modo) {
+                                              ModoScrittura modo) {
     return ScriviReportSuFile(percorso, std::span<const RigaTesto>(report.righe()), modo);
 }
 

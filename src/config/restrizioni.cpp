@@ -43,8 +43,6 @@ std::size_t DopoCaratteri(std::string_view s, std::size_t n) {
 std::string_view Sinistra(std::string_view s, std::size_t n) { return s.substr(0, DopoCaratteri(s, n)); }
 std::string_view DalCarattere(std::string_view s, std::size_t n) { return s.substr(DopoCaratteri(s, n - 1)); }
 
-
-
 std::optional<int> GiornoDi(std::string_view dueCaratteri) {
     std::string_view t = dueCaratteri;
     while (!t.empty() && t.front() == ' ') t.remove_prefix(1);
@@ -53,8 +51,7 @@ std::optional<int> GiornoDi(std::string_view dueCaratteri) {
         negativo = t.front() == '-';
         t.remove_prefix(1);
     }
-    if (t.empty() || !std::all_of(t.begin(), t.end(), [](char c) { return c >= '0' && c <= '9'; }))
-        return std::nullopt;
+    if (t.empty() || !std::all_of(t.begin(), t.end(), [](char c) { return c >= '0' && c <= '9'; })) return std::nullopt;
     int n = 0;
     for (char c : t) n = n * 10 + (c - '0');
     return negativo ? -n : n;
@@ -137,8 +134,7 @@ bool EstrazioneAmmessa(const Restrizioni& r, std::string_view data, char giorno)
     if (r.Periodo) {
         // The table is of a non-leap year: 29 February counts as the 28th.
         const int gg = d->mese == 2 && d->giorno == 29 ? 28 : d->giorno;
-        if (!r.PeriodoAmmesso[static_cast<std::size_t>(kPrimoDelMese[static_cast<std::size_t>(d->mese)] + gg -
-                                                       1)])
+        if (!r.PeriodoAmmesso[static_cast<std::size_t>(kPrimoDelMese[static_cast<std::size_t>(d->mese)] + gg - 1)])
             return false;
     }
     return true;

@@ -64,7 +64,7 @@ struct ScelteRestrizioni {
 ScelteRestrizioni CaricaScelteRestrizioni(const FileIni& ini);
 
 struct EsitoRestrizioni {
-    archives::Messaggio errore;                // when not empty nothing was written
+    archives::Messaggio errore;      // when not empty nothing was written
     std::array<int, 2> cboGiorno{};  // the days after the correction to the month's length
 };
 

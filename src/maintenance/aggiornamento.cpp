@@ -1,11 +1,11 @@
 #include "maintenance/aggiornamento.h"
 
-#include <algorithm>
-#include <cstring>
 #include <fcntl.h>
 #include <fmt/format.h>
-#include <fstream>
 #include <unistd.h>
+#include <algorithm>
+#include <cstring>
+#include <fstream>
 #include <vector>
 
 namespace gorgo::maintenance {
@@ -51,8 +51,8 @@ std::optional<UltimaArchivio> UltimaDellArchivio(const archives::Archivio& a, Gi
 
 // A draw that would be appended: weekday, numbers, the spare byte, NumeroAnno after `prima`.
 // Returns what is wrong, or nothing.
-std::string DifettoRecord(std::string_view rec, Gioco gioco, const archives::Data& data, const archives::Data& dataPrima,
-                          int numeroAnnoPrima) {
+std::string DifettoRecord(std::string_view rec, Gioco gioco, const archives::Data& data,
+                          const archives::Data& dataPrima, int numeroAnnoPrima) {
     const char giorno = static_cast<char>('0' + data.giornoSettimana());
     const auto u = [&](size_t i) { return static_cast<uint8_t>(rec[i]); };
     const bool lotto = gioco == Gioco::Lotto;
@@ -65,8 +65,7 @@ std::string DifettoRecord(std::string_view rec, Gioco gioco, const archives::Dat
     if (!lotto && u(19) != 0) return "il byte di riserva non è 0";
     const int atteso = data.anno != dataPrima.anno ? 1 : numeroAnnoPrima + 1;
     const int numeroAnno = u(lotto ? 2 : 0);
-    if (numeroAnno != atteso)
-        return fmt::format("ha il numero nell'anno {}, atteso {}", numeroAnno, atteso);
+    if (numeroAnno != atteso) return fmt::format("ha il numero nell'anno {}, atteso {}", numeroAnno, atteso);
     return {};
 }
 
@@ -127,8 +126,8 @@ ControlloAggiornamento ControllaAggiornamento(const archives::Archivio& archivio
         const auto d = DataRecord(record(i), gioco);
         if (!d) return corrotto(fmt::format("la data del record n. {} non è valida", i + 1));
         if (i > 0 && !(date[static_cast<size_t>(i - 1)] < *d))
-            return corrotto(fmt::format("il record n. {} del {} non segue il precedente del {}", i + 1,
-                                        testoData(*d), testoData(date[static_cast<size_t>(i - 1)])));
+            return corrotto(fmt::format("il record n. {} del {} non segue il precedente del {}", i + 1, testoData(*d),
+                                        testoData(date[static_cast<size_t>(i - 1)])));
         date[static_cast<size_t>(i)] = *d;
     }
 
@@ -215,7 +214,8 @@ std::optional<std::string> LeggiFileAggiornamento(const fs::path& percorso) {
     return s;
 }
 
-ControlloAggiornamento ControllaFileAggiornamento(const archives::Archivio& archivio, const fs::path& percorso, Gioco gioco) {
+ControlloAggiornamento ControllaFileAggiornamento(const archives::Archivio& archivio, const fs::path& percorso,
+                                                  Gioco gioco) {
     const auto dati = LeggiFileAggiornamento(percorso);
     if (!dati) {
         ControlloAggiornamento c;
@@ -381,7 +381,8 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         const int32_t n = static_cast<int32_t>(lunghezza(pE) / archives::LunghezzaRecordEstrazione);
         std::vector<archives::RecordAnno> anni(lunghezza(pA) / archives::LunghezzaRecordAnno);
         if (!anni.empty()) {
-            const std::string b = archives::FileRecord(pA, O_RDONLY).leggi(0, anni.size() * sizeof(archives::RecordAnno));
+            const std::string b =
+                archives::FileRecord(pA, O_RDONLY).leggi(0, anni.size() * sizeof(archives::RecordAnno));
             std::memcpy(anni.data(), b.data(), b.size());
         }
         // Years that point past the draws: the draws of an interrupted write were taken back.
@@ -434,11 +435,11 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
 
     std::vector<std::string> parti;
     if (r.byteTroncatiEstrazioni)
-        parti.push_back(fmt::format("tolta un'estrazione incompleta in coda a Estrazioni.ind ({} byte)",
-                                    r.byteTroncatiEstrazioni));
+        parti.push_back(
+            fmt::format("tolta un'estrazione incompleta in coda a Estrazioni.ind ({} byte)", r.byteTroncatiEstrazioni));
     if (r.byteTroncatiSuper)
-        parti.push_back(fmt::format("tolta un'estrazione incompleta in coda a SuperEnalotto.ind ({} byte)",
-                                    r.byteTroncatiSuper));
+        parti.push_back(
+            fmt::format("tolta un'estrazione incompleta in coda a SuperEnalotto.ind ({} byte)", r.byteTroncatiSuper));
     if (r.byteTroncatiAnni) parti.push_back(fmt::format("tolti {} byte in coda ad anni.ind", r.byteTroncatiAnni));
     if (r.anniAggiunti) parti.push_back(fmt::format("aggiunti {} anni ad anni.ind", r.anniAggiunti));
     if (!parti.empty()) {
@@ -451,7 +452,8 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
 
 EsitoRiparazione RiparaArchivio(archives::Archivio& archivio) {
     EsitoRiparazione r = RiparaCartellaArchivi(archivio.CartellaArchivi());
-    if (r.riparato()) archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
+    if (r.riparato())
+        archivio = archives::Archivio::Apri(archivio.PercorsoProgramma(), archives::ModoApertura::Scrittura);
     return r;
 }
 

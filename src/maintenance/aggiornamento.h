@@ -57,12 +57,12 @@ struct ControlloAggiornamento {
     archives::Messaggio messaggio;
     // Which record is wrong and why, for the command line; the screens show only `messaggio`.
     std::string dettaglio;
-    int32_t record = 0;         // records in the file
-    std::string primaData;      // of the file's first and last records (when valid dates)
+    int32_t record = 0;     // records in the file
+    std::string primaData;  // of the file's first and last records (when valid dates)
     std::string ultimaData;
-    std::string ultimaArchivio; // the archive's last date at the check
-    int32_t primaNuova = 0;     // 0-based position in the file of the first new draw
-    int32_t nuove = 0;          // draws that the update appends
+    std::string ultimaArchivio;  // the archive's last date at the check
+    int32_t primaNuova = 0;      // 0-based position in the file of the first new draw
+    int32_t nuove = 0;           // draws that the update appends
 
     bool pronto() const { return stato == StatoAggiornamento::Pronto; }
 };
@@ -80,7 +80,7 @@ ControlloAggiornamento ControllaAggiornamento(const archives::Archivio& archivio
 struct EsitoAggiornamento {
     bool riuscito = false;
     ControlloAggiornamento controllo;  // the check made just before writing
-    archives::Messaggio messaggio;               // the end message, or the refusal
+    archives::Messaggio messaggio;     // the end message, or the refusal
     int32_t aggiunte = 0;              // draws appended
     int32_t anniAggiunti = 0;          // records appended to anni.ind
     std::string ultimaData;            // the archive's last date afterwards
@@ -101,15 +101,16 @@ EsitoAggiornamento ApplicaAggiornamento(archives::Archivio& archivio, std::strin
 std::optional<std::string> LeggiFileAggiornamento(const std::filesystem::path& percorso);
 
 // Convenience for a file on disk: read, then check or apply.
-ControlloAggiornamento ControllaFileAggiornamento(const archives::Archivio& archivio, const std::filesystem::path& percorso,
-                                                  Gioco gioco);
-EsitoAggiornamento ApplicaFileAggiornamento(archives::Archivio& archivio, const std::filesystem::path& percorso, Gioco gioco);
+ControlloAggiornamento ControllaFileAggiornamento(const archives::Archivio& archivio,
+                                                  const std::filesystem::path& percorso, Gioco gioco);
+EsitoAggiornamento ApplicaFileAggiornamento(archives::Archivio& archivio, const std::filesystem::path& percorso,
+                                            Gioco gioco);
 
 struct EsitoEsportazione {
     bool riuscito = false;
-    archives::Messaggio messaggio;     // the end message, or why nothing was written
+    archives::Messaggio messaggio;  // the end message, or why nothing was written
     int32_t esportate = 0;
-    std::string primaData;   // empty when nothing was written
+    std::string primaData;  // empty when nothing was written
     std::string ultimaData;
 };
 
@@ -142,10 +143,8 @@ struct EsitoRiparazione {
     uint64_t byteTroncatiEstrazioni = 0;  // a partial trailing draw
     uint64_t byteTroncatiAnni = 0;        // a partial trailing year, or years past the draws
     uint64_t byteTroncatiSuper = 0;
-    int32_t anniAggiunti = 0;             // years restored from the draws
-    bool riparato() const {
-        return byteTroncatiEstrazioni || byteTroncatiAnni || byteTroncatiSuper || anniAggiunti;
-    }
+    int32_t anniAggiunti = 0;  // years restored from the draws
+    bool riparato() const { return byteTroncatiEstrazioni || byteTroncatiAnni || byteTroncatiSuper || anniAggiunti; }
     // An Italian line saying what was repaired; empty when nothing was.
     std::string descrizione;
 };

@@ -1,12 +1,12 @@
 #include "maintenance/importazione.h"
 
+#include <fmt/format.h>
+#include <zip.h>
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <charconv>
-#include <fmt/format.h>
 #include <memory>
-#include <zip.h>
 
 namespace gorgo::maintenance {
 
@@ -145,9 +145,10 @@ std::string ControllaOrdine(std::vector<Letta<Record>>& v, const std::vector<int
             return fmt::format("Riga {}: l'estrazione del {} compare già alla riga {}.", v[i].riga, questa.testo(),
                                righeDate[i - 1]);
         if ((questa < prima) != discendente)
-            return fmt::format("Riga {}: la data {} non è in ordine con quella della riga {} ({}): le righe devono "
-                               "seguire l'ordine delle date.",
-                               v[i].riga, questa.testo(), righeDate[i - 1], prima.testo());
+            return fmt::format(
+                "Riga {}: la data {} non è in ordine con quella della riga {} ({}): le righe devono "
+                "seguire l'ordine delle date.",
+                v[i].riga, questa.testo(), righeDate[i - 1], prima.testo());
     }
     if (discendente) std::reverse(v.begin(), v.end());
     return {};
@@ -188,9 +189,10 @@ Lettura LeggiLotto(std::string_view testo) {
     for (const Riga& r : Righe(testo)) {
         const auto campi = Campi(r.testo);
         if (campi.size() != 7) {
-            l.errore = fmt::format("Riga {}: formato non riconosciuto, attesi data, ruota e cinque numeri "
-                                   "separati da tabulazioni (\"{}\").",
-                                   r.numero, r.testo.substr(0, 60));
+            l.errore = fmt::format(
+                "Riga {}: formato non riconosciuto, attesi data, ruota e cinque numeri "
+                "separati da tabulazioni (\"{}\").",
+                r.numero, r.testo.substr(0, 60));
             return l;
         }
         const auto d = LeggiData(campi[0]);
@@ -259,9 +261,10 @@ Lettura LeggiSuper(std::string_view testo) {
             return l;
         }
         if (campi.size() < 7 || campi.size() > 9) {
-            l.errore = fmt::format("Riga {}: formato non riconosciuto, attesi data, sei numeri, Jolly e SuperStar "
-                                   "separati da tabulazioni o punti e virgola (\"{}\").",
-                                   r.numero, r.testo.substr(0, 60));
+            l.errore = fmt::format(
+                "Riga {}: formato non riconosciuto, attesi data, sei numeri, Jolly e SuperStar "
+                "separati da tabulazioni o punti e virgola (\"{}\").",
+                r.numero, r.testo.substr(0, 60));
             return l;
         }
         Letta<archives::RecordSuperEnalotto> nuova{archives::RecordSuperEnalotto{}, *d, r.numero};
@@ -330,8 +333,8 @@ void Prepara(Preparazione& p, std::vector<Letta<Record>>& lette, std::vector<Rec
         e.ultimaArchivio = ultima->testo;
         if (ultima->data < lette.front().data) {
             e.messaggio = MessaggioDiscontinuita();
-            e.dettaglio = fmt::format("il file inizia il {}, dopo l'ultima estrazione memorizzata del {}",
-                                      e.primaData, ultima->testo);
+            e.dettaglio = fmt::format("il file inizia il {}, dopo l'ultima estrazione memorizzata del {}", e.primaData,
+                                      ultima->testo);
             return;
         }
         std::erase_if(lette, [&](const Letta<Record>& l) { return !(ultima->data < l.data); });
@@ -358,8 +361,9 @@ Preparazione Prepara(const archives::Archivio& archivio, std::string_view testo,
         return p;
     }
     if (gioco == Gioco::Lotto && archivio.NumeroEstrazioni() == 0 && archivio.NumeroAnni() > 0) {
-        p.esito.messaggio = Errore("Il file anni.ind contiene degli anni ma Estrazioni.ind è vuoto: "
-                                   "importazione impossibile.");
+        p.esito.messaggio = Errore(
+            "Il file anni.ind contiene degli anni ma Estrazioni.ind è vuoto: "
+            "importazione impossibile.");
         return p;
     }
     const auto ultima = UltimaEstrazione(archivio, gioco);
@@ -421,8 +425,9 @@ EsitoImportazione ImportaTesto(archives::Archivio& archivio, std::string_view te
         e.anniAggiunti = AccodaEstrazioni(archivio, p.lotto);
     else
         AccodaEstrazioniSuper(archivio, p.super);
-    e.ultimaArchivio = gioco == Gioco::Lotto ? archivio.DataEstrazione(archivio.NumeroEstrazioni())
-                                             : archivio.DataEstrazione(archivio.NumeroEstrazioniSuper(), archives::ArchivioSuper);
+    e.ultimaArchivio = gioco == Gioco::Lotto
+                           ? archivio.DataEstrazione(archivio.NumeroEstrazioni())
+                           : archivio.DataEstrazione(archivio.NumeroEstrazioniSuper(), archives::ArchivioSuper);
     const std::string_view nomeGioco = gioco == Gioco::Lotto ? "del Lotto" : "del SuperEnalotto";
     e.messaggio = {e.creato ? fmt::format("Archivio delle estrazioni {} creato: {} estrazioni dal {} al {}.", nomeGioco,
                                           e.aggiunte, e.primaData, e.ultimaData)
@@ -479,7 +484,9 @@ std::optional<std::string> EstraiTestoZip(std::string_view dati, std::string* er
     if (st.size > kMassimoTesto)
         return rifiuta(fmt::format("Il file {} dell'archivio zip è troppo grande ({} byte).", nome, st.size));
     zip_file_t* f = zip_fopen_index(z, static_cast<zip_uint64_t>(scelta), 0);
-    if (!f) return rifiuta(fmt::format("Impossibile leggere {} dall'archivio zip (compressione o cifratura non supportata).", nome));
+    if (!f)
+        return rifiuta(
+            fmt::format("Impossibile leggere {} dall'archivio zip (compressione o cifratura non supportata).", nome));
     std::string testo(static_cast<size_t>(st.size), '\0');
     zip_uint64_t letti = 0;
     while (letti < st.size) {
@@ -553,7 +560,8 @@ std::string EsportaTesto(const archives::Archivio& archivio) {
 }
 
 void EsportaTesto(const archives::Archivio& archivio, const fs::path& file) {
-    if (FileDellArchivio(archivio, file)) throw archives::ErroreArchivio(MessaggioFileDellArchivio(file.string()).testo);
+    if (FileDellArchivio(archivio, file))
+        throw archives::ErroreArchivio(MessaggioFileDellArchivio(file.string()).testo);
     ScriviFileSostituendo(file, EsportaTesto(archivio));
 }
 

@@ -31,22 +31,22 @@ inline constexpr std::string_view TitoloImportazione = "Importazione archivio";
 
 struct EsitoImportazione {
     bool riuscito = false;
-    archives::Messaggio messaggio;    // the end message, or the refusal (a faulty line names its number)
-    std::string dettaglio;  // more on a refusal of continuity, for the command line
-    int riga = 0;           // 1-based line of the fault, 0 when none
-    int32_t estrazioni = 0; // draws read from the file
-    int32_t aggiunte = 0;   // draws appended (0 when only checked)
+    archives::Messaggio messaggio;  // the end message, or the refusal (a faulty line names its number)
+    std::string dettaglio;          // more on a refusal of continuity, for the command line
+    int riga = 0;                   // 1-based line of the fault, 0 when none
+    int32_t estrazioni = 0;         // draws read from the file
+    int32_t aggiunte = 0;           // draws appended (0 when only checked)
     int32_t anniAggiunti = 0;
-    bool creato = false;    // the archive was empty and has been built
+    bool creato = false;                // the archive was empty and has been built
     std::string primaData, ultimaData;  // of the file (dd/mm/yyyy)
     std::string ultimaArchivio;         // the archive's last date afterwards (or at the check)
 };
 
 // The draws of a text, checked and numbered, ready to append; no archive is touched.
 struct TestoLetto {
-    EsitoImportazione esito;  // riuscito false: the refusal
-    std::vector<archives::RecordEstrazione> lotto;         // in ascending date order
-    std::vector<archives::RecordSuperEnalotto> super;      // in ascending date order
+    EsitoImportazione esito;                           // riuscito false: the refusal
+    std::vector<archives::RecordEstrazione> lotto;     // in ascending date order
+    std::vector<archives::RecordSuperEnalotto> super;  // in ascending date order
 };
 
 // Reads a whole text in either game's layout. NumeroAnno starts from 1 at each year, so it is

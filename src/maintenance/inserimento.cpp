@@ -1,7 +1,7 @@
 #include "maintenance/inserimento.h"
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <algorithm>
 
 #include "archives/regole.h"
 
@@ -30,7 +30,9 @@ int NumeroCaratteri(std::string_view s) {
     return n;
 }
 
-archives::Messaggio Domanda(std::string_view testo) { return {std::string(testo), std::string(TitoloConferma), archives::Icona::Domanda}; }
+archives::Messaggio Domanda(std::string_view testo) {
+    return {std::string(testo), std::string(TitoloConferma), archives::Icona::Domanda};
+}
 
 archives::Messaggio Avviso(std::string testo) { return {std::move(testo), "", archives::Icona::Esclamazione}; }
 
@@ -161,15 +163,9 @@ Inserimento::Vicini Inserimento::DateVicine(int32_t indice) const {
 ControlliAttivi Inserimento::Controlli() const {
     ControlliAttivi c;
     switch (modo_) {
-        case ModoInserimento::Consulta:
-            c.cmdNuova = c.cmdCorreggi = c.Slider1 = true;
-            break;
-        case ModoInserimento::Nuova:
-            c.cmdMemorizza = c.cmdInserisci = c.cmdCancella = c.testo = true;
-            break;
-        case ModoInserimento::Correzione:
-            c.cmdMemorizza = c.date = true;
-            break;
+        case ModoInserimento::Consulta: c.cmdNuova = c.cmdCorreggi = c.Slider1 = true; break;
+        case ModoInserimento::Nuova: c.cmdMemorizza = c.cmdInserisci = c.cmdCancella = c.testo = true; break;
+        case ModoInserimento::Correzione: c.cmdMemorizza = c.date = true; break;
     }
     return c;
 }
@@ -261,9 +257,10 @@ archives::Messaggio Inserimento::ImpostaDataNuova(const archives::Data& data) {
     const archives::Data ultima = DataRecord(n);
     if (!data.valida()) return Avviso(std::string(archives::MessaggioDataErrata));
     if (data <= ultima)
-        return Avviso(fmt::format("La data di una nuova estrazione deve seguire quella dell'ultima estrazione "
-                                  "in archivio ({}) !",
-                                  ultima.testo()));
+        return Avviso(
+            fmt::format("La data di una nuova estrazione deve seguire quella dell'ultima estrazione "
+                        "in archivio ({}) !",
+                        ultima.testo()));
     MettiData(data);
     numeroAnno_ = data.anno == ultima.anno ? NumeroAnnoRecord(n) + 1 : 1;
     annoEtichetta_ = data.anno;
@@ -416,16 +413,17 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
         if (totale >= 1) {
             const archives::Data ultima = DataRecord(totale);
             if (*data <= ultima)
-                return Rifiuto(Avviso(fmt::format("La data di una nuova estrazione deve seguire quella dell'ultima "
-                                                  "estrazione in archivio ({}) !",
-                                                  ultima.testo())));
+                return Rifiuto(
+                    Avviso(fmt::format("La data di una nuova estrazione deve seguire quella dell'ultima "
+                                       "estrazione in archivio ({}) !",
+                                       ultima.testo())));
             numeroAnno = data->anno == ultima.anno ? NumeroAnnoRecord(totale) + 1 : 1;
         } else {
             numeroAnno = 1;
         }
         if (numeroAnno > 255)
-            return Rifiuto(Avviso(fmt::format("L'anno {} ha già 255 estrazioni: l'archivio non ne può contenere altre.",
-                                              data->anno)));
+            return Rifiuto(Avviso(
+                fmt::format("L'anno {} ha già 255 estrazioni: l'archivio non ne può contenere altre.", data->anno)));
     } else {
         const Vicini v = DateVicine(indiceCorrente_);
         if ((v.precedente && *data <= *v.precedente) || (v.successiva && *data >= *v.successiva))
@@ -435,9 +433,10 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
                 v.successiva ? v.successiva->testo() : std::string("-"))));
         const archives::Data memorizzata = DataRecord(indiceCorrente_);
         if (data->anno != memorizzata.anno)
-            return Rifiuto(Avviso(fmt::format("La data corretta deve restare nell'anno {}: il numero dell'estrazione "
-                                              "nell'anno e l'indice degli anni ne dipendono.",
-                                              memorizzata.anno)));
+            return Rifiuto(
+                Avviso(fmt::format("La data corretta deve restare nell'anno {}: il numero dell'estrazione "
+                                   "nell'anno e l'indice degli anni ne dipendono.",
+                                   memorizzata.anno)));
     }
     // Both weekday digits follow the date, as every reader of the archive expects.
     const int giorno = data->giornoSettimana();
@@ -450,7 +449,8 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
     e.nuova = nuova;
     e.indice = nuova ? totale + 1 : indiceCorrente_;
     if (lotto) {
-        archives::RecordEstrazione r = nuova ? archives::RecordEstrazione{} : archivio_.LeggiEstrazione(indiceCorrente_);
+        archives::RecordEstrazione r =
+            nuova ? archives::RecordEstrazione{} : archivio_.LeggiEstrazione(indiceCorrente_);
         for (int w = 1; w <= archives::NumeroRuote; ++w)
             for (int p = 1; p <= 5; ++p) {
                 const int i = (w - 1) * 5 + p;
@@ -465,7 +465,8 @@ EsitoMemorizzazione Inserimento::Memorizza(const RisposteInserimento& risposte) 
             archivio_.CorreggiEstrazione(indiceCorrente_, r);
         }
     } else {
-        archives::RecordSuperEnalotto r = nuova ? archives::RecordSuperEnalotto{} : archivio_.LeggiRecordSuper(indiceCorrente_);
+        archives::RecordSuperEnalotto r =
+            nuova ? archives::RecordSuperEnalotto{} : archivio_.LeggiRecordSuper(indiceCorrente_);
         for (int i = 0; i < 6; ++i) r.Sestina[i] = byte(i + 1);
         r.Jolly = byte(7);
         r.SuperStar = byte(8);

@@ -74,8 +74,8 @@ struct EsitoDecodifica {
     bool eseguita = false;  // false: the text has fewer than 10 characters, nothing done
     int numeriLetti = 0;    // tokens found (at most as many as the boxes)
     int caselleRiempite = 0;
-    int casellaErrata = 0;  // 1-based box left blank by a value out of 1..90; 0 for none
-    archives::Messaggio errore;       // TestoValoriIncongruenti under "Errore", stop icon
+    int casellaErrata = 0;       // 1-based box left blank by a value out of 1..90; 0 for none
+    archives::Messaggio errore;  // TestoValoriIncongruenti under "Errore", stop icon
 };
 
 // Fills the boxes in order from the numbers of the text; a box without a number keeps what
@@ -110,9 +110,9 @@ struct EsitoMemorizzazione {
     StatoMemorizzazione stato = StatoMemorizzazione::Rifiutata;
     DomandaInserimento domanda = DomandaInserimento::Nessuna;
     archives::Messaggio messaggio;
-    int casella = 0;          // on a refusal caused by a box: that box (1-based), to focus
-    int32_t indice = 0;       // the index written
-    bool nuova = false;       // appended (true) or corrected
+    int casella = 0;            // on a refusal caused by a box: that box (1-based), to focus
+    int32_t indice = 0;         // the index written
+    bool nuova = false;         // appended (true) or corrected
     bool annoAggiunto = false;  // a year record was appended to anni.ind
 };
 
@@ -154,8 +154,8 @@ public:
     // lblGiornoEstraz: the weekday name of the date in the boxes; empty when month or year
     // is empty or the boxes make no date.
     std::string NomeGiornoEstrazione() const;
-    int NumeroAnno() const { return numeroAnno_; }                      // lblNumeroAnnoEstraz
-    std::string TestoAnnoEstrazione() const;                            // lblAnnoEstrazione: year + " / "
+    int NumeroAnno() const { return numeroAnno_; }  // lblNumeroAnnoEstraz
+    std::string TestoAnnoEstrazione() const;        // lblAnnoEstrazione: year + " / "
     int GiornoNuovo() const { return giornoNuovo_; }
 
     // The paste box.

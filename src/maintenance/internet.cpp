@@ -2,8 +2,8 @@
 
 #include <cctype>
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <algorithm>
 #include <cerrno>
 #include <fstream>
 #include <initializer_list>
@@ -81,7 +81,8 @@ namespace {
 bool Stato2xx(int stato) { return stato >= 200 && stato < 300; }
 
 std::string TestoHttp(const Scaricamento& s) {
-    return s.testoHttp.empty() ? fmt::format("HTTP {}", s.statoHttp) : fmt::format("HTTP {} {}", s.statoHttp, s.testoHttp);
+    return s.testoHttp.empty() ? fmt::format("HTTP {}", s.statoHttp)
+                               : fmt::format("HTTP {} {}", s.statoHttp, s.testoHttp);
 }
 
 }  // namespace
@@ -107,8 +108,8 @@ ValutazioneScaricamento ValutaScaricamento(const Scaricamento& s, Gioco gioco, c
     if (s.corpo.size() < MinimoByteCorpo) {
         if (!Stato2xx(s.statoHttp))
             return connessione(fmt::format("{}: il server ha risposto {}", s.indirizzo, TestoHttp(s)));
-        return connessione(fmt::format("{}: ricevuti {} byte, troppo pochi per un file di aggiornamento",
-                                       s.indirizzo, s.corpo.size()));
+        return connessione(fmt::format("{}: ricevuti {} byte, troppo pochi per un file di aggiornamento", s.indirizzo,
+                                       s.corpo.size()));
     }
     v.scriviCopiaLocale = true;
     if (const EsitoSetaccio e = Setaccio(s.corpo, gioco); e != EsitoSetaccio::Nessuno) {
@@ -116,7 +117,8 @@ ValutazioneScaricamento ValutaScaricamento(const Scaricamento& s, Gioco gioco, c
                   : e == EsitoSetaccio::ProxyAutenticazione ? EsitoScaricamento::ProxyAutenticazione
                                                             : EsitoScaricamento::IndirizzoErrato;
         v.messaggio = MessaggioSetaccio(e);
-        if (!Stato2xx(s.statoHttp)) v.dettaglio = fmt::format("{}: il server ha risposto {}", s.indirizzo, TestoHttp(s));
+        if (!Stato2xx(s.statoHttp))
+            v.dettaglio = fmt::format("{}: il server ha risposto {}", s.indirizzo, TestoHttp(s));
         return v;
     }
     // An error page without any trigger word is no update file either.
@@ -147,8 +149,8 @@ std::error_code ScriviCopiaLocale(const fs::path& copiaLocale, std::span<const u
         if (f) f.write(reinterpret_cast<const char*>(corpo.data()), static_cast<std::streamsize>(corpo.size()));
         if (f) f.flush();
         if (!f) {
-            const std::error_code errore = errno ? std::error_code(errno, std::generic_category())
-                                                 : std::make_error_code(std::errc::io_error);
+            const std::error_code errore =
+                errno ? std::error_code(errno, std::generic_category()) : std::make_error_code(std::errc::io_error);
             f.close();
             fs::remove(temporaneo, ec);
             return errore;
@@ -203,7 +205,8 @@ ControlloStorico ControllaScaricamentoStorico(const Scaricamento& s) {
     if (c.zip) {
         std::string errore;
         if (!EstraiTestoZip(dati, &errore))
-            return rifiuta("Il file scaricato non è un archivio zip valido", fmt::format("{}: {}", s.indirizzo, errore));
+            return rifiuta("Il file scaricato non è un archivio zip valido",
+                           fmt::format("{}: {}", s.indirizzo, errore));
     } else if (SembraPagina(dati)) {
         return rifiuta("Il file scaricato non è un archivio zip né un file di testo delle estrazioni",
                        fmt::format("{}: il server ha inviato una pagina HTML ({} byte)", s.indirizzo, dati.size()));

@@ -32,8 +32,7 @@ inline constexpr std::string_view AzioneAnnullata = "Azione annullata";
 inline constexpr std::string_view ErroreAperturaStato = "Errore di apertura file !";
 inline constexpr std::string_view ErroreApertura =
     "Errore di apertura file. Se il file è stato scaricato da internet, provare a scaricarlo di nuovo";
-inline constexpr std::string_view NonTrovatoSulServer =
-    "File non trovato sul server - Verificare l'indirizzo internet";
+inline constexpr std::string_view NonTrovatoSulServer = "File non trovato sul server - Verificare l'indirizzo internet";
 inline constexpr std::string_view ProxyAutenticazione =
     "Il server proxy richiede l'autenticazione - Aggiornamento impossibile";
 inline constexpr std::string_view NonTrovatoIndirizzo =
@@ -83,23 +82,23 @@ archives::Messaggio MessaggioSetaccio(EsitoSetaccio esito);
 // What the HTTP client received, as plain data.
 struct Scaricamento {
     std::span<const uint8_t> corpo;
-    std::string indirizzo;     // the address asked for
-    int statoHttp = 0;         // 0: no answer from the server
-    std::string testoHttp;     // the server's reason phrase
-    bool completo = false;     // the whole body arrived (no error of the connection)
-    bool annullato = false;    // cancelled by the user
-    std::string erroreRete;    // when not complete: what failed, in Italian
+    std::string indirizzo;   // the address asked for
+    int statoHttp = 0;       // 0: no answer from the server
+    std::string testoHttp;   // the server's reason phrase
+    bool completo = false;   // the whole body arrived (no error of the connection)
+    bool annullato = false;  // cancelled by the user
+    std::string erroreRete;  // when not complete: what failed, in Italian
 };
 
 enum class EsitoScaricamento {
-    Pronto,               // the local copy goes on to the date checks and the update
+    Pronto,  // the local copy goes on to the date checks and the update
     Annullato,
-    ErroreConnessione,    // nothing usable arrived: too short, cut short, no server
+    ErroreConnessione,  // nothing usable arrived: too short, cut short, no server
     PaginaNonTrovata,
     ProxyAutenticazione,
     IndirizzoErrato,
-    ErroreHttp,           // the server refused with a status and no trigger word
-    FileCorrotto,         // the size is no multiple of the record
+    ErroreHttp,    // the server refused with a status and no trigger word
+    FileCorrotto,  // the size is no multiple of the record
 };
 
 struct ValutazioneScaricamento {

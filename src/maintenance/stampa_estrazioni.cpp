@@ -1,7 +1,7 @@
 #include "maintenance/stampa_estrazioni.h"
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <algorithm>
 #include <optional>
 
 #include "archives/dieci_e_lotto.h"
@@ -62,8 +62,7 @@ std::vector<Candidato> Filtra(std::vector<Candidato> tutti, const ParametriStamp
         }
         tutti = std::move(scelti);
     }
-    if (p.soloMese)
-        std::erase_if(tutti, [&](const Candidato& c) { return c.data.mese != p.mese; });
+    if (p.soloMese) std::erase_if(tutti, [&](const Candidato& c) { return c.data.mese != p.mese; });
     return tutti;
 }
 
@@ -167,7 +166,8 @@ void ComponiBlocchi(StampaComposta& s, const std::vector<archives::RecordEstrazi
             if (fila > 0) s.righe.push_back({""});
             const int quanti = std::min(BlocchiPerRiga, n - primo);
             RigaReport titolo(80);
-            for (int k = 0; k < quanti; ++k) titolo.metti(12 + 25 * k, draws[static_cast<size_t>(primo + k)].dataTesto());
+            for (int k = 0; k < quanti; ++k)
+                titolo.metti(12 + 25 * k, draws[static_cast<size_t>(primo + k)].dataTesto());
             s.righe.push_back({Testo(titolo), true});
             for (int w = 1; w <= archives::NumeroRuote; ++w) {
                 RigaReport r(80);
@@ -187,7 +187,8 @@ void ComponiTabella(StampaComposta& s, const std::vector<archives::RecordEstrazi
         ++pagina;
         Testata(s, pagina);
         if (pagina == 1) {
-            s.righe.push_back({"Estrazioni della ruota di " + std::string(archives::NomiRuota[static_cast<size_t>(ruota)]), true});
+            s.righe.push_back(
+                {"Estrazioni della ruota di " + std::string(archives::NomiRuota[static_cast<size_t>(ruota)]), true});
             s.righe.push_back({""});
         }
         s.righe.push_back({std::string(RigaDecine)});
@@ -201,7 +202,9 @@ void ComponiTabella(StampaComposta& s, const std::vector<archives::RecordEstrazi
 
 // --------------------------------------------------------------- lines
 
-std::string RigaLista(const archives::RecordEstrazione& r, int ruota) { return r.dataTesto() + "  " + Cinquina(r, ruota); }
+std::string RigaLista(const archives::RecordEstrazione& r, int ruota) {
+    return r.dataTesto() + "  " + Cinquina(r, ruota);
+}
 
 std::string RigaTabella(const archives::RecordEstrazione& r, int ruota) {
     std::string riga;
@@ -283,15 +286,9 @@ StampaComposta ComponiStampaLotto(const archives::Archivio& archivio, const Para
     s.estrazioni = static_cast<int>(scelti.size());
 
     switch (s.layout) {
-        case LayoutStampa::Lista:
-            ComponiLista(s, scelti, p.ruota);
-            break;
-        case LayoutStampa::Blocchi:
-            ComponiBlocchi(s, scelti);
-            break;
-        default:
-            ComponiTabella(s, scelti, p.ruota);
-            break;
+        case LayoutStampa::Lista: ComponiLista(s, scelti, p.ruota); break;
+        case LayoutStampa::Blocchi: ComponiBlocchi(s, scelti); break;
+        default: ComponiTabella(s, scelti, p.ruota); break;
     }
     return s;
 }
@@ -299,8 +296,9 @@ StampaComposta ComponiStampaLotto(const archives::Archivio& archivio, const Para
 StampaComposta ComponiStampaSuper(const archives::Archivio& archivio, const ParametriStampaEstrazioni& p) {
     StampaComposta s;
     s.layout = LayoutStampa::ListaSuper;
-    const auto intervallo = ControllaIntervallo(
-        p, s, [&](const std::string& t, bool precedente) { return archives::ControllaDataSuper(t, archivio, precedente); });
+    const auto intervallo = ControllaIntervallo(p, s, [&](const std::string& t, bool precedente) {
+        return archives::ControllaDataSuper(t, archivio, precedente);
+    });
     if (!intervallo) return s;
     s.titolo1 = "Gorgo - Stampa estrazioni Superenalotto dal " + s.dataInizio + " al " + s.dataFine;
     s.titolo2 = ScelteGemelli(p);
@@ -322,7 +320,8 @@ StampaComposta ComponiStampaSuper(const archives::Archivio& archivio, const Para
         ++pagina;
         std::vector<RigaTesto> testa = {{"", false, pagina > 1}, {config::Centrato(s.titolo1), true}};
         if (!s.titolo2.empty()) testa.push_back({config::Centrato(s.titolo2), true});
-        testa.push_back({Testo(RigaReport(80).metti(config::ColonnaPagina, "Pag." + config::Formato(pagina, "@@@"))), true});
+        testa.push_back(
+            {Testo(RigaReport(80).metti(config::ColonnaPagina, "Pag." + config::Formato(pagina, "@@@"))), true});
         testa.push_back({Testo(RigaReport(80).metti(6, regola))});
         testa.push_back({Testo(RigaReport(80).metti(6, IntestazioneSuper)), true});
         testa.push_back({Testo(RigaReport(80).metti(6, regola))});

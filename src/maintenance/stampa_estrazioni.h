@@ -31,9 +31,9 @@ inline constexpr std::string_view RigaUnita =
 inline constexpr std::string_view IntestazioneSuper = "|    DATA    |      N U M E R I       | JOLLY | SUPERSTAR |";
 
 // Counts of the pages.
-constexpr int RigheColonnaLista = 50;        // the list: two columns of 50, 100 draws a page
+constexpr int RigheColonnaLista = 50;  // the list: two columns of 50, 100 draws a page
 constexpr int EstrazioniPaginaLista = 2 * RigheColonnaLista;
-constexpr int BlocchiPerRiga = 3;            // the blocks: three side by side, four rows a page
+constexpr int BlocchiPerRiga = 3;  // the blocks: three side by side, four rows a page
 constexpr int RigheBlocchiPagina = 4;
 constexpr int EstrazioniPaginaTabella = 50;  // one line a draw
 constexpr int EstrazioniPaginaSuper = 50;

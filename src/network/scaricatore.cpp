@@ -140,22 +140,21 @@ void Scaricatore::Fine() {
     // its body goes to the sieve. Codes below 100 are the connection's own.
     const bool erroreHttp = e.statoHttp >= 400 && (errore == QNetworkReply::NoError || errore >= 100);
     if (troppoGrande_) {
-        e.errore = QStringLiteral("Scaricamento da %1 interrotto: la risposta supera %2 MB")
-                       .arg(dove)
-                       .arg(limite_ >> 20);
+        e.errore =
+            QStringLiteral("Scaricamento da %1 interrotto: la risposta supera %2 MB").arg(dove).arg(limite_ >> 20);
         e.codiceErrore = QNetworkReply::OperationCanceledError;
     } else if (errore != QNetworkReply::NoError && !erroreHttp) {
         e.codiceErrore = errore;
         e.scaduto = errore == QNetworkReply::OperationCanceledError || errore == QNetworkReply::TimeoutError;
         if (e.statoHttp != 0 && errore == QNetworkReply::RemoteHostClosedError) {
             const QVariant attesi = r->header(QNetworkRequest::ContentLengthHeader);
-            e.errore = attesi.isValid() ? QStringLiteral("Scaricamento da %1 interrotto: ricevuti %2 byte su %3")
-                                              .arg(dove)
-                                              .arg(e.corpo.size())
-                                              .arg(attesi.toLongLong())
-                                        : QStringLiteral("Scaricamento da %1 interrotto: ricevuti %2 byte")
-                                              .arg(dove)
-                                              .arg(e.corpo.size());
+            e.errore =
+                attesi.isValid()
+                    ? QStringLiteral("Scaricamento da %1 interrotto: ricevuti %2 byte su %3")
+                          .arg(dove)
+                          .arg(e.corpo.size())
+                          .arg(attesi.toLongLong())
+                    : QStringLiteral("Scaricamento da %1 interrotto: ricevuti %2 byte").arg(dove).arg(e.corpo.size());
         } else {
             e.errore = QStringLiteral("Scaricamento da %1 non riuscito: %2").arg(dove, TestoErroreRete(errore));
         }
@@ -172,14 +171,19 @@ void Scaricatore::Fine() {
         } else {
             e.completo = true;
             if (erroreHttp)
-                e.errore = QStringLiteral("%1: il server ha risposto HTTP %2 %3").arg(dove).arg(e.statoHttp).arg(e.testoHttp).trimmed();
+                e.errore = QStringLiteral("%1: il server ha risposto HTTP %2 %3")
+                               .arg(dove)
+                               .arg(e.statoHttp)
+                               .arg(e.testoHttp)
+                               .trimmed();
         }
     }
     if (e.completo) {
         Stato(stati::Finito);
     } else {
         const int codice = e.statoHttp != 0 ? e.statoHttp : e.codiceErrore;
-        Stato(stati::Errore, codice, e.statoHttp != 0 && e.testoHttp.size() ? e.testoHttp : TestoErroreRete(e.codiceErrore));
+        Stato(stati::Errore, codice,
+              e.statoHttp != 0 && e.testoHttp.size() ? e.testoHttp : TestoErroreRete(e.codiceErrore));
     }
     emit terminato();
 }

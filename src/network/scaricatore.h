@@ -20,14 +20,14 @@ namespace gorgo::network {
 
 struct RisultatoScaricamento {
     QByteArray corpo;
-    QString indirizzo;          // as asked
-    QString indirizzoFinale;    // after the redirects
-    int statoHttp = 0;          // 0: no answer
-    QString testoHttp;          // the reason phrase
-    bool completo = false;      // an answer arrived whole (whatever its status)
+    QString indirizzo;        // as asked
+    QString indirizzoFinale;  // after the redirects
+    int statoHttp = 0;        // 0: no answer
+    QString testoHttp;        // the reason phrase
+    bool completo = false;    // an answer arrived whole (whatever its status)
     bool annullato = false;
-    bool scaduto = false;       // no progress within the time-out
-    int codiceErrore = 0;       // QNetworkReply::NetworkError of a failed connection, else 0
+    bool scaduto = false;  // no progress within the time-out
+    int codiceErrore = 0;  // QNetworkReply::NetworkError of a failed connection, else 0
     // What failed, naming the address: no server, cut short, time-out, HTTP status. Empty
     // when a whole answer with status 2xx arrived.
     QString errore;

@@ -251,7 +251,8 @@ TEST(ArchivioIntegrita, DanniRiconosciuti) {
         test::CreaArchivioDemo(c.percorso(), ParametriDemo{5, Data{30, 12, 1875}});
         const fs::path file = c / "Archivi" / caso.file;
         if (caso.variazione) {
-            fs::resize_file(file, static_cast<uintmax_t>(static_cast<std::streamoff>(fs::file_size(file)) + caso.variazione));
+            fs::resize_file(file,
+                            static_cast<uintmax_t>(static_cast<std::streamoff>(fs::file_size(file)) + caso.variazione));
         } else {
             std::fstream f(file, std::ios::in | std::ios::out | std::ios::binary);
             if (caso.posizione < 0)
@@ -260,7 +261,8 @@ TEST(ArchivioIntegrita, DanniRiconosciuti) {
                 f.seekp(caso.posizione);
             f.write(caso.byte.data(), static_cast<std::streamsize>(caso.byte.size()));
         }
-        const std::string prima = test::LeggiFile(c / "Archivi/Estrazioni.ind") + test::LeggiFile(c / "Archivi/anni.ind");
+        const std::string prima =
+            test::LeggiFile(c / "Archivi/Estrazioni.ind") + test::LeggiFile(c / "Archivi/anni.ind");
         const Archivio a = Archivio::Apri(c.percorso());
         const Messaggio m = VerificaIntegrita(a);
         EXPECT_NE(m.testo.find(caso.attesa), std::string::npos) << caso.nome << ": " << m.testo;
@@ -305,7 +307,8 @@ TEST(ArchivioReale, CercaIndiceDateEGiorniIntermedi) {
             ASSERT_TRUE(r.has_value());
             ASSERT_EQ(r->IndiceTrovato, i) << d.testo();
             // No more than the date's year and the first draw after it.
-            const auto anno = std::find_if(anni.begin(), anni.end(), [&](const RecordAnno& y) { return y.anno() == d.anno; });
+            const auto anno =
+                std::find_if(anni.begin(), anni.end(), [&](const RecordAnno& y) { return y.anno() == d.anno; });
             const int32_t fine = anno + 1 == anni.end() ? storia->NumeroEstrazioni() : (anno + 1)->primaEstrazione();
             ASSERT_LE(a.RecordLetti() - letti, static_cast<uint64_t>(fine - anno->primaEstrazione() + 1)) << d.testo();
         }

@@ -167,7 +167,8 @@ TEST(SuperEnalotto, ArchivioReale) {
     for (int32_t i = 1; i <= a.NumeroEstrazioniSuper(); ++i) {
         const EstrazioneSuper e = LeggiEstrazioneSuper(a, i);
         ASSERT_NE(e.esito, SuperIncompleta) << i;
-        for (int k = 0; k < 8; ++k) ASSERT_TRUE(e.numeri[static_cast<size_t>(k)] >= 1 && e.numeri[static_cast<size_t>(k)] <= 90);
+        for (int k = 0; k < 8; ++k)
+            ASSERT_TRUE(e.numeri[static_cast<size_t>(k)] >= 1 && e.numeri[static_cast<size_t>(k)] <= 90);
     }
 }
 

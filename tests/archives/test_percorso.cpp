@@ -33,9 +33,11 @@ TEST(PercorsoProgramma, QuattroPassiInOrdine) {
         {"un'opzione vuota non conta", {fs::path(), home.string(), exe, base.string()}, home},
         {"la cartella dell'eseguibile con Archivi/", {std::nullopt, std::nullopt, exe, base.string()}, exe},
         {"$GORGO_HOME vuota non conta", {std::nullopt, std::string(), exe, base.string()}, exe},
-        {"senza Archivi/ l'eseguibile non conta", {std::nullopt, std::nullopt, base / "vuota", base / "casa"},
+        {"senza Archivi/ l'eseguibile non conta",
+         {std::nullopt, std::nullopt, base / "vuota", base / "casa"},
          base / "casa" / "Gorgo"},
-        {"Archivi come file non conta", {std::nullopt, std::nullopt, base / "filearchivi", base / "casa"},
+        {"Archivi come file non conta",
+         {std::nullopt, std::nullopt, base / "filearchivi", base / "casa"},
          base / "casa" / "Gorgo"},
         {"eseguibile ignoto", {std::nullopt, std::nullopt, fs::path(), base.string()}, base / "Gorgo"},
         // Paths come back in their plain form, with or without the folder existing.

@@ -42,7 +42,7 @@ TEST_F(ControlloData, MessaggiNellOrdine) {
         std::string messaggio;
     };
     const Caso casi[] = {
-        {"1/1/2000", std::string(MessaggioFormatoData)},   // a valid date, but eight characters
+        {"1/1/2000", std::string(MessaggioFormatoData)},  // a valid date, but eight characters
         {"01/01/00", std::string(MessaggioFormatoData)},
         {"2000/01/01", std::string(MessaggioFormatoData)},
         {"31/02/2000", std::string(MessaggioFormatoData)},  // the host's parser refuses it first
@@ -163,10 +163,10 @@ TEST(Ordina, ComeLOrdinamentoStandard) {
         std::vector<int32_t> v(static_cast<size_t>(n));
         const int forma = prova % 4;
         for (int i = 0; i < n; ++i)
-            v[static_cast<size_t>(i)] = forma == 0 ? static_cast<int32_t>(g() % 1000) - 500
-                                        : forma == 1 ? i                                   // already ordered
-                                        : forma == 2 ? n - i                               // reversed
-                                                     : static_cast<int32_t>(g() % 3);      // many equal
+            v[static_cast<size_t>(i)] = forma == 0   ? static_cast<int32_t>(g() % 1000) - 500
+                                        : forma == 1 ? i                               // already ordered
+                                        : forma == 2 ? n - i                           // reversed
+                                                     : static_cast<int32_t>(g() % 3);  // many equal
         // A sub-range: the rest must not move.
         const long primo = n ? static_cast<long>(g() % static_cast<unsigned>(n)) : 0;
         const long ultimo = n ? primo + static_cast<long>(g() % static_cast<unsigned>(n - primo)) : -1;

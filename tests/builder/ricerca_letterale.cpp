@@ -288,7 +288,8 @@ std::vector<ValoreSpia> Ricerca::ValoriSpia() const {
 
 // ---------------------------------------------------------------- Step 3, the walk
 
-std::optional<Ritrovamento> Ricerca::SpiaSullaRuota(const archives::RecordEstrazione& e, int ruota, ValoreSpia s) const {
+std::optional<Ritrovamento> Ricerca::SpiaSullaRuota(const archives::RecordEstrazione& e, int ruota,
+                                                    ValoreSpia s) const {
     // "Solo indice mensile": the condition holds on every search wheel, the first one found.
     if (modo_ == ModoSpia::SoloIndiceMensile) return Ritrovamento{};
     switch (tipoSpia_) {
@@ -370,7 +371,8 @@ void Ricerca::Cammina(ValoreSpia s, const std::function<void(int32_t caso)>& seg
         if (ruota == 0) continue;
         esito_.casi.push_back(Caso(i, ruota, s, dove));
         ++sortite_;
-        for (int c = 1; c <= NumeroCelle; ++c) quadro_[static_cast<size_t>(c)] = e.Numero(RuotaDiCella(c), PosizioneDiCella(c));
+        for (int c = 1; c <= NumeroCelle; ++c)
+            quadro_[static_cast<size_t>(c)] = e.Numero(RuotaDiCella(c), PosizioneDiCella(c));
 
         // The key's tail tells the spy as it stood in the last case examined.
         coda_ = CodaChiave{};
@@ -482,7 +484,8 @@ RigaAlgoritmo Ricerca::Riga(const Candidato& c) const {
             r.chiave = ChiaveTerzina(a.cella, a.cella2, a.cella3, coda_);
             break;
         case TipoRicerca::Codici:
-            r.descrizione = DescrizioneCodice(a.cella, a.op, a.terzina, ctx_.terzine->terzine[static_cast<size_t>(a.terzina)]);
+            r.descrizione =
+                DescrizioneCodice(a.cella, a.op, a.terzina, ctx_.terzine->terzine[static_cast<size_t>(a.terzina)]);
             r.chiave = ChiaveCodice(a.cella, a.terzina, a.op, coda_);
             break;
         case TipoRicerca::Ambate:
@@ -509,10 +512,10 @@ void Ricerca::MigliorePerValore() {
 
 // Score tables, hits (colpi) and quantity (quant), index [operation][...].
 struct TabelleAmbate {
-    int32_t unaColpi[3][46][6][12] = {}, unaQuant[3][46][6][12] = {};                 // k, position, wheel
-    int32_t dueColpi[3][6][12][6][12] = {}, dueQuant[3][6][12][6][12] = {};           // two wheels
-    int32_t stessaColpi[3][6][12][6][12] = {}, stessaQuant[3][6][12][6][12] = {};     // one wheel
-    int32_t soloColpi[6][12] = {}, soloQuant[6][12] = {};                             // cell alone
+    int32_t unaColpi[3][46][6][12] = {}, unaQuant[3][46][6][12] = {};              // k, position, wheel
+    int32_t dueColpi[3][6][12][6][12] = {}, dueQuant[3][6][12][6][12] = {};        // two wheels
+    int32_t stessaColpi[3][6][12][6][12] = {}, stessaQuant[3][6][12][6][12] = {};  // one wheel
+    int32_t soloColpi[6][12] = {}, soloQuant[6][12] = {};                          // cell alone
 };
 
 // Constants tried with one cell: "+" 0..45, "-" 1..44, "x" 2..45.
@@ -723,7 +726,9 @@ void Ricerca::Ambi(ValoreSpia s) {
 void Ricerca::Terzine(ValoreSpia s) {
     const bool xTerno = p_.tipoRicerca == TipoRicerca::TerzineTerno;
     constexpr size_t Celle = NumeroCelle + 1;
-    auto at = [](int i, int j, int k) { return (static_cast<size_t>(i) * Celle + static_cast<size_t>(j)) * Celle + static_cast<size_t>(k); };
+    auto at = [](int i, int j, int k) {
+        return (static_cast<size_t>(i) * Celle + static_cast<size_t>(j)) * Celle + static_cast<size_t>(k);
+    };
     std::vector<int32_t> colpi(Celle * Celle * Celle, 0), quant(Celle * Celle * Celle, 0);
     auto coppie = std::make_unique<FinestraCoppie>();
     auto terne = std::make_unique<FinestraTerne>();
@@ -772,7 +777,8 @@ void Ricerca::Terzine(ValoreSpia s) {
         for (int j = i + 1; j <= 54; ++j)
             for (int k = j + 1; k <= 55; ++k) {
                 const size_t t = at(i, j, k);
-                if (colpi[t] > sogliaPresenze_) Aggiungi(colpi[t], quant[t], Algoritmo{.cella = i, .cella2 = j, .cella3 = k});
+                if (colpi[t] > sogliaPresenze_)
+                    Aggiungi(colpi[t], quant[t], Algoritmo{.cella = i, .cella2 = j, .cella3 = k});
             }
     OrdinaCandidati();
     const int R = static_cast<int>(listaCandidati_.size());

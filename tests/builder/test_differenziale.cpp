@@ -49,12 +49,12 @@ void Confronta(const EsitoRicerca& veloce, const EsitoRicerca& letterale, const 
 }
 
 std::string Descrivi(const ParametriRicerca& p) {
-    return fmt::format("tipo {} spia {} modo {} valore {} ambo {}-{} tutti {} pos {} da {} a {} perData {}/{} mese {} "
-                       "colpi {} ultime {} solo {} sorte {}",
-                       static_cast<int>(p.tipoRicerca), static_cast<int>(p.tipoSpia), static_cast<int>(p.modoSpia),
-                       p.valoreSpia, p.amboSpia[0], p.amboSpia[1], p.tuttiGliAmbi, p.posizioneDeterminata, p.dataDa,
-                       p.dataA, p.perData, p.sortiteDaCercare, p.indiceMese, p.colpi, p.controllaUltime,
-                       p.soloPosizione, p.sorte);
+    return fmt::format(
+        "tipo {} spia {} modo {} valore {} ambo {}-{} tutti {} pos {} da {} a {} perData {}/{} mese {} "
+        "colpi {} ultime {} solo {} sorte {}",
+        static_cast<int>(p.tipoRicerca), static_cast<int>(p.tipoSpia), static_cast<int>(p.modoSpia), p.valoreSpia,
+        p.amboSpia[0], p.amboSpia[1], p.tuttiGliAmbi, p.posizioneDeterminata, p.dataDa, p.dataA, p.perData,
+        p.sortiteDaCercare, p.indiceMese, p.colpi, p.controllaUltime, p.soloPosizione, p.sorte);
 }
 
 class Differenziale : public ::testing::TestWithParam<TipoRicerca> {};
@@ -140,9 +140,10 @@ TEST(DifferenzialeReale, PeriodiBrevi) {
         const char* da;
         int indiceMese;
     };
-    for (const Caso& c : {Caso{TipoRicerca::Ambate, "30/12/2015", 22}, Caso{TipoRicerca::Ambate, "01/01/1990", 0},
-                          Caso{TipoRicerca::TerzineAmbo, "30/12/2023", 22}, Caso{TipoRicerca::TerzineTerno, "30/12/2023", 22},
-                          Caso{TipoRicerca::Ambi, "01/07/2025", 22}, Caso{TipoRicerca::Codici, "01/09/2025", 22}}) {
+    for (const Caso& c :
+         {Caso{TipoRicerca::Ambate, "30/12/2015", 22}, Caso{TipoRicerca::Ambate, "01/01/1990", 0},
+          Caso{TipoRicerca::TerzineAmbo, "30/12/2023", 22}, Caso{TipoRicerca::TerzineTerno, "30/12/2023", 22},
+          Caso{TipoRicerca::Ambi, "01/07/2025", 22}, Caso{TipoRicerca::Codici, "01/09/2025", 22}}) {
         ParametriRicerca p;
         p.tipoRicerca = c.tipo;
         p.valoreSpia = 27;

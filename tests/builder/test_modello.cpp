@@ -21,7 +21,9 @@ const CodaChiave CodaAmbo{12, "11000", '1', 34, '2', true};
 void Poni(archives::RecordEstrazione& r, int cella, int valore) {
     r.Ruota[RuotaDiCella(cella) - 1][PosizioneDiCella(cella) - 1] = static_cast<uint8_t>(valore);
 }
-int Valore(const archives::RecordEstrazione& r, int cella) { return r.Numero(RuotaDiCella(cella), PosizioneDiCella(cella)); }
+int Valore(const archives::RecordEstrazione& r, int cella) {
+    return r.Numero(RuotaDiCella(cella), PosizioneDiCella(cella));
+}
 
 TEST(ModelloOperazioni, CasiLimiteETutteLeCoppie) {
     EXPECT_EQ(OperaPiu(90, 90), 90);
@@ -41,8 +43,8 @@ TEST(ModelloOperazioni, CasiLimiteETutteLeCoppie) {
 }
 
 TEST(ModelloVertibili, RiferimentoEInvoluzione) {
-    const std::vector<std::pair<int, int>> attesi{{1, 10},  {10, 1},  {12, 21}, {90, 9},  {9, 90},  {11, 19},
-                                                  {19, 11}, {88, 89}, {89, 88}, {45, 54}, {80, 8},  {37, 73}};
+    const std::vector<std::pair<int, int>> attesi{{1, 10},  {10, 1},  {12, 21}, {90, 9},  {9, 90}, {11, 19},
+                                                  {19, 11}, {88, 89}, {89, 88}, {45, 54}, {80, 8}, {37, 73}};
     for (auto [n, v] : attesi) EXPECT_EQ(Vertibile(n), v) << n;
     for (int n = 1; n <= 90; ++n) {
         EXPECT_NE(Vertibile(n), n) << n;
@@ -141,8 +143,8 @@ TEST(ModelloChiavi, AndataERitornoSuEstrazioniCasuali) {
 TEST(ModelloChiavi, CodaLetta) {
     auto c = LeggiCoda("120345-_01110003895");
     ASSERT_TRUE(c);
-    EXPECT_TRUE(c->ambo && c->spia == 1 && c->posizioni == "11000" && c->posizioneTrovata == '3' &&
-                c->spia2 == 89 && c->posizioneTrovata2 == '5');
+    EXPECT_TRUE(c->ambo && c->spia == 1 && c->posizioni == "11000" && c->posizioneTrovata == '3' && c->spia2 == 89 &&
+                c->posizioneTrovata2 == '5');
     // No tail, a tail of another length, positions that are not flags, a spy not in digits.
     for (const char* k : {"203+00027", "203+00027_0511111", "203+00027_05121113", "203+00027_x5111113"})
         EXPECT_FALSE(LeggiCoda(k)) << k;
@@ -200,18 +202,20 @@ TEST(ModelloNumeriUguali, AmbiTerzinaECodice) {
     archives::RecordEstrazione e{};
     for (auto [c, v] : std::vector<std::pair<int, int>>{{1, 45}, {6, 45}, {11, 40}, {16, 50}}) Poni(e, c, v);
     // One number from both rules, the same cell value or two rules meeting: 45 and 54.
-    EXPECT_EQ(NumeriAlgoritmo(ChiaveAmbi(1, Operazione::Piu, 0, 6, Operazione::Piu, 0, CodaNumero),
-                              TipoRicerca::Ambi, e).numeri, (V{45, 54}));
-    EXPECT_EQ(NumeriAlgoritmo(ChiaveAmbi(11, Operazione::Piu, 5, 16, Operazione::Meno, 5, CodaNumero),
-                              TipoRicerca::Ambi, e).numeri, (V{45, 54}));
+    EXPECT_EQ(
+        NumeriAlgoritmo(ChiaveAmbi(1, Operazione::Piu, 0, 6, Operazione::Piu, 0, CodaNumero), TipoRicerca::Ambi, e)
+            .numeri,
+        (V{45, 54}));
+    EXPECT_EQ(
+        NumeriAlgoritmo(ChiaveAmbi(11, Operazione::Piu, 5, 16, Operazione::Meno, 5, CodaNumero), TipoRicerca::Ambi, e)
+            .numeri,
+        (V{45, 54}));
 
     const std::vector<std::pair<V, V>> terzine{
-        {{27, 27, 27}, {27, 72, 28}},  // all equal: vertibile, then the number plus 1
-        {{90, 90, 90}, {90, 9, 1}},
-        {{12, 30, 12}, {12, 30, 21}},  // x3 = x1 with no earlier change: vertibile
-        {{5, 33, 33}, {5, 33, 39}},    // x3 = x2: vertibile of x2
-        {{44, 44, 7}, {44, 49, 7}},
-        {{12, 12, 21}, {12, 21, 22}},  // after a change, a clash with x2 steps by one
+        {{27, 27, 27}, {27, 72, 28}},                                // all equal: vertibile, then the number plus 1
+        {{90, 90, 90}, {90, 9, 1}},   {{12, 30, 12}, {12, 30, 21}},  // x3 = x1 with no earlier change: vertibile
+        {{5, 33, 33}, {5, 33, 39}},                                  // x3 = x2: vertibile of x2
+        {{44, 44, 7}, {44, 49, 7}},   {{12, 12, 21}, {12, 21, 22}},  // after a change, a clash with x2 steps by one
     };
     for (const auto& [valori, attesi] : terzine) {
         Poni(e, 3, valori[0]);
@@ -276,10 +280,10 @@ TEST(ModelloTerzine, FileBuonoConteggioDiversoEMancante) {
 
 TEST(ModelloTerzine, FileNonValido) {
     test::CartellaTemporanea dir;
-    for (const std::string& testo : {Righe(1002, "\n", 500),                  // a zero
-                                     Righe(10, "\n") + "01-ab-03\n",          // not digits
+    for (const std::string& testo : {Righe(1002, "\n", 500),                   // a zero
+                                     Righe(10, "\n") + "01-ab-03\n",           // not digits
                                      Righe(10, "\n") + "\n" + Righe(5, "\n"),  // an empty line within
-                                     Righe(10, "\n") + "1-2\n",               // too short for three fields
+                                     Righe(10, "\n") + "1-2\n",                // too short for three fields
                                      Righe(10, "\n") + "01-02-91\n"}) {
         const auto r = Carica(dir, testo);
         EXPECT_FALSE(r.valido || r.fileMancante || r.terzine.disponibili());

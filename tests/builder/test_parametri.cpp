@@ -12,7 +12,8 @@ namespace gorgo::builder {
 namespace {
 
 const archives::StoriaLotto& Demo() {
-    static const archives::StoriaLotto storia(archives::GeneraStoriaDemo(archives::ParametriDemo{4242, archives::Data{30, 12, 2025}}));
+    static const archives::StoriaLotto storia(
+        archives::GeneraStoriaDemo(archives::ParametriDemo{4242, archives::Data{30, 12, 2025}}));
     return storia;
 }
 
@@ -44,8 +45,8 @@ TEST(ParametriIndiceMensile, RicontoSuStoriaDemo) {
 
 TEST(ParametriIndiceMensile, CambioDiMeseEUltimaEstrazione) {
     // Sat 27/12, Tue 30/12, Thu 01/01, Sat 03/01.
-    const auto im = CalcolaIndiciMensili(StoriaDi({{27, 12, 2025}, {30, 12, 2025}, {1, 1, 2026}, {3, 1, 2026}}),
-                                         "NNYNYNY");
+    const auto im =
+        CalcolaIndiciMensili(StoriaDi({{27, 12, 2025}, {30, 12, 2025}, {1, 1, 2026}, {3, 1, 2026}}), "NNYNYNY");
     EXPECT_EQ(im.indice, (std::vector<uint8_t>{0, 1, 2, 1, 2}));
     EXPECT_EQ(im.ultimo, (std::vector<bool>{false, false, true, false, false}));
     // The same month of the next year is another month.
@@ -186,7 +187,8 @@ TEST(ParametriValidazione, PeriodoDateEUltimeEstrazioni) {
     // A refused date brings the date check's own message.
     p = {};
     p.dataA = "01/01/2030";
-    EXPECT_EQ(ValidaRicerca(p, s).errore.testo, archives::MessaggioDataSuperiore(s.DataEstrazione(s.NumeroEstrazioni())));
+    EXPECT_EQ(ValidaRicerca(p, s).errore.testo,
+              archives::MessaggioDataSuperiore(s.DataEstrazione(s.NumeroEstrazioni())));
     p.dataA = "";
     p.dataDa = "01/01/1850";
     EXPECT_EQ(ValidaRicerca(p, s).errore.testo, archives::MessaggioDataInferiore(s.DataEstrazione(1)));
@@ -272,10 +274,10 @@ TEST(ParametriValidazione, SpiaDescrizioneEPosizioni) {
         EXPECT_EQ(r.descrizione, descrizione);
         EXPECT_EQ(r.testoPosizioni, testo) << descrizione;
     }
-    for (const auto& [tipo, valore, messaggio] : std::vector<std::tuple<T, int, std::string>>{
-             {T::Numero, 0, "Inserire il numero spia !"},
-             {T::Numero, 91, "Inserire il numero spia !"},
-             {T::Somma, -3, "Inserire la somma spia !"}}) {
+    for (const auto& [tipo, valore, messaggio] :
+         std::vector<std::tuple<T, int, std::string>>{{T::Numero, 0, "Inserire il numero spia !"},
+                                                      {T::Numero, 91, "Inserire il numero spia !"},
+                                                      {T::Somma, -3, "Inserire la somma spia !"}}) {
         ParametriRicerca p;
         p.tipoSpia = tipo;
         p.valoreSpia = valore;

@@ -9,8 +9,8 @@
 
 #include "archives/demo.h"
 #include "builder/indice_mensile.h"
-#include "support/casuali.h"
 #include "builder/ricerca.h"
+#include "support/casuali.h"
 
 namespace gorgo::builder {
 namespace {

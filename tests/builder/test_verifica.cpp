@@ -19,8 +19,8 @@
 #include "builder/terzine.h"
 #include "builder/verifica.h"
 #include "config/formato.h"
-#include "support/attesi.h"
 #include "support/archivi_reali.h"
+#include "support/attesi.h"
 #include "support/casuali.h"
 #include "verifica_letterale.h"
 
@@ -74,24 +74,27 @@ std::string ChiaveCasuale(std::mt19937& g, const ParametriRicerca& p, const std:
             if (g() % 3 == 0) return ChiaveAmbata(cella(), op(), cella(), 0, coda);
             return ChiaveAmbata(cella(), op(), 0, static_cast<int>(g() % 46), coda);
         case TipoRicerca::Ambi:
-            return ChiaveAmbi(cella(), op(), static_cast<int>(g() % 46), cella(), op(), static_cast<int>(g() % 46), coda);
+            return ChiaveAmbi(cella(), op(), static_cast<int>(g() % 46), cella(), op(), static_cast<int>(g() % 46),
+                              coda);
         case TipoRicerca::TerzineAmbo:
         case TipoRicerca::TerzineTerno: {
             std::array<int, 3> c{cella(), cella(), cella()};
             std::sort(c.begin(), c.end());
             return ChiaveTerzina(c[0], c[1], c[2], coda);
         }
-        case TipoRicerca::Codici: return ChiaveCodice(cella(), 1 + static_cast<int>(g() % static_cast<unsigned>(terzine)), op(), coda);
+        case TipoRicerca::Codici:
+            return ChiaveCodice(cella(), 1 + static_cast<int>(g() % static_cast<unsigned>(terzine)), op(), coda);
     }
     return {};
 }
 
 std::string Descrivi(const ParametriRicerca& p, const std::string& chiave, const std::string& spia) {
-    return fmt::format("tipo {} spia {} modo {} '{}' chiave '{}' pos {} da {} a {} perData {}/{} mese {} colpi {} "
-                       "ultime {} sorte {} max {}",
-                       static_cast<int>(p.tipoRicerca), static_cast<int>(p.tipoSpia), static_cast<int>(p.modoSpia), spia,
-                       chiave, p.posizioneDeterminata, p.dataDa, p.dataA, p.perData, p.sortiteDaCercare, p.indiceMese,
-                       p.colpi, p.controllaUltime, p.sorte, p.colpiDaGiocare);
+    return fmt::format(
+        "tipo {} spia {} modo {} '{}' chiave '{}' pos {} da {} a {} perData {}/{} mese {} colpi {} "
+        "ultime {} sorte {} max {}",
+        static_cast<int>(p.tipoRicerca), static_cast<int>(p.tipoSpia), static_cast<int>(p.modoSpia), spia, chiave,
+        p.posizioneDeterminata, p.dataDa, p.dataA, p.perData, p.sortiteDaCercare, p.indiceMese, p.colpi,
+        p.controllaUltime, p.sorte, p.colpiDaGiocare);
 }
 
 // Engine and transcription, in every mode, on one key.
@@ -134,7 +137,8 @@ void Confronta(const ParametriRicerca& p, const ContestoRicerca& ctx, const std:
     const int colpiMax = static_cast<int>(g() % 14);
     for (bool selezione : {false, true}) {
         const EsitoVerifica s = VerificaAlgoritmo(p, ctx, descrizione, chiave, spia, true, colpiMax, selezione);
-        const letterale::Verifica t = letterale::VerificaAlgoritmo(p, ctx, descrizione, chiave, spia, true, colpiMax, selezione);
+        const letterale::Verifica t =
+            letterale::VerificaAlgoritmo(p, ctx, descrizione, chiave, spia, true, colpiMax, selezione);
         ASSERT_EQ(s.errore.testo, t.errore.testo) << dove;
         ASSERT_EQ(s.inCorso, t.inCorso) << dove << " selezione " << selezione << " max " << colpiMax;
         ASSERT_TRUE(s.righe.empty());
@@ -246,7 +250,9 @@ struct Scenario {
         for (int k = 0; k < 5; ++k) r.Ruota[0][k] = static_cast<uint8_t>(n[static_cast<size_t>(k)]);
     }
     // Bari of the draw `indietro` before the last.
-    void Poni(int indietro, std::array<int, 5> n) { Bari(record[record.size() - 1 - static_cast<size_t>(indietro)], n); }
+    void Poni(int indietro, std::array<int, 5> n) {
+        Bari(record[record.size() - 1 - static_cast<size_t>(indietro)], n);
+    }
     void Fatto() {
         storia = archives::StoriaLotto(record);
         indici = CalcolaIndiciMensili(storia, "NNYNYNY");
@@ -438,7 +444,7 @@ TEST(RiepilogoTecnica, CifreERighe) {
     s.Poni(8, {50, 11, 12, 13, 14});  // colpo 2
     s.Poni(6, Spia27);                // three draws without 50
     s.Poni(1, Spia27);
-    s.Poni(0, {9, 50, 12, 13, 14});   // colpo 1, within the last colpi: already out
+    s.Poni(0, {9, 50, 12, 13, 14});  // colpo 1, within the last colpi: already out
     s.Fatto();
     const EsitoVerifica v = s.Verifica();
     ASSERT_EQ(v.righe.size(), 3u);
@@ -505,9 +511,11 @@ TEST(RiepilogoTecnica, ColpiMancanti) {
 
 TEST(RiepilogoTecnica, RighePerTipo) {
     Scenario s;
-    const std::vector<std::pair<TipoRicerca, int>> tipi = {
-        {TipoRicerca::Ambi, 2}, {TipoRicerca::TerzineAmbo, 2}, {TipoRicerca::TerzineTerno, 2},
-        {TipoRicerca::Codici, 2}, {TipoRicerca::Codici, 3}};
+    const std::vector<std::pair<TipoRicerca, int>> tipi = {{TipoRicerca::Ambi, 2},
+                                                           {TipoRicerca::TerzineAmbo, 2},
+                                                           {TipoRicerca::TerzineTerno, 2},
+                                                           {TipoRicerca::Codici, 2},
+                                                           {TipoRicerca::Codici, 3}};
     const std::vector<std::string> attese = {" Ambi secchi     :     0", " Ambi in terzina :     0",
                                              " Terni secchi    :     0", " Ambi in terzina :     0",
                                              " Terni           :     0"};
@@ -538,7 +546,8 @@ void ConfrontaStatistiche(const StatisticheGioco& a, const StatisticheGioco& b, 
 }
 
 TEST(StatisticheRuoteGioco, LetteraleSullaStoriaDimostrativa) {
-    const archives::StoriaLotto s(archives::GeneraStoriaDemo(archives::ParametriDemo{11, archives::Data{30, 12, 2025}}));
+    const archives::StoriaLotto s(
+        archives::GeneraStoriaDemo(archives::ParametriDemo{11, archives::Data{30, 12, 2025}}));
     ASSERT_GT(s.NumeroEstrazioni(), PrimaEstrazioneStatistiche);
     std::mt19937 g(5);
     for (int prova = 0; prova < 4; ++prova) {
@@ -579,7 +588,8 @@ TEST(StatisticheRuoteGioco, ConteggioDirettoSullArchivioReale) {
     GORGO_RICHIEDI_ARCHIVI_REALI(reale);
     const archives::Archivio a = archives::Archivio::Apri(reale);
     const auto s = a.Storia();
-    std::array<bool, 12> ruote = RuoteScelte({true, false, false, false, false, false, false, false, false, false, false, true});
+    std::array<bool, 12> ruote =
+        RuoteScelte({true, false, false, false, false, false, false, false, false, false, false, true});
     const int32_t primo = s->CercaIndice(archives::Data{2, 1, 1990}, false)->IndiceTrovato;
     const StatisticheGioco st = StatisticheRuoteGioco(*s, ruote, primo);
     ConfrontaStatistiche(st, letterale::Statistiche(*s, ruote, primo), "reale");
@@ -701,7 +711,8 @@ TEST(PrevisioniCalcolate, TerniNonDisponibili) {
         ParametriRicerca p = d.Parametri(tipo);
         p.sorte = sorte;
         RigaAlgoritmo r;
-        r.chiave = tipo == TipoRicerca::Codici ? ChiaveCodice(3, 5, Operazione::Piu, coda) : ChiaveTerzina(1, 7, 13, coda);
+        r.chiave =
+            tipo == TipoRicerca::Codici ? ChiaveCodice(3, 5, Operazione::Piu, coda) : ChiaveTerzina(1, 7, 13, coda);
         r.descrizione = DescrizioneDaChiave(r.chiave, p, &d.terzine);
         r.testoSpia = "27";
         r.selezionata = true;
@@ -756,7 +767,8 @@ TEST(VerificaReport, TabellaStampataERigheSuFile) {
 
 TEST(VerificaReport, PrevisioniStampaEFile) {
     ParametriRicerca p;
-    const archives::StoriaLotto storia(archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}}));
+    const archives::StoriaLotto storia(
+        archives::GeneraStoriaDemo(archives::ParametriDemo{3, archives::Data{30, 12, 2025}}));
     EsitoPrevisioni e;
     e.titolo = TitoloPrevisioni(p);
     e.aperta = true;

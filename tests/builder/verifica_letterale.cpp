@@ -84,7 +84,7 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
             case TipoRicerca::TerzineTerno: trattino = 7; break;
             case TipoRicerca::Codici: trattino = 8; break;
         }
-        const size_t da = trattino + 3;  // first position character, from 1
+        const size_t da = trattino + 3;            // first position character, from 1
         if (chiave.size() < da + 4) return esito;  // too short: no message
         for (int k = 1; k <= 5; ++k) posizioniSpia[k] = chiave.substr(da - 1 + static_cast<size_t>(k - 1), 1) == "1";
     }
@@ -119,7 +119,8 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
         const archives::RecordEstrazione& e = s[i];
         const auto& r = ctx.restrizioni;
         bool giornoValido = true;
-        if (r.Giorno || r.Mese || r.Periodo) giornoValido = config::EstrazioneAmmessa(r, e.dataCifre(), e.GiornoSettimana);
+        if (r.Giorno || r.Mese || r.Periodo)
+            giornoValido = config::EstrazioneAmmessa(r, e.dataCifre(), e.GiornoSettimana);
         if (!giornoValido) continue;
         bool meseValido;
         if (p.indiceMese == 22)
@@ -153,8 +154,9 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& ctx
                 case TipoSpia::Differenza:
                     for (int a = 1; a <= 4 && ruotaSpia == 0; ++a)
                         for (int b = a + 1; b <= 5; ++b) {
-                            const int risultato = p.tipoSpia == TipoSpia::Somma ? OperaPiu(e.Numero(w, a), e.Numero(w, b))
-                                                                               : OperaMeno(e.Numero(w, a), e.Numero(w, b));
+                            const int risultato = p.tipoSpia == TipoSpia::Somma
+                                                      ? OperaPiu(e.Numero(w, a), e.Numero(w, b))
+                                                      : OperaMeno(e.Numero(w, a), e.Numero(w, b));
                             if (risultato == spiaA) {
                                 ruotaSpia = w;
                                 break;

@@ -34,6 +34,7 @@ Verifica VerificaAlgoritmo(const ParametriRicerca& p, const ContestoRicerca& con
 FigureRiepilogo Figure(const std::vector<RigaLista>& lista, int32_t fine, int colpi);
 
 // StatisticheRuoteGioco counted draw by draw with plain tables.
-StatisticheGioco Statistiche(const archives::StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco, int32_t primo);
+StatisticheGioco Statistiche(const archives::StoriaLotto& storia, const std::array<bool, 12>& ruoteGioco,
+                             int32_t primo);
 
 }  // namespace gorgo::builder::letterale

@@ -136,7 +136,8 @@ TEST(ChiaviReali, LaSpiaEIlTipoViaggianoNellaChiave) {
     const std::vector<Ricerca> ricerche = {
         {{"--valore", "27"}, {}},
         {{"--valore", "63", "--posizioni", "24", "--tipo", "ambi"}, {}},
-        {{"--spia", "somma", "--valore", "50", "--tipo", "terzine-terno"}, {"--tipo", "terzine-terno", "--spia", "somma"}},
+        {{"--spia", "somma", "--valore", "50", "--tipo", "terzine-terno"},
+         {"--tipo", "terzine-terno", "--spia", "somma"}},
         {{"--spia", "ambo", "--ambo", "34-12", "--posizioni", "123"}, {}},
     };
     for (const Ricerca& r : ricerche) {

@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <fmt/format.h>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <fmt/format.h>
 #include <fstream>
 #include <nlohmann/json.hpp>
 
@@ -88,7 +88,8 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
     EXPECT_EQ(e["giorno"], r.giornoSettimana());
     ASSERT_EQ(e["ruote"].size(), 11u);
     for (int w = 1; w <= 11; ++w)
-        for (int p = 1; p <= 5; ++p) EXPECT_EQ(e["ruote"][static_cast<size_t>(w - 1)][static_cast<size_t>(p - 1)], r.Numero(w, p));
+        for (int p = 1; p <= 5; ++p)
+            EXPECT_EQ(e["ruote"][static_cast<size_t>(w - 1)][static_cast<size_t>(p - 1)], r.Numero(w, p));
     // The same draw by its date.
     EXPECT_EQ(json::parse(Su({"--json", "estrazione", r.dataTesto()}).out)["indice"], 7441);
 
@@ -107,26 +108,29 @@ TEST_F(Cli, InfoEstrazioneDataDieciSuper) {
 
 TEST_F(Cli, InputRifiutatoNonScriveNulla) {
     const std::string lungo(1200, 'x');
-    AttesiRifiuti(cartella_, {
-        {{"data", "1/1/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
-        {{"data", "31/02/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
-        {{"data", "01/01/1850"}, "La data non può essere inferiore alla data inizio gestione archivi (07/01/1871)"},
-        {{"data", "31/12/2025"}, "La data non può essere superiore alla data ultima estrazione inserita (30/12/2025)"},
-        {{"data", "01/01/1900", "--super"}, "La data non può essere inferiore"},
-        {{"estrazione", "0"}, "fuori dall'archivio"},
-        {{"estrazione", "99999"}, "fuori dall'archivio"},
-        {{"estrazione", "12x"}, "non è un indice valido"},
-        {{"super", "-3"}, "fuori dall'archivio del SuperEnalotto"},
-        {{"impostazione", "Options", "Url", lungo}, "troppo lungo (1200 caratteri)"},
-        {{"impostazione", "Settings", "RuoteConNz", "YYYY"}, "Servono 11 lettere"},
-        {{"impostazione", "Options", "Url", "abc"}, "Url non valida"},
-        {{"impostazione", "Restrizioni", "Dal", "31febbraio"}, "Serve il giorno"},
-        {{"impostazione", "Settings", "Inesistente", "1"}, "non è un'impostazione del programma"},
-        {{"demo", cartella_.string()}, "contiene già un archivio"},
-        {{"estrazione"}, "Manca il parametro obbligatorio"},
-        {{"info", "--boh"}, "Parametro non previsto"},
-                  },
-                  [&](const std::vector<std::string>& a) { return Su(a); });
+    AttesiRifiuti(
+        cartella_,
+        {
+            {{"data", "1/1/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
+            {{"data", "31/02/2000"}, "Inserire la data nel formato GG/MM/AAAA !"},
+            {{"data", "01/01/1850"}, "La data non può essere inferiore alla data inizio gestione archivi (07/01/1871)"},
+            {{"data", "31/12/2025"},
+             "La data non può essere superiore alla data ultima estrazione inserita (30/12/2025)"},
+            {{"data", "01/01/1900", "--super"}, "La data non può essere inferiore"},
+            {{"estrazione", "0"}, "fuori dall'archivio"},
+            {{"estrazione", "99999"}, "fuori dall'archivio"},
+            {{"estrazione", "12x"}, "non è un indice valido"},
+            {{"super", "-3"}, "fuori dall'archivio del SuperEnalotto"},
+            {{"impostazione", "Options", "Url", lungo}, "troppo lungo (1200 caratteri)"},
+            {{"impostazione", "Settings", "RuoteConNz", "YYYY"}, "Servono 11 lettere"},
+            {{"impostazione", "Options", "Url", "abc"}, "Url non valida"},
+            {{"impostazione", "Restrizioni", "Dal", "31febbraio"}, "Serve il giorno"},
+            {{"impostazione", "Settings", "Inesistente", "1"}, "non è un'impostazione del programma"},
+            {{"demo", cartella_.string()}, "contiene già un archivio"},
+            {{"estrazione"}, "Manca il parametro obbligatorio"},
+            {{"info", "--boh"}, "Parametro non previsto"},
+        },
+        [&](const std::vector<std::string>& a) { return Su(a); });
 }
 
 TEST_F(Cli, ArchiviDanneggiatiRifiutati) {
@@ -170,8 +174,8 @@ TEST_F(Cli, ImpostazioniScritteELette) {
 }
 
 TEST_F(Cli, Costruttore) {
-    const json e = json::parse(Su({"--json", "costruttore", "--valore", "27", "--ruote-ricerca", "tutte", "--ruote-gioco",
-                                   "tutte", "--indice-mese", "tutti", "--da", "01/01/2024"})
+    const json e = json::parse(Su({"--json", "costruttore", "--valore", "27", "--ruote-ricerca", "tutte",
+                                   "--ruote-gioco", "tutte", "--indice-mese", "tutti", "--da", "01/01/2024"})
                                    .out);
     ASSERT_FALSE(e["casi"].empty());
     ASSERT_FALSE(e["righe"].empty());
@@ -198,13 +202,15 @@ TEST_F(Cli, Costruttore) {
     // The file form of the list: header block, then one line a row; an existing file is
     // touched only when the question has an answer.
     const std::string report = (c_.percorso() / "ReportAlgoritmi.Txt").string();
-    const std::vector<std::string> ricerca = {"costruttore", "--valore", "27", "--ruote-ricerca", "tutte",
-                                              "--indice-mese", "tutti", "--da", "01/01/2024", "--report", report};
+    const std::vector<std::string> ricerca = {"costruttore", "--valore",      "27",    "--ruote-ricerca",
+                                              "tutte",       "--indice-mese", "tutti", "--da",
+                                              "01/01/2024",  "--report",      report};
     ASSERT_EQ(Su(ricerca).codice, 0);
     const std::string testo = LeggiFile(report);
     EXPECT_TRUE(test::ConfrontaConAtteso(testo, "cli/attesi/report_algoritmi.txt"));  // Windows-1252, CRLF
     size_t algoritmi = 0;
-    for (size_t p = testo.find("Algoritmo: "); p != std::string::npos; p = testo.find("Algoritmo: ", p + 1)) ++algoritmi;
+    for (size_t p = testo.find("Algoritmo: "); p != std::string::npos; p = testo.find("Algoritmo: ", p + 1))
+        ++algoritmi;
     EXPECT_EQ(algoritmi, e["righe"].size());
     r = Su(ricerca);
     EXPECT_EQ(r.codice, 2);
@@ -230,10 +236,10 @@ TEST(CliReale, ArchivioReale) {
     EXPECT_EQ(d["data"], "27/12/2025");
 }
 
-
 TEST_F(Cli, VerificaEPrevisioni) {
-    const std::vector<std::string> ricerca = {"--valore", "27", "--ruote-ricerca", "tutte", "--ruote-gioco", "tutte",
-                                              "--indice-mese", "tutti", "--da", "01/01/2024"};
+    const std::vector<std::string> ricerca = {"--valore",      "27",        "--ruote-ricerca", "tutte",
+                                              "--ruote-gioco", "tutte",     "--indice-mese",   "tutti",
+                                              "--da",          "01/01/2024"};
     auto con = [&](std::vector<std::string> a) {
         a.insert(a.end(), ricerca.begin(), ricerca.end());
         return Su(a);
@@ -279,16 +285,18 @@ TEST_F(Cli, VerificaEPrevisioni) {
               std::string::npos);
 
     // Refusals: the key's own fault, the period's, a missing key; nothing written, nothing printed.
-    AttesiRifiuti(cartella_, {
-        {{"verifica", "--chiave", "123"}, "Calcolo impossibile: algoritmo mancante."},
-        {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "contraddice --tipo terzine-ambo"},
-        {{"verifica", "--chiave", chiave, "--colpi", "0"}, "Inserire il n. di colpi di gioco !"},
-        {{"previsioni", "--chiave", chiave, "--chiave", "1"}, "Calcolo impossibile: algoritmo mancante."},
-        {{"previsioni", "--chiave", "010001+_27111111", "--terzine", (c_.percorso() / "manca.txt").string()},
-         "manca.txt"},
-        {{"verifica"}, "Manca il parametro obbligatorio"},
-                  },
-                  con);
+    AttesiRifiuti(
+        cartella_,
+        {
+            {{"verifica", "--chiave", "123"}, "Calcolo impossibile: algoritmo mancante."},
+            {{"verifica", "--chiave", chiave, "--tipo", "terzine-ambo"}, "contraddice --tipo terzine-ambo"},
+            {{"verifica", "--chiave", chiave, "--colpi", "0"}, "Inserire il n. di colpi di gioco !"},
+            {{"previsioni", "--chiave", chiave, "--chiave", "1"}, "Calcolo impossibile: algoritmo mancante."},
+            {{"previsioni", "--chiave", "010001+_27111111", "--terzine", (c_.percorso() / "manca.txt").string()},
+             "manca.txt"},
+            {{"verifica"}, "Manca il parametro obbligatorio"},
+        },
+        con);
 }
 
 // The writers from the command line, on a copy of the real archives.
@@ -330,7 +338,8 @@ TEST_F(CliManutenzione, AggiornaEsportaEsportaTesto) {
     const fs::path esportato = c_ / "esportato.bin";
     const Esito e = Su({"esporta", esportato.string(), "--da", "30/12/2025"});
     ASSERT_EQ(e.codice, 0) << e.err;
-    EXPECT_NE(e.out.find("Esportazione archivio " + esportato.string() + " al 21/08/2026 effettuata"), std::string::npos);
+    EXPECT_NE(e.out.find("Esportazione archivio " + esportato.string() + " al 21/08/2026 effettuata"),
+              std::string::npos);
     EXPECT_EQ(LeggiFile(esportato), LeggiFile(File("AggiornamentoPz.bin")));
     const json tutto = json::parse(Su({"--json", "esporta", esportato.string()}).out);
     EXPECT_EQ(tutto["esportate"], 10913 - 7772);
@@ -349,20 +358,22 @@ TEST_F(CliManutenzione, RifiutiSenzaScrivereNulla) {
     Scrivi(c_ / "67.bin", agg.substr(0, 67));
     Scrivi(c_ / "lacuna.bin", agg.substr(66));
     Scrivi(c_ / "rotto.txt", "2026/01/02\tBA\t1\t2\t3\t4\t5\n2026/01/02\tCA\t1\t2\t3\t4\n");
-    AttesiRifiuti(cartella_, {
-        {{"aggiorna", (c_ / "65.bin").string()}, (c_ / "65.bin").string() + " corrotto o mancante !"},
-        {{"aggiorna", (c_ / "67.bin").string()}, (c_ / "67.bin").string() + " corrotto o mancante !"},
-        {{"aggiorna", (c_ / "manca.bin").string()}, "manca.bin corrotto o mancante !"},
-        {{"aggiorna", (c_ / "lacuna.bin").string()}, "Discontinuità di memorizzazione - Aggiornamento impossibile"},
-        {{"aggiorna", File("AggiornamentoPz.bin"), "--super"}, "corrotto o mancante !"},
-        {{"importa", (c_ / "lacuna.bin").string()}, "Riga 1: formato non riconosciuto"},
-        {{"importa", (c_ / "rotto.txt").string()}, "Riga 2: formato non riconosciuto"},
-        {{"esporta", (c_ / "x.bin").string(), "--da", "32/01/2020"}, "Inserire la data nel formato GG/MM/AAAA !"},
-        {{"esporta", (cartella_ / "Archivi" / "Estrazioni.ind").string()}, "è un archivio del programma"},
-        {{"esporta-testo", (cartella_ / "Archivi" / "anni.ind").string()}, "è un archivio del programma"},
-        {{"aggiorna"}, "Manca il parametro obbligatorio"},
-                  },
-                  [&](const std::vector<std::string>& a) { return Su(a); });
+    AttesiRifiuti(
+        cartella_,
+        {
+            {{"aggiorna", (c_ / "65.bin").string()}, (c_ / "65.bin").string() + " corrotto o mancante !"},
+            {{"aggiorna", (c_ / "67.bin").string()}, (c_ / "67.bin").string() + " corrotto o mancante !"},
+            {{"aggiorna", (c_ / "manca.bin").string()}, "manca.bin corrotto o mancante !"},
+            {{"aggiorna", (c_ / "lacuna.bin").string()}, "Discontinuità di memorizzazione - Aggiornamento impossibile"},
+            {{"aggiorna", File("AggiornamentoPz.bin"), "--super"}, "corrotto o mancante !"},
+            {{"importa", (c_ / "lacuna.bin").string()}, "Riga 1: formato non riconosciuto"},
+            {{"importa", (c_ / "rotto.txt").string()}, "Riga 2: formato non riconosciuto"},
+            {{"esporta", (c_ / "x.bin").string(), "--da", "32/01/2020"}, "Inserire la data nel formato GG/MM/AAAA !"},
+            {{"esporta", (cartella_ / "Archivi" / "Estrazioni.ind").string()}, "è un archivio del programma"},
+            {{"esporta-testo", (cartella_ / "Archivi" / "anni.ind").string()}, "è un archivio del programma"},
+            {{"aggiorna"}, "Manca il parametro obbligatorio"},
+        },
+        [&](const std::vector<std::string>& a) { return Su(a); });
     EXPECT_FALSE(fs::exists(c_ / "x.bin"));
 }
 
@@ -372,7 +383,8 @@ TEST_F(CliManutenzione, ImportaInUnaCartellaVuotaEDaZip) {
     Scrivi(c_ / "rotto.txt", "2026/01/02\tBA\t1\t2\t3\t4\t5\n2026/01/02\tBA\t1\t2\t3\t4\t5\n");
     const Esito r = Su({"importa", (c_ / "rotto.txt").string()}, nuova);
     EXPECT_EQ(r.codice, 2);
-    EXPECT_NE(r.err.find("Riga 2: la ruota di Bari del 02/01/2026 compare già alla riga 1."), std::string::npos) << r.err;
+    EXPECT_NE(r.err.find("Riga 2: la ruota di Bari del 02/01/2026 compare già alla riga 1."), std::string::npos)
+        << r.err;
     EXPECT_FALSE(fs::exists(c_ / "nuova"));
 
     const Esito e = Su({"--json", "importa", File("storico-2026.txt")}, nuova);
@@ -406,7 +418,11 @@ TEST_F(CliManutenzione, ImportaSuperEnalotto) {
         const auto* r = reinterpret_cast<const archives::RecordSuperEnalotto*>(super.data() + super.size() - k * 20);
         lista += r->dataTesto();
         for (int n : r->Sestina) lista.append(";").append(std::to_string(n));
-        lista.append(";").append(std::to_string(r->Jolly)).append(";").append(std::to_string(r->SuperStar)).append("\n");
+        lista.append(";")
+            .append(std::to_string(r->Jolly))
+            .append(";")
+            .append(std::to_string(r->SuperStar))
+            .append("\n");
     }
     Scrivi(c_ / "super.csv", lista);
     const Esito e = Su({"--json", "importa", "--super", (c_ / "super.csv").string()});
@@ -457,26 +473,31 @@ TEST_F(Cli, Inserisci) {
     // Refusals and unanswered questions write nothing.
     std::string uguali = testo;
     uguali.replace(uguali.find(" 7 "), 3, " 6 ");
-    AttesiRifiuti(cartella_, {
-        {{"inserisci", uguali}, "Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?"},
-        {{"inserisci", "1 2 3 4 5 6 7 8 9 10"}, "Mancano alcuni numeri. Memorizzi ugualmente ?"},
-        {{"inserisci", testo, "--data", "30/12/2025"}, "L'estrazione del 30/12/2025 è già in archivio"},
-        {{"inserisci", testo, "--data", "31/12/2025"}, "In archivio non c'è un'estrazione del 31/12/2025"},
-        {{"inserisci", testo, "--data", "1/2/2026"}, "Inserire la data nel formato GG/MM/AAAA !"},
-        {{"inserisci", testo, "--data", "30/02/2026"}, "Inserire la data nel formato GG/MM/AAAA !"},
-        {{"inserisci", "12 34 56 91 22 33 44 55", "--conferma"}, "Valori incongruenti - Non è possibile decodificare"},
-        {{"inserisci", "1 2 3", "--conferma"}, "Testo troppo corto"},
-        {{"inserisci", "nessun numero qui", "--conferma"}, "Il testo non contiene numeri."},
-        {{"inserisci", "1 2 3 4 5 6 7 8", "--super", "--data", "01/01/2020"}, "In archivio non c'è"},
-                  },
-                  [&](const std::vector<std::string>& a) { return Su(a); });
+    AttesiRifiuti(
+        cartella_,
+        {
+            {{"inserisci", uguali}, "Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?"},
+            {{"inserisci", "1 2 3 4 5 6 7 8 9 10"}, "Mancano alcuni numeri. Memorizzi ugualmente ?"},
+            {{"inserisci", testo, "--data", "30/12/2025"}, "L'estrazione del 30/12/2025 è già in archivio"},
+            {{"inserisci", testo, "--data", "31/12/2025"}, "In archivio non c'è un'estrazione del 31/12/2025"},
+            {{"inserisci", testo, "--data", "1/2/2026"}, "Inserire la data nel formato GG/MM/AAAA !"},
+            {{"inserisci", testo, "--data", "30/02/2026"}, "Inserire la data nel formato GG/MM/AAAA !"},
+            {{"inserisci", "12 34 56 91 22 33 44 55", "--conferma"},
+             "Valori incongruenti - Non è possibile decodificare"},
+            {{"inserisci", "1 2 3", "--conferma"}, "Testo troppo corto"},
+            {{"inserisci", "nessun numero qui", "--conferma"}, "Il testo non contiene numeri."},
+            {{"inserisci", "1 2 3 4 5 6 7 8", "--super", "--data", "01/01/2020"}, "In archivio non c'è"},
+        },
+        [&](const std::vector<std::string>& a) { return Su(a); });
 
     // Yes to the question: stored, and the question said on the way.
     e = Su({"inserisci", uguali, "--conferma"});
     ASSERT_EQ(e.codice, 0) << e.err;
-    EXPECT_NE(e.out.find("Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?  Sì"), std::string::npos) << e.out;
-    EXPECT_NE(e.out.find("Estrazione n.2 del sabato 03/01/2026 memorizzata (progressivo " + std::to_string(n + 2) + ")"),
-              std::string::npos)
+    EXPECT_NE(e.out.find("Ci sono numeri uguali su stessa ruota. Memorizzi ugualmente ?  Sì"), std::string::npos)
+        << e.out;
+    EXPECT_NE(
+        e.out.find("Estrazione n.2 del sabato 03/01/2026 memorizzata (progressivo " + std::to_string(n + 2) + ")"),
+        std::string::npos)
         << e.out;
 
     // The correction of a stored draw: the year index does not move.

@@ -219,8 +219,7 @@ TEST(Formato, ControRiferimentoSuValoriCasuali) {
             const auto atteso = Riferimento(v, f);
             const auto ottenuto = Formato(v, f.formato);
             if (ottenuto != atteso && ++errori <= 20)
-                ADD_FAILURE() << Esatto(v) << " con \"" << f.formato << "\": " << ottenuto << " invece di "
-                              << atteso;
+                ADD_FAILURE() << Esatto(v) << " con \"" << f.formato << "\": " << ottenuto << " invece di " << atteso;
         }
     EXPECT_EQ(errori, 0);
 }

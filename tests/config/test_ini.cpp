@@ -241,8 +241,7 @@ TEST_F(FileIniTest, ScrittureCasualiControUnaMappa) {
             chiavi.resize(static_cast<std::size_t>(caso(6)));
             for (int k : chiavi) {
                 if (caso(3) == 0) {
-                    const std::string altra =
-                        caso(2) ? fmt::format("; nota {}", caso(100)) : "### rumore ###";
+                    const std::string altra = caso(2) ? fmt::format("; nota {}", caso(100)) : "### rumore ###";
                     altre.push_back(altra);
                     testo += altra + "\n";
                 }
@@ -295,16 +294,13 @@ TEST(Impostazioni, PredefinitiEPosizioni) {
         EXPECT_EQ(Predefinito("Forms", chiavi->left), "1000") << schermo;
         EXPECT_EQ(Predefinito("Forms", chiavi->top), "1000") << schermo;
     }
-    EXPECT_EQ(PosizioneFinestra("frmPrecursoriSaruni")->left,
-              PosizioneFinestra("frmPrecursoriTordelli")->left);
+    EXPECT_EQ(PosizioneFinestra("frmPrecursoriSaruni")->left, PosizioneFinestra("frmPrecursoriTordelli")->left);
     EXPECT_EQ(PosizioneFinestra("frmPrecursoriTordelliGruppi")->top, "PrecursoriTop");
 }
 
 TEST_F(FileIniTest, BooleaniEIndiciDiRicerca) {
-    for (std::string_view vero : {"True", "vero", "y", "-1", " 7 "})
-        EXPECT_EQ(TestoBooleano(vero), true) << vero;
-    for (std::string_view falso : {"FALSE", "Falso", "N", "0"})
-        EXPECT_EQ(TestoBooleano(falso), false) << falso;
+    for (std::string_view vero : {"True", "vero", "y", "-1", " 7 "}) EXPECT_EQ(TestoBooleano(vero), true) << vero;
+    for (std::string_view falso : {"FALSE", "Falso", "N", "0"}) EXPECT_EQ(TestoBooleano(falso), false) << falso;
     for (std::string_view altro : {"", "si", "1x"}) EXPECT_FALSE(TestoBooleano(altro)) << altro;
     ASSERT_TRUE(ScriviImpostazione(ini, "Settings", "Minimizza", "forse"));
     EXPECT_TRUE(LeggiBooleano(ini, "Settings", "Minimizza", true));

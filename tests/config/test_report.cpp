@@ -63,8 +63,8 @@ TEST(Cp1252, CaratteriNotiEInputRotto) {
     EXPECT_EQ(Utf8InCp1252("Ω\xC2\x80🙂"), "???");  // no byte for these
     // Invalid UTF-8: one "?" a bad byte, the rest read on.
     EXPECT_EQ(Utf8InCp1252("a\xE8z"), "a?z");
-    EXPECT_EQ(Utf8InCp1252("\xE2\x82"), "??");  // cut short
-    EXPECT_EQ(Utf8InCp1252("\xC0\xAF"), "??");  // overlong
+    EXPECT_EQ(Utf8InCp1252("\xE2\x82"), "??");            // cut short
+    EXPECT_EQ(Utf8InCp1252("\xC0\xAF"), "??");            // overlong
     EXPECT_EQ(Utf8InCp1252("\xED\xA0\x80"), "???");       // surrogate
     EXPECT_EQ(Utf8InCp1252("\xF4\x90\x80\x80"), "????");  // past U+10FFFF
     EXPECT_EQ(Utf8InCp1252(std::string("a\0b", 3)), std::string("a\0b", 3));
@@ -87,11 +87,8 @@ TEST(ReportTesto, TabellaConValoreCheSconfina) {
     ASSERT_EQ(kCopertura.larghezza(), 44);  // "°" is one cell
     ReportTesto r;
     r.apriTabella(kCopertura);
-    r.riga(r.rigaTabella()
-               .metti(2, "05/01/2021")
-               .metti(15, "Pos.1 + Pos.2")
-               .mettiDestra(39, "12")
-               .mettiDestra(43, "3"));
+    r.riga(
+        r.rigaTabella().metti(2, "05/01/2021").metti(15, "Pos.1 + Pos.2").mettiDestra(39, "12").mettiDestra(43, "3"));
     // The description overruns the next cells, and the values placed after it are written over it.
     r.riga(r.rigaTabella()
                .metti(2, "05/01/2021")
@@ -107,10 +104,8 @@ TEST(ReportTesto, RigaPerColonne) {
     // Places count characters: "°" and "à" take one cell each.
     EXPECT_EQ(RigaReport(10).metti(1, "°C").mettiDestra(10, "città").testo(), "°C   città");
     // Values that do not overlap land the same in any order.
-    EXPECT_EQ(RigaReport(12).mettiDestra(12, "  99").metti(1, "Bari  ").metti(6, " 1").testo(),
-              "Bari  1   99");
-    EXPECT_EQ(RigaReport(12).metti(6, " 1").metti(1, "Bari  ").mettiDestra(12, "  99").testo(),
-              "Bari  1   99");
+    EXPECT_EQ(RigaReport(12).mettiDestra(12, "  99").metti(1, "Bari  ").metti(6, " 1").testo(), "Bari  1   99");
+    EXPECT_EQ(RigaReport(12).metti(6, " 1").metti(1, "Bari  ").mettiDestra(12, "  99").testo(), "Bari  1   99");
     // Right-aligned text longer than the room on the left starts at column 1; what is placed
     // later overwrites it, blanks included, and a value past the width grows the row.
     EXPECT_EQ(RigaReport(6).mettiDestra(3, "123456").metti(5, "x").testo(), "1234x6");
@@ -175,9 +170,7 @@ TEST(ReportTesto, NuovaPaginaEGrassetto) {
 class ReportSuFile : public ::testing::Test {
 protected:
     static std::string Leggi(const fs::path& p) { return gorgo::test::LeggiFile(p); }
-    static void Metti(const fs::path& p, const std::string& dati) {
-        std::ofstream(p, std::ios::binary) << dati;
-    }
+    static void Metti(const fs::path& p, const std::string& dati) { std::ofstream(p, std::ios::binary) << dati; }
     std::vector<fs::path> Contenuto() const {
         std::vector<fs::path> v;
         for (const auto& e : fs::directory_iterator(cartella_)) v.push_back(e.path().filename());
@@ -225,8 +218,7 @@ TEST_F(ReportSuFile, SovrascriviSostituisceTuttoIlFile) {
     Metti(p, std::string(5000, 'v'));
     fs::permissions(p, fs::perms::owner_read | fs::perms::owner_write);
     const std::vector<std::string> righe = {"Città", "", "fine"};
-    EXPECT_TRUE(
-        ScriviReportSuFile(p, std::span<const std::string>(righe), ModoScrittura::Sovrascrivi).vuoto());
+    EXPECT_TRUE(ScriviReportSuFile(p, std::span<const std::string>(righe), ModoScrittura::Sovrascrivi).vuoto());
     EXPECT_EQ(Leggi(p), "Citt\xE0\r\n\r\nfine\r\n");
     EXPECT_EQ(fs::status(p).permissions(), fs::perms::owner_read | fs::perms::owner_write);
     EXPECT_EQ(Contenuto(), std::vector<fs::path>{"r.txt"});  // no temporary left
@@ -264,8 +256,7 @@ TEST_F(ReportSuFile, PercorsoNonScrivibile) {
     fs::create_directory(d);
     for (auto modo : {ModoScrittura::Accoda, ModoScrittura::Sovrascrivi}) {
         const auto m = ScriviReportSuFile(d, Report("x"), modo);
-        EXPECT_NE(m.testo.find("Impossibile scrivere il file " + d.string() + ": "), std::string::npos)
-            << m.testo;
+        EXPECT_NE(m.testo.find("Impossibile scrivere il file " + d.string() + ": "), std::string::npos) << m.testo;
     }
     EXPECT_EQ(Contenuto(), std::vector<fs::path>{"cartella.txt"});
     EXPECT_TRUE(fs::is_empty(d));

@@ -13,8 +13,8 @@
 #include "archives/data.h"
 #include "config/impostazioni.h"
 #include "config/ini.h"
-#include "support/cartelle.h"
 #include "config/restrizioni.h"
+#include "support/cartelle.h"
 
 namespace fs = std::filesystem;
 using namespace gorgo::config;
@@ -91,8 +91,7 @@ TEST_F(RestrizioniTest, FiltroControRiferimentoSuOgniGiorno) {
     };
 
     for (int giro = 0; giro < 40; ++giro) {
-        Scelta s{caso(2) == 0, caso(2) == 0, caso(3) != 0, lettere(7), lettere(12), 0, 1 + caso(12), 0,
-                 1 + caso(12)};
+        Scelta s{caso(2) == 0, caso(2) == 0, caso(3) != 0, lettere(7), lettere(12), 0, 1 + caso(12), 0, 1 + caso(12)};
         s.dalG = 1 + caso(kLunghezze[s.dalM - 1]);
         s.alG = 1 + caso(kLunghezze[s.alM - 1]);
         Imposta("Giorno", s.giorno ? "Y" : "N");
@@ -190,8 +189,7 @@ TEST_F(RestrizioniTest, GiornoDallaCifraENumeri) {
     // 01/01/2001 was a Monday: only the digit decides.
     EXPECT_TRUE(EstrazioneAmmessa(r, "01012001", '1'));
     EXPECT_TRUE(EstrazioneAmmessa(r, "01012001", '2'));
-    for (char cattivo : {'3', '0', '8', 'x'})
-        EXPECT_FALSE(EstrazioneAmmessa(r, "01012001", cattivo)) << cattivo;
+    for (char cattivo : {'3', '0', '8', 'x'}) EXPECT_FALSE(EstrazioneAmmessa(r, "01012001", cattivo)) << cattivo;
 
     // Numbers build their table, index 0 copying 90, and play no part in the filter.
     std::string numeri(90, '1');
@@ -231,8 +229,7 @@ TEST_F(RestrizioniTest, TestoRiepilogativo) {
     Imposta("Mesi", "YYYYYYYYYYYY");
     Imposta("Periodo", "N");
     Imposta("Numero", "N");
-    EXPECT_EQ(TestoRestrizioni(ini, false, true),
-              "     Solo estrazioni avvenute nei giorni di:  lun mar mer gio ven");
+    EXPECT_EQ(TestoRestrizioni(ini, false, true), "     Solo estrazioni avvenute nei giorni di:  lun mar mer gio ven");
 
     // Here an absent Giorni means the usual drawing days, so nothing shows.
     Imposta("Giorni", "NNYYYNY");
@@ -264,8 +261,7 @@ TEST_F(RestrizioniTest, PannelloDellaFinestraPrincipale) {
     EXPECT_EQ(p.visibile, (std::array<bool, 4>{true, true, false, true}));
     EXPECT_EQ(p.top[1], 280);
     EXPECT_EQ(p.top[3], 560);
-    EXPECT_EQ(TestoRestrizioni(ini, true, true),
-              "     Solo estrazioni avvenute tra il 01 gennaio e il 31 marzo");
+    EXPECT_EQ(TestoRestrizioni(ini, true, true), "     Solo estrazioni avvenute tra il 01 gennaio e il 31 marzo");
 }
 
 TEST_F(RestrizioniTest, DialogoCorreggeIGiorniEScriveLeChiavi) {

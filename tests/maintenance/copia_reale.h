@@ -21,7 +21,8 @@ protected:
         GORGO_RICHIEDI_ARCHIVI_REALI(reale);
         reale_ = reale;
         aggiornamenti_ = reale_.parent_path() / "aggiornamenti";
-        if (!std::filesystem::exists(aggiornamenti_ / fileAggiornamento)) GTEST_SKIP() << fileAggiornamento << " assente";
+        if (!std::filesystem::exists(aggiornamenti_ / fileAggiornamento))
+            GTEST_SKIP() << fileAggiornamento << " assente";
         CopiaArchiviReali(reale_, cartella());
         estrazioni_ = LeggiFile(archivi() / "Estrazioni.ind");
         anni_ = LeggiFile(archivi() / "anni.ind");

@@ -8,9 +8,9 @@
 #include <random>
 
 #include "archives/archivio.h"
+#include "copia_reale.h"
 #include "maintenance/aggiornamento.h"
 #include "support/archivi_reali.h"
-#include "copia_reale.h"
 #include "support/cartelle.h"
 
 namespace gorgo::maintenance {
@@ -122,7 +122,8 @@ TEST_F(AggiornamentoReale, UnFileDi65O67ByteECorrotto) {
     }
     // A missing file has the same message.
     const fs::path manca = tmp_ / "manca.bin";
-    EXPECT_EQ(ApplicaFileAggiornamento(a, manca, Gioco::Lotto).messaggio.testo, manca.string() + " corrotto o mancante !");
+    EXPECT_EQ(ApplicaFileAggiornamento(a, manca, Gioco::Lotto).messaggio.testo,
+              manca.string() + " corrotto o mancante !");
     AttesoIntatto();
 }
 
@@ -234,7 +235,9 @@ TEST_F(AggiornamentoReale, SuperEnalottoARecordDa20Byte) {
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo << " " << e.controllo.dettaglio;
     EXPECT_EQ(e.aggiunte, 15);
     EXPECT_EQ(a.NumeroEstrazioniSuper(), prima + 15);
-    EXPECT_EQ(e.messaggio.testo, "Aggiornamento archivi Superenalotto al " + a.DataEstrazione(a.NumeroEstrazioniSuper(), archives::ArchivioSuper) + " effettuato");
+    EXPECT_EQ(e.messaggio.testo, "Aggiornamento archivi Superenalotto al " +
+                                     a.DataEstrazione(a.NumeroEstrazioniSuper(), archives::ArchivioSuper) +
+                                     " effettuato");
     EXPECT_EQ(LeggiFile(archivi() / "SuperEnalotto.ind"), super_);
     EXPECT_EQ(LeggiFile(archivi() / "Estrazioni.ind"), estrazioni_);
     EXPECT_EQ(LeggiFile(archivi() / "anni.ind"), anni_);
@@ -387,7 +390,8 @@ TEST_F(AggiornamentoReale, MilleFileGuastiNonCorrompononoLArchivio) {
         const EsitoAggiornamento e = ApplicaAggiornamento(a, dati, Gioco::Lotto, "guasto.bin");
         const std::string estrazioni = LeggiFile(archivi() / "Estrazioni.ind");
         const std::string anni = LeggiFile(archivi() / "anni.ind");
-        ASSERT_TRUE(archives::VerificaIntegrita(a).vuoto()) << "prova " << prova << ": " << archives::VerificaIntegrita(a).testo;
+        ASSERT_TRUE(archives::VerificaIntegrita(a).vuoto())
+            << "prova " << prova << ": " << archives::VerificaIntegrita(a).testo;
         ASSERT_EQ(estrazioni.substr(0, estrazioni_.size()), estrazioni_) << "prova " << prova;
         ASSERT_EQ(anni.substr(0, anni_.size()), anni_) << "prova " << prova;
         if (e.aggiunte == 0) {
@@ -436,7 +440,8 @@ TEST_F(Esportazione, DalProgressivo7773AllaFine) {
 
 TEST_F(Esportazione, UnArchivioPiuCortoDi7773ScriveUnFileVuoto) {
     CartellaTemporanea demo;
-    test::CreaArchivioDemo(demo.percorso(), archives::ParametriDemo{1871, archives::Data{31, 12, 1920}, archives::Data{3, 1, 2009}});
+    test::CreaArchivioDemo(demo.percorso(),
+                           archives::ParametriDemo{1871, archives::Data{31, 12, 1920}, archives::Data{3, 1, 2009}});
     const archives::Archivio a = archives::Archivio::Apri(demo.percorso());
     ASSERT_LT(a.NumeroEstrazioni(), 7773);
     const fs::path file = demo / "vuoto.bin";
@@ -485,7 +490,8 @@ TEST_F(Esportazione, NonSostituisceIFileDellArchivio) {
         const fs::path file = cartella() / "Archivi" / ".." / "Archivi" / nome;
         const EsitoEsportazione e = EsportaAggiornamento(a, file);
         EXPECT_FALSE(e.riuscito);
-        EXPECT_EQ(e.messaggio.testo, "Il file " + file.string() + " è un archivio del programma: scegliere un altro nome.");
+        EXPECT_EQ(e.messaggio.testo,
+                  "Il file " + file.string() + " è un archivio del programma: scegliere un altro nome.");
     }
     EXPECT_FALSE(FileDellArchivio(a, tmp_ / "altro.bin"));
     AttesoIntatto();

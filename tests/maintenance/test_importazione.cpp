@@ -4,16 +4,16 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <fmt/format.h>
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
 #include "archives/archivio.h"
+#include "copia_reale.h"
 #include "maintenance/aggiornamento.h"
 #include "maintenance/importazione.h"
 #include "support/archivi_reali.h"
-#include "copia_reale.h"
 #include "support/cartelle.h"
 
 namespace gorgo::maintenance {
@@ -94,7 +94,8 @@ TEST_F(Importazione, EsportaTestoRiscriveStorico2026ByteAByte) {
     EXPECT_TRUE(e.creato);
     EXPECT_EQ(e.aggiunte, 135);
     EXPECT_EQ(e.anniAggiunti, 2);  // 2025 from its one draw, 2026
-    EXPECT_EQ(e.messaggio.testo, "Archivio delle estrazioni del Lotto creato: 135 estrazioni dal 30/12/2025 al 21/08/2026.");
+    EXPECT_EQ(e.messaggio.testo,
+              "Archivio delle estrazioni del Lotto creato: 135 estrazioni dal 30/12/2025 al 21/08/2026.");
     EXPECT_TRUE(archives::VerificaIntegrita(a).vuoto()) << archives::VerificaIntegrita(a).testo;
     EXPECT_EQ(EsportaTesto(a), storico_);
     // In a whole archive updated by the file, the same lines from 30/12/2025.
@@ -187,9 +188,9 @@ TEST_F(Importazione, UnaRigaErrataNeDiceIlNumero) {
     archives::Archivio a = Apri();
     const std::vector<std::string> linee = Linee(storico_);
     struct Caso {
-        int riga;              // 1-based line to replace (or to insert before with `inserisci`)
+        int riga;  // 1-based line to replace (or to insert before with `inserisci`)
         std::string testo;
-        std::string atteso;    // a part of the message
+        std::string atteso;  // a part of the message
         bool inserisci = false;
     };
     const Caso casi[] = {
@@ -201,7 +202,8 @@ TEST_F(Importazione, UnaRigaErrataNeDiceIlNumero) {
         {30, "2026/01/03\tBA\t33\t0\t81\t4\t8", "Riga 30: il numero 0 è fuori"},
         {30, "2026/01/03\tBA\t33\t1a\t81\t4\t8", "Riga 30: \"1a\" non è un numero."},
         {30, "2026/01/03\tBA\t33\t13\t33\t4\t8", "Riga 30: il numero 33 è ripetuto sulla ruota di Bari."},
-        {31, "2026/01/03\tBA\t1\t2\t3\t4\t5", "Riga 31: la ruota di Bari del 03/01/2026 compare già alla riga 23.", true},
+        {31, "2026/01/03\tBA\t1\t2\t3\t4\t5", "Riga 31: la ruota di Bari del 03/01/2026 compare già alla riga 23.",
+         true},
         {40, "2026/01/02\tRN\t1\t2\t3\t4\t5", "Riga 40: la data 02/01/2026 non è in ordine con quella della riga 39",
          true},
         {100, "2025/12/30\tBA\t1\t2\t3\t4\t5", "Riga 100: la data 30/12/2025 non è in ordine", true},
@@ -249,9 +251,8 @@ TEST_F(Importazione, LaContinuitaEQuellaDeiFileDiAggiornamento) {
 TEST_F(Importazione, FineRigaWindowsBomOrdineDiscendenteERuoteMancanti) {
     // CRLF, a byte order mark, newest first: the same records.
     std::vector<std::string> linee = Linee(storico_);
-    std::stable_sort(linee.begin(), linee.end(), [](const std::string& x, const std::string& y) {
-        return x.substr(0, 10) > y.substr(0, 10);
-    });
+    std::stable_sort(linee.begin(), linee.end(),
+                     [](const std::string& x, const std::string& y) { return x.substr(0, 10) > y.substr(0, 10); });
     {
         archives::Archivio a = Apri();
         const EsitoImportazione e = ImportaTesto(a, "\xEF\xBB\xBF" + Unisci(linee, "\r\n"), Gioco::Lotto);
@@ -302,12 +303,14 @@ TEST_F(Importazione, UnArchivioAnniSenzaEstrazioniNonSiCostruisce) {
 }
 
 // SuperEnalotto lists written from the real archive in the layouts players exchange.
-std::string ListaSuper(const std::vector<archives::RecordSuperEnalotto>& v, const std::string& formato, bool discendente) {
+std::string ListaSuper(const std::vector<archives::RecordSuperEnalotto>& v, const std::string& formato,
+                       bool discendente) {
     std::vector<std::string> righe;
     for (const auto& r : v) {
         const archives::Data d = r.data();
-        std::string data = formato == "gg" ? d.testo() : formato == "-" ? fmt::format("{:04}-{:02}-{:02}", d.anno, d.mese, d.giorno)
-                                                                        : fmt::format("{:04}/{:02}/{:02}", d.anno, d.mese, d.giorno);
+        std::string data = formato == "gg"  ? d.testo()
+                           : formato == "-" ? fmt::format("{:04}-{:02}-{:02}", d.anno, d.mese, d.giorno)
+                                            : fmt::format("{:04}/{:02}/{:02}", d.anno, d.mese, d.giorno);
         const std::string sep = formato == "-" ? ";" : "\t";
         std::string riga = data;
         for (int n : r.Sestina) riga.append(sep).append(std::to_string(n));
@@ -366,16 +369,17 @@ TEST_F(Importazione, SuperEnalottoRigheErrate) {
         {"2026/04/03\t1\t2\t3\t4\t5\t6\n", "Riga 4: la data 03/04/2026 non è in ordine"},
     };
     for (const auto& [riga, atteso] : casi) {
-        const EsitoImportazione e = ImportaTesto(a, buone + riga + "2026/04/09\t1\t2\t3\t4\t5\t6\n", Gioco::SuperEnalotto);
+        const EsitoImportazione e =
+            ImportaTesto(a, buone + riga + "2026/04/09\t1\t2\t3\t4\t5\t6\n", Gioco::SuperEnalotto);
         EXPECT_FALSE(e.riuscito) << riga;
         EXPECT_EQ(e.riga, 4) << e.messaggio.testo;
         EXPECT_NE(e.messaggio.testo.find(atteso), std::string::npos) << e.messaggio.testo;
     }
     EXPECT_EQ(fs::file_size(vuota / "Archivi/SuperEnalotto.ind"), 0u);
     // A contest number before the date, Jolly and SuperStar missing or empty.
-    const EsitoImportazione e =
-        ImportaTesto(a, "1;2026/04/02;1;2;3;4;5;6;7;8\n2;04/04/2026;11;12;13;14;15;16;;9\n3;2026-04-07;21;22;23;24;25;26\n",
-                     Gioco::SuperEnalotto);
+    const EsitoImportazione e = ImportaTesto(
+        a, "1;2026/04/02;1;2;3;4;5;6;7;8\n2;04/04/2026;11;12;13;14;15;16;;9\n3;2026-04-07;21;22;23;24;25;26\n",
+        Gioco::SuperEnalotto);
     ASSERT_TRUE(e.riuscito) << e.messaggio.testo;
     const archives::RecordSuperEnalotto r2 = a.LeggiRecordSuper(2), r3 = a.LeggiRecordSuper(3);
     EXPECT_EQ(r2.Jolly, 0);

@@ -97,8 +97,13 @@ TEST_F(Inserimento, DecodificaDelTesto) {
     };
     // A value out of 1..90 clears its box and stops there; the boxes before stay filled.
     for (const char* fuori : {"0", "91", "00", "99999999999999999999999"})
-        casi.push_back({fmt::format("11 22 33 {} 44 55 66", fuori), {{3, "vecchio"}, {10, "77"}},
-                        {{0, "11"}, {2, "33"}, {3, ""}, {4, ""}, {10, "77"}}, true, 3, -1, 4});
+        casi.push_back({fmt::format("11 22 33 {} 44 55 66", fuori),
+                        {{3, "vecchio"}, {10, "77"}},
+                        {{0, "11"}, {2, "33"}, {3, ""}, {4, ""}, {10, "77"}},
+                        true,
+                        3,
+                        -1,
+                        4});
     // 55 numbers with a mix of separators.
     Caso tutti{Testo55(), {}, {}, true, 55};
     for (size_t i = 0; i < 55; ++i) tutti.dopo.emplace_back(i, std::to_string(i + 1));
@@ -165,7 +170,6 @@ TEST_F(Inserimento, DataPropostaPerGiorniEstrazione) {
 }
 
 // ---------------------------------------------------------------- the engine on an archive
-
 
 TEST_F(Inserimento, ConsultaEModi) {
     archives::Archivio a = Apri();
@@ -328,7 +332,8 @@ TEST_F(Inserimento, CorrezioneDataTraIVicini) {
     archives::Archivio a = Apri();
     const int32_t n = a.NumeroEstrazioni();
     const int32_t indice = n - 2;
-    const archives::Data precedente = a.LeggiEstrazione(indice - 1).data(), successiva = a.LeggiEstrazione(indice + 1).data();
+    const archives::Data precedente = a.LeggiEstrazione(indice - 1).data(),
+                         successiva = a.LeggiEstrazione(indice + 1).data();
     Motore ins(a, GiocoInserimento::Lotto);
     ins.Mostra(indice);
     ins.Correggi();

@@ -4,14 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <fmt/format.h>
+#include <sys/wait.h>
 #include <QCoreApplication>
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <fmt/format.h>
 #include <fstream>
 #include <nlohmann/json.hpp>
-#include <sys/wait.h>
 
 #include "archives/archivio.h"
 #include "config/impostazioni.h"
@@ -31,9 +31,7 @@ using test::LeggiFile;
 using test::Risposta;
 using test::ServerLocale;
 
-std::span<const uint8_t> Byte(const std::string& s) {
-    return {reinterpret_cast<const uint8_t*>(s.data()), s.size()};
-}
+std::span<const uint8_t> Byte(const std::string& s) { return {reinterpret_cast<const uint8_t*>(s.data()), s.size()}; }
 
 // A body of `n` bytes of binary filler that holds none of the trigger words.
 std::string Riempimento(std::size_t n) {
@@ -100,7 +98,7 @@ protected:
     std::optional<fs::path> agg_;
 };
 
-#define RICHIEDI_CARTELLA()                                \
+#define RICHIEDI_CARTELLA()                                    \
     if (!test::CartellaReale()) GORGO_ARCHIVI_REALI_ASSENTI(); \
     if (!PreparaCartella()) GTEST_SKIP() << "gorgo-cli (GORGO_CLI) o file di aggiornamento assenti"
 
@@ -109,7 +107,8 @@ protected:
 TEST_F(Internet, NomiIndirizziECopiaLocale) {
     EXPECT_EQ(NomeRemoto(Gioco::Lotto), "AggiornamentoPz.bin");
     EXPECT_EQ(NomeRemoto(Gioco::SuperEnalotto), "AggiornamentoSuperEnalotto.bin");
-    EXPECT_EQ(IndirizzoAggiornamento("http://esempio.it/agg/", Gioco::Lotto), "http://esempio.it/agg/AggiornamentoPz.bin");
+    EXPECT_EQ(IndirizzoAggiornamento("http://esempio.it/agg/", Gioco::Lotto),
+              "http://esempio.it/agg/AggiornamentoPz.bin");
     // Without the final "/" the name joins the host's name and fails at the server.
     EXPECT_EQ(IndirizzoAggiornamento("http://esempio.it", Gioco::SuperEnalotto),
               "http://esempio.itAggiornamentoSuperEnalotto.bin");
@@ -233,7 +232,8 @@ TEST_F(Internet, ValutazioneDelloScaricamento) {
     // A body cut short is never used, even when it has the right size.
     Scaricamento troncato = Completo(Riempimento(660));
     troncato.completo = false;
-    troncato.erroreRete = "Scaricamento da http://127.0.0.1:9/AggiornamentoPz.bin interrotto: ricevuti 660 byte su 8910";
+    troncato.erroreRete =
+        "Scaricamento da http://127.0.0.1:9/AggiornamentoPz.bin interrotto: ricevuti 660 byte su 8910";
     v = ValutaScaricamento(troncato, Gioco::Lotto, copia);
     EXPECT_EQ(v.esito, EsitoScaricamento::ErroreConnessione);
     EXPECT_FALSE(v.scriviCopiaLocale);
@@ -250,15 +250,16 @@ TEST_F(Internet, ValutazioneDelloScaricamento) {
     v = ValutaScaricamento(Completo("404 Not Found" + Riempimento(200), 404, "Not Found"), Gioco::Lotto, copia);
     EXPECT_EQ(v.esito, EsitoScaricamento::PaginaNonTrovata);
     EXPECT_NE(v.dettaglio.find("HTTP 404 Not Found"), std::string::npos);
-    v = ValutaScaricamento(Completo("Proxy Authentication Required (407)" + Riempimento(200), 407,
-                                    "Proxy Authentication Required"),
-                           Gioco::Lotto, copia);
+    v = ValutaScaricamento(
+        Completo("Proxy Authentication Required (407)" + Riempimento(200), 407, "Proxy Authentication Required"),
+        Gioco::Lotto, copia);
     EXPECT_EQ(v.esito, EsitoScaricamento::ProxyAutenticazione);
     EXPECT_EQ(v.messaggio.testo, "Il server proxy richiede l'autenticazione - Aggiornamento impossibile");
     v = ValutaScaricamento(Completo(Riempimento(660), 500, "Internal Server Error"), Gioco::Lotto, copia);
     EXPECT_EQ(v.esito, EsitoScaricamento::ErroreHttp);
     EXPECT_EQ(v.stato, "Errore di connessione: verificare Url");
-    EXPECT_EQ(v.dettaglio, "http://127.0.0.1:9/AggiornamentoPz.bin: il server ha risposto HTTP 500 Internal Server Error");
+    EXPECT_EQ(v.dettaglio,
+              "http://127.0.0.1:9/AggiornamentoPz.bin: il server ha risposto HTTP 500 Internal Server Error");
     v = ValutaScaricamento(Completo("x", 404, "Not Found"), Gioco::SuperEnalotto, copia);
     EXPECT_EQ(v.esito, EsitoScaricamento::ErroreConnessione);
     EXPECT_NE(v.dettaglio.find("HTTP 404 Not Found"), std::string::npos);
@@ -334,7 +335,8 @@ TEST_F(Internet, ControlloDellArchivioStoricoScaricato) {
 
     k = ControllaScaricamentoStorico(Completo("<!DOCTYPE html><html>Il file si è spostato</html>"));
     EXPECT_FALSE(k.valido);
-    EXPECT_EQ(k.messaggio.testo.rfind("Il file scaricato non è un archivio zip né un file di testo delle estrazioni", 0), 0u);
+    EXPECT_EQ(
+        k.messaggio.testo.rfind("Il file scaricato non è un archivio zip né un file di testo delle estrazioni", 0), 0u);
     EXPECT_NE(k.messaggio.testo.find("127.0.0.1:9/AggiornamentoPz.bin: il server ha inviato una pagina HTML"),
               std::string::npos);
     k = ControllaScaricamentoStorico(Completo(std::string("\x01\x02\0\x03", 4)));
@@ -347,8 +349,9 @@ TEST_F(Internet, ControlloDellArchivioStoricoScaricato) {
 
     k = ControllaScaricamentoStorico(Completo("Not Found", 404, "Not Found"));
     EXPECT_FALSE(k.valido);
-    EXPECT_NE(k.messaggio.testo.find("http://127.0.0.1:9/AggiornamentoPz.bin: il server ha risposto HTTP 404 Not Found"),
-              std::string::npos);
+    EXPECT_NE(
+        k.messaggio.testo.find("http://127.0.0.1:9/AggiornamentoPz.bin: il server ha risposto HTTP 404 Not Found"),
+        std::string::npos);
     EXPECT_EQ(k.messaggio.titolo, "Archivio storico");
     Scaricamento cut = Completo(zip);
     cut.completo = false;
@@ -378,8 +381,10 @@ TEST_F(Internet, ScaricatoreFileInteroStatiInOrdine) {
     server_.Imposta("/AggiornamentoPz.bin", Risposta(200, "OK", corpo));
     network::Scaricatore s;
     std::vector<int> stati;
-    QObject::connect(&s, &network::Scaricatore::statoCambiato, [&](int stato, int, const QString&) { stati.push_back(stato); });
-    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
+    QObject::connect(&s, &network::Scaricatore::statoCambiato,
+                     [&](int stato, int, const QString&) { stati.push_back(stato); });
+    const network::RisultatoScaricamento r =
+        s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.riuscito()) << r.errore.toStdString();
     EXPECT_TRUE(r.completo);
     EXPECT_EQ(r.statoHttp, 200);
@@ -392,7 +397,8 @@ TEST_F(Internet, ScaricatoreFileInteroStatiInOrdine) {
 TEST_F(Internet, ScaricatoreStatus404CorpoEMotivo) {
     server_.Imposta("/x/AggiornamentoPz.bin", Risposta(404, "Not Found", "<html>404 Not Found</html>"));
     network::Scaricatore s;
-    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/x/AggiornamentoPz.bin")));
+    const network::RisultatoScaricamento r =
+        s.Scarica(QString::fromStdString(server_.Indirizzo("/x/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.completo);
     EXPECT_FALSE(r.riuscito());
     EXPECT_EQ(r.statoHttp, 404);
@@ -406,7 +412,8 @@ TEST_F(Internet, ScaricatoreStatus407DaUnServerNonProxy) {
     server_.Imposta("/AggiornamentoPz.bin", Risposta(407, "Proxy Authentication Required", corpo,
                                                      "Proxy-Authenticate: Basic realm=\"prova\"\r\n"));
     network::Scaricatore s;
-    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
+    const network::RisultatoScaricamento r =
+        s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.completo);
     EXPECT_EQ(r.statoHttp, 407);
     EXPECT_EQ(r.corpo.toStdString(), corpo);
@@ -417,8 +424,10 @@ TEST_F(Internet, ScaricatoreCorpoTroncato) {
     server_.Imposta("/AggiornamentoPz.bin", test::RispostaTroncata(corpo, 4026));
     network::Scaricatore s;
     std::vector<int> stati;
-    QObject::connect(&s, &network::Scaricatore::statoCambiato, [&](int stato, int, const QString&) { stati.push_back(stato); });
-    const network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
+    QObject::connect(&s, &network::Scaricatore::statoCambiato,
+                     [&](int stato, int, const QString&) { stati.push_back(stato); });
+    const network::RisultatoScaricamento r =
+        s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_FALSE(r.completo);
     EXPECT_FALSE(r.riuscito());
     EXPECT_EQ(r.errore.toStdString(), fmt::format("Scaricamento da {} interrotto: ricevuti 4026 byte su 8910",
@@ -444,7 +453,8 @@ TEST_F(Internet, ScaricatoreServerAssente) {
     const network::RisultatoScaricamento r = s.Scarica(indirizzo);
     EXPECT_FALSE(r.completo);
     EXPECT_EQ(r.statoHttp, 0);
-    EXPECT_EQ(r.errore, QStringLiteral("Scaricamento da %1 non riuscito: connessione rifiutata dal server").arg(indirizzo));
+    EXPECT_EQ(r.errore,
+              QStringLiteral("Scaricamento da %1 non riuscito: connessione rifiutata dal server").arg(indirizzo));
     EXPECT_EQ(codice, 1);
     EXPECT_EQ(testo, "connessione rifiutata dal server");
 }
@@ -480,7 +490,8 @@ TEST_F(Internet, ScaricatoreSegueIReindirizzamentiEHaUnLimite) {
     const std::string corpo = Riempimento(660);
     server_.Imposta("/nuovo/AggiornamentoPz.bin", Risposta(200, "OK", corpo));
     server_.Imposta("/AggiornamentoPz.bin",
-                    Risposta(301, "Moved Permanently", "", "Location: " + server_.Indirizzo("/nuovo/AggiornamentoPz.bin") + "\r\n"));
+                    Risposta(301, "Moved Permanently", "",
+                             "Location: " + server_.Indirizzo("/nuovo/AggiornamentoPz.bin") + "\r\n"));
     network::Scaricatore s;
     network::RisultatoScaricamento r = s.Scarica(QString::fromStdString(server_.Indirizzo("/AggiornamentoPz.bin")));
     EXPECT_TRUE(r.riuscito()) << r.errore.toStdString();
@@ -498,8 +509,9 @@ TEST_F(Internet, ScaricaRifiutiLascianoLArchivioComEraPoiIlFileBuonoAggiorna) {
     const std::string buono = LeggiFile(*agg_ / "AggiornamentoPz.bin");
     ASSERT_EQ(buono.size(), 8910u);
     const std::string prima = Archivi(cartella_);
-    const std::string pagina = "<!DOCTYPE html>\n<html><head><title>Pagina</title></head><body>Il file non c'è</body></html>" +
-                               std::string(200, ' ');
+    const std::string pagina =
+        "<!DOCTYPE html>\n<html><head><title>Pagina</title></head><body>Il file non c'è</body></html>" +
+        std::string(200, ' ');
     struct Caso {
         std::string percorso;
         test::RispostaHttp risposta;
@@ -576,8 +588,9 @@ TEST_F(Internet, ScaricaSuperEnalottoEIlSuo407) {
     RICHIEDI_CARTELLA();
     const std::string prima = Archivi(cartella_);
     // The twin's sieve has no rule for "407": the status of the answer refuses it.
-    server_.Imposta("/AggiornamentoSuperEnalotto.bin",
-                    Risposta(407, "Proxy Authentication Required", "Proxy Authentication Required 407" + Riempimento(200)));
+    server_.Imposta(
+        "/AggiornamentoSuperEnalotto.bin",
+        Risposta(407, "Proxy Authentication Required", "Proxy Authentication Required 407" + Riempimento(200)));
     Url("Url", server_.Indirizzo("/"));
     const Esito e = Su({"scarica", "--super"});
     EXPECT_EQ(e.codice, 2);

@@ -89,7 +89,8 @@ TEST_F(StampaEstrazioni, ListaCentoEstrazioniUnaPaginaCentounoDue) {
     // The hundred alone: the same first page but for the end date in the title.
     const auto pagine = Pagine(s), sole = Pagine(cento);
     ASSERT_EQ(sole.size(), 1u);
-    EXPECT_EQ(std::vector(sole[0].begin() + Testata, sole[0].end()), std::vector(pagine[0].begin() + Testata, pagine[0].end()));
+    EXPECT_EQ(std::vector(sole[0].begin() + Testata, sole[0].end()),
+              std::vector(pagine[0].begin() + Testata, pagine[0].end()));
 }
 
 TEST_F(StampaEstrazioni, BlocchiTrePerRigaQuattroRighePerPagina) {
@@ -168,7 +169,8 @@ TEST_F(StampaEstrazioni, MeseEDateVicine) {
     for (size_t k = Testata; k < s.righe.size(); ++k) date.push_back(s.righe[k].testo.substr(5, 10));
     ASSERT_EQ(date.size(), 11u);
     for (int anno = 2015; anno <= 2025; ++anno) {
-        const archives::Data soglia = archives::AnnoBisestile(anno) ? archives::Data{29, 2, anno} : archives::Data{1, 3, anno};
+        const archives::Data soglia =
+            archives::AnnoBisestile(anno) ? archives::Data{29, 2, anno} : archives::Data{1, 3, anno};
         const int32_t atteso = I(soglia);
         EXPECT_EQ(date[static_cast<size_t>(anno - 2015)], D(atteso)) << anno;
     }
@@ -178,7 +180,8 @@ TEST_F(StampaEstrazioni, MeseEDateVicine) {
     s = ComponiStampaLotto(A(), p);
     int atteso = 0;
     for (int anno = 2015; anno <= 2025; ++anno) {
-        const archives::Data soglia = archives::AnnoBisestile(anno) ? archives::Data{29, 2, anno} : archives::Data{1, 3, anno};
+        const archives::Data soglia =
+            archives::AnnoBisestile(anno) ? archives::Data{29, 2, anno} : archives::Data{1, 3, anno};
         atteso += A().LeggiEstrazione(I(soglia)).data().mese == 3;
     }
     EXPECT_EQ(s.estrazioni, atteso);
@@ -224,9 +227,9 @@ TEST_F(StampaEstrazioni, ControlliPrimaDellaPrimaPagina) {
     EXPECT_EQ(s.titolo1, "Gorgo - Stampa estrazioni dal " + s.dataInizio + " al " + s.dataFine);
     // A range between two draws finds the later start and the earlier end.
     const int32_t i = I({2, 1, 2020});
-    const StampaComposta vuota =
-        ComponiStampaLotto(A(), Parametri(archives::Data::daGiorni(A().LeggiEstrazione(i).data().giorni() + 1).testo(),
-                                          archives::Data::daGiorni(A().LeggiEstrazione(i + 1).data().giorni() - 1).testo()));
+    const StampaComposta vuota = ComponiStampaLotto(
+        A(), Parametri(archives::Data::daGiorni(A().LeggiEstrazione(i).data().giorni() + 1).testo(),
+                       archives::Data::daGiorni(A().LeggiEstrazione(i + 1).data().giorni() - 1).testo()));
     EXPECT_EQ(vuota.errore.testo, "Data finale minore della data iniziale !");
 }
 
@@ -246,7 +249,8 @@ TEST_F(StampaEstrazioni, SuperEnalotto) {
     EXPECT_EQ(RigaSuper(e), "| 07/03/2024 |   01 02                |       |           |");
 
     const int32_t n = A().NumeroEstrazioniSuper();
-    const std::string da = A().DataEstrazione(n - 50, archives::ArchivioSuper), a = A().DataEstrazione(n, archives::ArchivioSuper);
+    const std::string da = A().DataEstrazione(n - 50, archives::ArchivioSuper),
+                      a = A().DataEstrazione(n, archives::ArchivioSuper);
     const StampaComposta s = ComponiStampaSuper(A(), Parametri(da, a, 0));
     ASSERT_TRUE(s.errore.vuoto()) << s.errore.testo;
     EXPECT_EQ(s.layout, LayoutStampa::ListaSuper);

@@ -1,6 +1,7 @@
 // frmAggiornamenti, frmAggiornamentiSuper and frmEsportazione on a copy of the real archives:
 // the file dialogs answered by the test, the messages collected instead of shown.
 
+#include <gtest/gtest.h>
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,15 +9,14 @@
 #include <QPushButton>
 #include <QTest>
 #include <fstream>
-#include <gtest/gtest.h>
 
 #include "archives/archivio.h"
 #include "config/ini.h"
 #include "screens/common/messaggi.h"
-#include "screens/maintenance/frm_aggiornamenti.h"
-#include "screens/maintenance/frm_esportazione.h"
 #include "screens/common/scelta_file.h"
 #include "screens/common/sessione.h"
+#include "screens/maintenance/frm_aggiornamenti.h"
+#include "screens/maintenance/frm_esportazione.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
@@ -47,7 +47,8 @@ protected:
         aggiornamenti_ = reale->parent_path() / "aggiornamenti";
         if (!fs::exists(aggiornamenti_ / "AggiornamentoPz.bin")) GTEST_SKIP() << "AggiornamentoPz.bin assente";
         test::CopiaArchiviReali(*reale, cartella_);
-        archivio_ = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
+        archivio_ = std::make_unique<archives::Archivio>(
+            archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
         gestorePrima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
             messaggi_.push_back(m);
             return QMessageBox::Ok;
@@ -112,8 +113,9 @@ TEST_F(Aggiornamenti, FileCorrottoLacunaNienteDiNuovoEPoiLAggiornamento) {
     ASSERT_EQ(dialoghi_.size(), 1u);
     EXPECT_EQ(dialoghi_[0].modo, ModoSceltaFile::Apri);
     EXPECT_EQ(dialoghi_[0].titolo, "Apri");
-    EXPECT_EQ(dialoghi_[0].filtro, "File aggiornamento Gorgo (*.bin)|*.bin|File aggiornamento Gorgo (*.alb)|*.alb|"
-                                   "Tutti i file (*.*)|*.*");
+    EXPECT_EQ(dialoghi_[0].filtro,
+              "File aggiornamento Gorgo (*.bin)|*.bin|File aggiornamento Gorgo (*.alb)|*.alb|"
+              "Tutti i file (*.*)|*.*");
     EXPECT_TRUE(messaggi_.empty());
 
     // 67 bytes.
@@ -194,7 +196,8 @@ TEST_F(Aggiornamenti, SuperEnalottoConIlSuoFiltroIlSuoMessaggioEIlSuoAiuto) {
     const std::string super = LeggiFile(cartella_ / "Archivi/SuperEnalotto.ind");
     archivio_.reset();
     fs::resize_file(cartella_ / "Archivi/SuperEnalotto.ind", super.size() - 3 * 20);
-    archivio_ = std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
+    archivio_ =
+        std::make_unique<archives::Archivio>(archives::Archivio::Apri(cartella_, archives::ModoApertura::Scrittura));
     Scrivi(c_ / "super.bin", super.substr(super.size() - 10 * 20));
 
     QPointer<FrmAggiornamentiSuper> f = new FrmAggiornamentiSuper(sessione_, *archivio_);

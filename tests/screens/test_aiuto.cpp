@@ -1,5 +1,6 @@
 // The help windows: sections of HelpUtility.txt in frmHelp, HTML topics in frmAiuto.
 
+#include <gtest/gtest.h>
 #include <QApplication>
 #include <QDialog>
 #include <QFile>
@@ -10,7 +11,6 @@
 #include <QTest>
 #include <QTextBrowser>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include <fstream>
 #include <string>
@@ -107,8 +107,8 @@ protected:
 };
 
 const std::vector<std::string> SezioniSpedite = {gs::SezioneAmboEnucleato, gs::SezioneUtility,
-                                                  gs::SezioneNumeriSimpatici, gs::SezioneAmbateAmbiTerniMulti,
-                                                  gs::SezionePuntiIncogniti};
+                                                 gs::SezioneNumeriSimpatici, gs::SezioneAmbateAmbiTerniMulti,
+                                                 gs::SezionePuntiIncogniti};
 
 TEST_F(Aiuto, OgniSezioneSpeditaSiApreConLeSueRighe) {
     const fs::path spedito = gs::CartellaDati() / "HelpUtility.txt";
@@ -263,9 +263,9 @@ TEST_F(Aiuto, Command1ChiudeELaListaSegueLaFinestra) {
     EXPECT_EQ(Finestra("frmHelp"), nullptr);
 }
 
-const std::vector<int> Contesti = {gs::AiutoInserimento,         gs::AiutoConsultazione,    gs::AiutoSommeDistanze,
-                                   gs::AiutoAggiornamentiSuper,  gs::AiutoAggiornaSuperInternet,
-                                   gs::AiutoEsportazione,        gs::AiutoStampaEstrazioni, gs::AiutoOpzioni};
+const std::vector<int> Contesti = {
+    gs::AiutoInserimento,           gs::AiutoConsultazione, gs::AiutoSommeDistanze,    gs::AiutoAggiornamentiSuper,
+    gs::AiutoAggiornaSuperInternet, gs::AiutoEsportazione,  gs::AiutoStampaEstrazioni, gs::AiutoOpzioni};
 
 TEST_F(Aiuto, HelpContextApreLArgomentoDiOgniNumero) {
     for (int n : Contesti) {
@@ -306,8 +306,8 @@ TEST_F(Aiuto, LIndiceRimandaATuttiGliArgomenti) {
         EXPECT_FALSE(pagina.contains("src=")) << voce.path();
         for (auto m = collegamento.globalMatch(pagina); m.hasNext();) {
             const QString destinazione = m.next().captured(1);
-            EXPECT_TRUE(fs::exists(cartella / destinazione.toStdString())) << voce.path() << " -> "
-                                                                          << destinazione.toStdString();
+            EXPECT_TRUE(fs::exists(cartella / destinazione.toStdString()))
+                << voce.path() << " -> " << destinazione.toStdString();
         }
     }
 

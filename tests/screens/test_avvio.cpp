@@ -5,16 +5,16 @@
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QTimer>
 #include <QLabel>
 #include <QPushButton>
 #include <QTest>
+#include <QTimer>
 #include <atomic>
 #include <fstream>
 #include <thread>
 
-#include "archives/demo.h"
 #include "app/avvio.h"
+#include "archives/demo.h"
 #include "screens/common/elaborazioni.h"
 #include "screens/common/messaggi.h"
 #include "support/archivi_reali.h"
@@ -86,7 +86,8 @@ TEST(Avvio, ArchiviMancantiFinisconoIlProgramma) {
 
 TEST(Avvio, UnaSolaIstanza) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(),
+                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     Messaggi m;
     std::unique_ptr<QLockFile> primo, secondo;
     auto principale = AvviaProgramma(c.percorso(), primo);
@@ -110,7 +111,8 @@ TEST(Avvio, UnaSolaIstanza) {
 // "Cambia..." opens the restrictions; their confirm shows in the panel at once.
 TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(),
+                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     Messaggi m;
     std::unique_ptr<QLockFile> blocco;
     auto principale = AvviaProgramma(c.percorso(), blocco);
@@ -137,7 +139,8 @@ TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
 // before the archives are opened, and the user is told.
 TEST(Avvio, ArchiviRiparatiAllApertura) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(),
+                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     const std::string anni = test::LeggiFile(c / "Archivi/anni.ind");
     std::filesystem::resize_file(c / "Archivi/anni.ind", anni.size() - 12);
     { std::ofstream(c / "Archivi/Estrazioni.ind", std::ios::app | std::ios::binary) << "mezzo record"; }
@@ -154,7 +157,8 @@ TEST(Avvio, ArchiviRiparatiAllApertura) {
 
 TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(),
+                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     { std::ofstream(c / "Gorgo.ini") << "[Forms]\nMainLeft=99999999\nMainTop=-5000000\n"; }
     Messaggi m;
     std::unique_ptr<QLockFile> blocco;
@@ -174,7 +178,8 @@ TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
 // window refuses to close, and a click on cmdStop ends the job soon.
 TEST(Elaborazioni, StopDiUnLavoroInCorso) {
     CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(), archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+    test::CreaArchivioDemo(c.percorso(),
+                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
     Messaggi m;
     std::unique_ptr<QLockFile> blocco;
     auto principale = AvviaProgramma(c.percorso(), blocco);

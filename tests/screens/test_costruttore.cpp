@@ -9,16 +9,16 @@
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
-#include <QRadioButton>
 #include <QListWidget>
 #include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
 
-#include "builder/report.h"
 #include "app/avvio.h"
+#include "builder/report.h"
 #include "screens/builder/frm_costruttore.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
@@ -181,10 +181,9 @@ TEST_F(Costruttore, ListaStampataComeIlFile) {
     Imposta();
     ASSERT_TRUE(Cerca());
     const Programma& programma = principale_->programma();
-    const builder::EsitoRicerca e =
-        builder::CercaAlgoritmi(f_->Parametri(), builder::PreparaCostruttore(programma.archivio->Storia(), programma.ini,
-                                                                             c_.percorso())
-                                                     .Contesto());
+    const builder::EsitoRicerca e = builder::CercaAlgoritmi(
+        f_->Parametri(),
+        builder::PreparaCostruttore(programma.archivio->Storia(), programma.ini, c_.percorso()).Contesto());
     const config::ReportTesto r = builder::ReportAlgoritmi(f_->Parametri(), e, *programma.archivio->Storia());
     const QString pdf = QString::fromStdString((c_ / "lista.pdf").string());
     OpzioniStampa o;

@@ -1,6 +1,7 @@
 // The settings dialogs (restrictions, drawing days, address, colours) and ApplicaStile, driven
 // through their controls by objectName on a temporary program folder.
 
+#include <gtest/gtest.h>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDesktopServices>
@@ -17,7 +18,6 @@
 #include <QVBoxLayout>
 #include <cmath>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -26,13 +26,13 @@
 #include "config/ini.h"
 #include "config/restrizioni.h"
 #include "screens/common/browser.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/sessione.h"
+#include "screens/common/stile.h"
 #include "screens/config/frm_colori.h"
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
-#include "screens/common/messaggi.h"
-#include "screens/common/sessione.h"
-#include "screens/common/stile.h"
 #include "support/cartelle.h"
 
 namespace gorgo::screens {
@@ -50,9 +50,7 @@ protected:
             return QMessageBox::Ok;
         });
     }
-    void TearDown() override {
-        ImpostaGestoreMessaggi(gestorePrima_);
-    }
+    void TearDown() override { ImpostaGestoreMessaggi(gestorePrima_); }
 
     std::filesystem::path FileIni() const { return cartella_ / "Gorgo.ini"; }
     void ScriviIni(const std::string& testo) const { std::ofstream(FileIni(), std::ios::binary) << testo; }

@@ -18,9 +18,9 @@
 #include <QTest>
 #include <functional>
 
+#include "app/avvio.h"
 #include "archives/archivio.h"
 #include "archives/demo.h"
-#include "app/avvio.h"
 #include "screens/common/messaggi.h"
 #include "screens/maintenance/frm_input_estrazioni.h"
 #include "screens/maintenance/frm_stampa_estrazioni.h"
@@ -195,7 +195,8 @@ TEST_F(InserimentoSchermo, IncollaEMemorizzaConDomanda) {
     Trova<QPlainTextEdit>(f, "Text1")->setPlainText("12 34 56 0 78 90 11 22");
     Clic(f, "cmdInserisci");
     ASSERT_EQ(m.visti.size(), 1u);
-    EXPECT_EQ(m.visti[0].testo, "Valori incongruenti - Non è possibile decodificare  (tutto o in parte) il testo copiato !");
+    EXPECT_EQ(m.visti[0].testo,
+              "Valori incongruenti - Non è possibile decodificare  (tutto o in parte) il testo copiato !");
     EXPECT_EQ(m.visti[0].titolo, "Errore");
     EXPECT_EQ(Casella(f, 3)->text(), "56");
     EXPECT_EQ(Casella(f, 4)->text(), "");
@@ -263,7 +264,8 @@ TEST_F(InserimentoSchermo, SuperEnalottoMemorizzaDopoLaChiusura) {
     Trova<QPlainTextEdit>(f, "Text1")->setPlainText("3 14 15 92");
     // Straight to the store: the paste is decoded first, and stops on 92.
     Clic(f, "cmdMemorizza");
-    EXPECT_EQ(m.visti.back().testo, "Valori incongruenti - Non è possibile decodificare  (tutto o in parte) il testo copiato !");
+    EXPECT_EQ(m.visti.back().testo,
+              "Valori incongruenti - Non è possibile decodificare  (tutto o in parte) il testo copiato !");
     EXPECT_EQ(Archivio().NumeroEstrazioniSuper(), n);
     Trova<QPlainTextEdit>(f, "Text1")->setPlainText("3 14 15 22 65 35 - 8, 9");
     Clic(f, "cmdInserisci");
@@ -356,7 +358,8 @@ TEST_F(InserimentoSchermo, StampaDiOgniLayoutInPdf) {
     EXPECT_NE(tabella.find("0000000001 1111111112 2222222223"), std::string::npos);
     EXPECT_NE(tabella.find("1234567890 1234567890 1234567890"), std::string::npos);
 
-    auto* super = static_cast<FrmStampaEstrazioni*>(Apri("mnuEstrazioniStampaSuper", "frmStampaEstrazioniSuperEnalotto"));
+    auto* super =
+        static_cast<FrmStampaEstrazioni*>(Apri("mnuEstrazioniStampaSuper", "frmStampaEstrazioniSuperEnalotto"));
     ASSERT_NE(super, nullptr);
     EXPECT_EQ(super->findChild<QComboBox*>("cboRuota"), nullptr);
     Trova<QLineEdit>(super, "txtDataInizio")->setText("01/01/2025");

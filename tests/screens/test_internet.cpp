@@ -2,6 +2,9 @@
 // test's own on 127.0.0.1: the states of lblStatus, the cancel, the sieve's messages, the
 // question and the update on a copy of the real archives; the main window's entries.
 
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+#include <zip.h>
 #include <QAction>
 #include <QApplication>
 #include <QLabel>
@@ -9,17 +12,14 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <fmt/format.h>
-#include <gtest/gtest.h>
-#include <zip.h>
 
+#include "app/avvio.h"
 #include "archives/archivio.h"
 #include "config/impostazioni.h"
 #include "config/ini.h"
 #include "maintenance/aggiornamento.h"
 #include "maintenance/server_locale.h"
 #include "network/scaricatore.h"
-#include "app/avvio.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/sessione.h"
 #include "screens/maintenance/frm_aggiorna_internet.h"
@@ -66,7 +66,8 @@ protected:
         aggiornamenti_ = reale->parent_path() / "aggiornamenti";
         buono_ = LeggiFile(aggiornamenti_ / "AggiornamentoPz.bin");
         test::CopiaArchiviReali(*reale, c_.percorso());
-        archivio_ = std::make_unique<archives::Archivio>(archives::Archivio::Apri(c_.percorso(), archives::ModoApertura::Scrittura));
+        archivio_ = std::make_unique<archives::Archivio>(
+            archives::Archivio::Apri(c_.percorso(), archives::ModoApertura::Scrittura));
         prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons b) {
             if (b & QMessageBox::Yes) {
                 domande_.push_back(m);
@@ -205,8 +206,8 @@ TEST_F(AggiornaInternet, RifiutiDelSetaccioEDellaConnessione) {
     const std::vector<Caso> casi = {
         {"/corto/", Risposta(200, "OK", buono_.substr(0, 151)), "", "Errore di connessione: verificare Url", ""},
         {"/troncato/", test::RispostaTroncata(buono_, 4026), "",
-         "Errore di connessione: verificare Url\nScaricamento da " + server_.Indirizzo("/troncato/AggiornamentoPz.bin") +
-             " interrotto: ricevuti 4026 byte su 8910",
+         "Errore di connessione: verificare Url\nScaricamento da " +
+             server_.Indirizzo("/troncato/AggiornamentoPz.bin") + " interrotto: ricevuti 4026 byte su 8910",
          ""},
         {"/html/", Risposta(200, "OK", pagina), "File non trovato sul server - Verificare l'indirizzo internet",
          "Finito", pagina},
@@ -294,8 +295,7 @@ TEST_F(AggiornaInternet, ErroreDiConnessioneNelloStato) {
 
 TEST_F(AggiornaInternet, IlGemelloSuperEnalotto) {
     const std::string prima = Archivi(c_.percorso());
-    server_.Imposta("/AggiornamentoSuperEnalotto.bin",
-                    Risposta(200, "OK", "Proxy 407 " + Riempimento(190)));
+    server_.Imposta("/AggiornamentoSuperEnalotto.bin", Risposta(200, "OK", "Proxy 407 " + Riempimento(190)));
     Url("Url", server_.Indirizzo("/"));
     FrmAggiornaSuperInternet f(sessione_, *archivio_);
     f.show();
@@ -334,7 +334,8 @@ TEST_F(AggiornaInternet, ScaricaStorico) {
     QLineEdit* url = Trova<QLineEdit>(&f, "txtUrlStorico");
     EXPECT_TRUE(url->text().isEmpty());
     QTest::mouseClick(Trova<QPushButton>(&f, "cmdScarica"), Qt::LeftButton);
-    EXPECT_EQ(TestiMessaggi(), std::vector<std::string>{"L'indirizzo dell'archivio storico (UrlStorico) non è impostato"});
+    EXPECT_EQ(TestiMessaggi(),
+              std::vector<std::string>{"L'indirizzo dell'archivio storico (UrlStorico) non è impostato"});
 
     messaggi_.clear();
     url->setText(QString::fromStdString(server_.Indirizzo("/pagina.zip")));
@@ -351,7 +352,8 @@ TEST_F(AggiornaInternet, ScaricaStorico) {
     QTest::mouseClick(Trova<QPushButton>(&f, "cmdScarica"), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] { return !messaggi_.empty(); }, 10000));
     ASSERT_EQ(domande_.size(), 1u);
-    EXPECT_NE(domande_[0].testo.find("134 estrazioni nuove, fino al 21/08/2026"), std::string::npos) << domande_[0].testo;
+    EXPECT_NE(domande_[0].testo.find("134 estrazioni nuove, fino al 21/08/2026"), std::string::npos)
+        << domande_[0].testo;
     EXPECT_EQ(archivio_->NumeroEstrazioni(), 10913);
     EXPECT_EQ(aggiornato.count(), 1);
     // The address is kept for the next time.

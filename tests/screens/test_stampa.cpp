@@ -1,13 +1,13 @@
 // Printed reports hold the same lines as the file reports, page by page with their
 // headers; the file side asks before it touches an existing file.
 
+#include <gtest/gtest.h>
 #include <QApplication>
 #include <QFontInfo>
 #include <QMessageBox>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cmath>
@@ -90,7 +90,11 @@ std::vector<std::vector<std::string>> PagineACelle(const fs::path& pdf) {
         for (auto m = parola.globalMatch(pagina); m.hasNext();) {
             const auto p = m.next();
             QString t = p.captured(4);
-            t.replace("&lt;", "<").replace("&gt;", ">").replace("&quot;", "\"").replace("&apos;", "'").replace("&amp;", "&");
+            t.replace("&lt;", "<")
+                .replace("&gt;", ">")
+                .replace("&quot;", "\"")
+                .replace("&apos;", "'")
+                .replace("&amp;", "&");
             pagine.back().push_back({p.captured(1).toDouble(), p.captured(2).toDouble(), p.captured(3).toDouble(), t});
         }
     }
@@ -143,7 +147,8 @@ struct Geometria {
 Geometria GeometriaDelPdf(const fs::path& pdf) {
     const QString xml = QString::fromStdString(Comando("pdftotext", {"-bbox", "-enc", "UTF-8", Q(pdf), "-"}));
     static const QRegularExpression parola(
-        "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">([a-zA-Z0-9|*-]{3,})</word>");
+        "<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" "
+        "yMax=\"([0-9.]+)\">([a-zA-Z0-9|*-]{3,})</word>");
     Geometria g;
     for (auto m = parola.globalMatch(xml); m.hasNext();) {
         const auto p = m.next();
@@ -200,14 +205,20 @@ gc::ReportTesto ReportDiProva() {
                    "| Data spia | Descrizione algor.  | Pr.| C.|"});
     for (int i = 1; i <= 120; ++i) {
         auto riga = r.rigaTabella();
-        riga.metti(1, "|").metti(3, QString("%1/03/19%2").arg(i % 28 + 1, 2, 10, QChar('0')).arg(i % 90 + 10).toStdString());
+        riga.metti(1, "|").metti(
+            3, QString("%1/03/19%2").arg(i % 28 + 1, 2, 10, QChar('0')).arg(i % 90 + 10).toStdString());
         riga.metti(13, "|").metti(15, "1° estratto + " + std::to_string(i) + (i % 7 == 0 ? " (già)" : ""));
-        riga.metti(37, "|").mettiDestra(40, std::to_string(i % 13)).metti(41, "|").mettiDestra(43, std::to_string(i % 9));
+        riga.metti(37, "|")
+            .mettiDestra(40, std::to_string(i % 13))
+            .metti(41, "|")
+            .mettiDestra(43, std::to_string(i % 9));
         riga.metti(44, "|");
         r.riga(riga);
         if (i % 25 == 0) r.riga("Totale parziale " + std::to_string(i), true);
-        if (i == 100) r.chiudiTabella().nuovaPagina().apriTabella({"Seguito della tabella", "*-----------*---------------------°----*---*",
-                                                        "| Data spia | Descrizione algor.  | Pr.| C.|"});
+        if (i == 100)
+            r.chiudiTabella().nuovaPagina().apriTabella({"Seguito della tabella",
+                                                         "*-----------*---------------------°----*---*",
+                                                         "| Data spia | Descrizione algor.  | Pr.| C.|"});
     }
     r.chiudiTabella();
     r.rigaVuota();
@@ -286,7 +297,7 @@ TEST_F(Stampa, OgniPaginaHaLaSuaIntestazione) {
     ASSERT_EQ(testi.size(), pagine.size());
     for (std::size_t n = 0; n < pagine.size(); ++n) {
         const auto intestazione = gc::IntestazionePagina(opzioni.titolo1.toStdString(), opzioni.titolo2.toStdString(),
-                                                          static_cast<int>(n + 1));
+                                                         static_cast<int>(n + 1));
         ASSERT_GE(pagine[n].size(), 3u);
         // Title 1 and 2 centred, "Pag." at column 65: the first three lines of the page.
         EXPECT_EQ(pagine[n][0], intestazione[1].testo) << "pagina " << n + 1;
@@ -521,13 +532,15 @@ protected:
 TEST_F(StampaSuFile, NuovoFileNelFolderDelProgramma) {
     const fs::path file = cartella_ / "Risultati.Txt";
     dialogo_.risposta = Q(file);
-    EXPECT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, primo_, QStringLiteral("Risultati"), gs::DomandaFile::InCalce));
+    EXPECT_TRUE(
+        gs::SalvaReportSuFile(nullptr, sessione_, primo_, QStringLiteral("Risultati"), gs::DomandaFile::InCalce));
     EXPECT_EQ(dialogo_.chiamate, 1);
     EXPECT_EQ(dialogo_.titolo, "Salva risultati su file");
     EXPECT_EQ(dialogo_.proposto, Q(cartella_ / "Risultati.Txt"));
     EXPECT_EQ(dialogo_.filtro, "File di testo (*.Txt)");
     EXPECT_EQ(domanda_.chiamate, 0);
-    EXPECT_EQ(gorgo::test::LeggiFile(file), gc::Utf8InCp1252("Gorgo 2 - Ideato da Sergio Tordelli\r\n\r\nCittà: 90°\r\n"));
+    EXPECT_EQ(gorgo::test::LeggiFile(file),
+              gc::Utf8InCp1252("Gorgo 2 - Ideato da Sergio Tordelli\r\n\r\nCittà: 90°\r\n"));
 }
 
 TEST_F(StampaSuFile, InCalceConSi) {
@@ -537,7 +550,8 @@ TEST_F(StampaSuFile, InCalceConSi) {
     domanda_.risposta = QMessageBox::Yes;
     ASSERT_TRUE(gs::SalvaReportSuFile(nullptr, sessione_, secondo_, "r.Txt", gs::DomandaFile::InCalce));
     EXPECT_EQ(domanda_.chiamate, 1);
-    EXPECT_EQ(domanda_.testo, "Il file " + file.string() + " è già esistente. Le informazioni vanno aggiunte in calce ?");
+    EXPECT_EQ(domanda_.testo,
+              "Il file " + file.string() + " è già esistente. Le informazioni vanno aggiunte in calce ?");
     EXPECT_EQ(domanda_.titolo, "Conferma");
     EXPECT_EQ(domanda_.pulsanti, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     EXPECT_EQ(domanda_.predefinito, QMessageBox::No);

@@ -21,7 +21,7 @@ bool ArchiviRealiObbligatori();
 // Fails (with CI=true) or skips the current test because the real archives are absent.
 // Returns from the enclosing function: in a helper, the caller checks HasFatalFailure()
 // and IsSkipped().
-#define GORGO_ARCHIVI_REALI_ASSENTI()                                                               \
+#define GORGO_ARCHIVI_REALI_ASSENTI()                                                              \
     do {                                                                                           \
         if (::gorgo::test::ArchiviRealiObbligatori())                                              \
             GTEST_FAIL() << "archivi reali assenti ($GORGO_SHARED/dati/Archivi o ../shared/dati) " \
@@ -30,7 +30,7 @@ bool ArchiviRealiObbligatori();
     } while (false)
 
 // Binds `var` to the real program folder, or fails/skips as above when it is absent.
-#define GORGO_RICHIEDI_ARCHIVI_REALI(var)                           \
-    auto var##_opt = ::gorgo::test::CartellaReale();                \
-    if (!var##_opt) GORGO_ARCHIVI_REALI_ASSENTI();                  \
+#define GORGO_RICHIEDI_ARCHIVI_REALI(var)            \
+    auto var##_opt = ::gorgo::test::CartellaReale(); \
+    if (!var##_opt) GORGO_ARCHIVI_REALI_ASSENTI();   \
     const std::filesystem::path var = *var##_opt

@@ -49,7 +49,8 @@ std::string Visibile(std::string_view linea) {
     const char* aggiorna = std::getenv("GORGO_AGGIORNA_ATTESI");
     if (aggiorna && std::string_view(aggiorna) == "1") {
         fs::create_directories(file.parent_path());
-        std::ofstream(file, std::ios::binary | std::ios::trunc).write(testo.data(), static_cast<std::streamsize>(testo.size()));
+        std::ofstream(file, std::ios::binary | std::ios::trunc)
+            .write(testo.data(), static_cast<std::streamsize>(testo.size()));
         return ::testing::AssertionSuccess() << "riscritto " << file.string();
     }
     if (!fs::exists(file))
@@ -63,7 +64,8 @@ std::string Visibile(std::string_view linea) {
     esito << "diverso da " << file.string() << " (GORGO_AGGIORNA_ATTESI=1 lo riscrive)\n";
     size_t mostrate = 0;
     for (size_t i = 0; i < std::max(a.size(), b.size()) && mostrate < 20; ++i) {
-        const std::string_view x = i < a.size() ? a[i] : std::string_view(), y = i < b.size() ? b[i] : std::string_view();
+        const std::string_view x = i < a.size() ? a[i] : std::string_view(),
+                               y = i < b.size() ? b[i] : std::string_view();
         if (x == y) continue;
         ++mostrate;
         esito << "riga " << i + 1 << ":\n";

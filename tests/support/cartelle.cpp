@@ -1,11 +1,11 @@
 #include "support/cartelle.h"
 
+#include <unistd.h>
+#include <zip.h>
 #include <atomic>
 #include <fstream>
 #include <random>
 #include <sstream>
-#include <unistd.h>
-#include <zip.h>
 
 #include <gtest/gtest.h>
 
@@ -16,9 +16,8 @@ namespace fs = std::filesystem;
 CartellaTemporanea::CartellaTemporanea() {
     static std::atomic<int> contatore{0};
     std::random_device rd;
-    percorso_ = fs::temp_directory_path() /
-                ("gorgo-test-" + std::to_string(::getpid()) + "-" + std::to_string(contatore++) + "-" +
-                 std::to_string(rd()));
+    percorso_ = fs::temp_directory_path() / ("gorgo-test-" + std::to_string(::getpid()) + "-" +
+                                             std::to_string(contatore++) + "-" + std::to_string(rd()));
     fs::create_directories(percorso_);
 }
 

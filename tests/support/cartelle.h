@@ -35,6 +35,7 @@ std::string LeggiFile(const std::filesystem::path& percorso);
 
 // The bytes of a zip made as the public archive is: the entries with their names, deflated;
 // a name ending in "/" is a folder. Built in `cartella`, which is left as it was.
-std::string CreaZip(const std::filesystem::path& cartella, const std::vector<std::pair<std::string, std::string>>& voci);
+std::string CreaZip(const std::filesystem::path& cartella,
+                    const std::vector<std::pair<std::string, std::string>>& voci);
 
 }  // namespace gorgo::test

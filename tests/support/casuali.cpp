@@ -22,7 +22,8 @@ std::vector<archives::RecordEstrazione> EstrazioniCasuali(std::mt19937& g, const
     pd.fine = archives::Data{31, 12, o.ultimoAnno};
     const auto tutte = archives::GeneraStoriaDemo(pd);
     const int primoAnno = o.ultimoAnno - o.anni + 1;
-    const auto inizio = std::find_if(tutte.begin(), tutte.end(), [&](const auto& r) { return r.data().anno >= primoAnno; });
+    const auto inizio =
+        std::find_if(tutte.begin(), tutte.end(), [&](const auto& r) { return r.data().anno >= primoAnno; });
     std::vector<archives::RecordEstrazione> v(inizio, tutte.end());
     for (size_t i = 0; i < v.size(); ++i) {
         auto& r = v[i];

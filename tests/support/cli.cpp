@@ -1,9 +1,9 @@
 #include "support/cli.h"
 
+#include <sys/wait.h>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/wait.h>
 
 #include "support/cartelle.h"
 

@@ -1,5 +1,6 @@
 #include "screens/builder/frm_costruttore.h"
 
+#include <fmt/format.h>
 #include <QButtonGroup>
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -9,18 +10,17 @@
 #include <QIntValidator>
 #include <QSplitter>
 #include <QVBoxLayout>
-#include <fmt/format.h>
 
-#include "builder/report.h"
 #include "archives/archivio.h"
+#include "builder/report.h"
 #include "config/impostazioni.h"
-#include "screens/common/caselle.h"
-#include "screens/common/twips.h"
 #include "screens/builder/satelliti.h"
+#include "screens/common/caselle.h"
 #include "screens/common/elaborazioni.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
 #include "screens/common/stile.h"
+#include "screens/common/twips.h"
 
 namespace gorgo::screens {
 
@@ -28,7 +28,9 @@ namespace {
 
 QString Q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
-QDate DataQt(const std::string& gg_mm_aaaa) { return QDate::fromString(QString::fromStdString(gg_mm_aaaa), "dd/MM/yyyy"); }
+QDate DataQt(const std::string& gg_mm_aaaa) {
+    return QDate::fromString(QString::fromStdString(gg_mm_aaaa), "dd/MM/yyyy");
+}
 
 // Lists sort by the text of their cells, the numbers being right-justified in them.
 QTreeWidget* Lista(QWidget* parent, const char* nome, const QStringList& teste) {
@@ -202,11 +204,12 @@ QGroupBox* FrmCostruttore::CreaFrameRuote() {
     CreaCaselle<QCheckBox>(fraRuote, gr, {.perRiga = 6}, QStringLiteral("chkRuota"), 0, nomi, chkRuota_);
     gr->addWidget(new QLabel(QStringLiteral("di gioco:"), fraRuote), 2, 0, 1, 6);
     CreaCaselle<QCheckBox>(fraRuote, gr, {3, 0, 6}, QStringLiteral("chkRuotaG"), 0, nomi, chkRuotaG_);
-    const config::CaselleRuote ricerca = config::CaricaRuoteConNz(config::LeggiImpostazione(
-        sessione_.ini, config::sezioni::Settings, "RuoteConNz", config::Predefinito(config::sezioni::Settings, "RuoteConNz")));
-    const config::CaselleRuote gioco = config::CaricaRuoteGioco(config::LeggiImpostazione(
-        sessione_.ini, config::sezioni::Settings, "RuoteConNzGioco",
-        config::Predefinito(config::sezioni::Settings, "RuoteConNzGioco")));
+    const config::CaselleRuote ricerca = config::CaricaRuoteConNz(
+        config::LeggiImpostazione(sessione_.ini, config::sezioni::Settings, "RuoteConNz",
+                                  config::Predefinito(config::sezioni::Settings, "RuoteConNz")));
+    const config::CaselleRuote gioco = config::CaricaRuoteGioco(
+        config::LeggiImpostazione(sessione_.ini, config::sezioni::Settings, "RuoteConNzGioco",
+                                  config::Predefinito(config::sezioni::Settings, "RuoteConNzGioco")));
     caricamento_ = true;
     for (int w = 0; w <= 11; ++w) {
         chkRuota_[static_cast<size_t>(w)]->setChecked(ricerca[static_cast<size_t>(w)]);
@@ -317,12 +320,11 @@ QGridLayout* FrmCostruttore::CreaComandi() {
     txtColpiDaGiocare_ = CasellaColpi(this, "txtColpiDaGiocare");
     auto* selezionaInCorso = pulsante("cmdSelezionaAlgoInCorso", QStringLiteral("Seleziona algoritmi in corso"),
                                       &FrmCostruttore::SelezionaInCorso);
-    auto* previsioni = pulsante("cmdCalcoloPrevisioni", QStringLiteral("Calcolo previsioni..."),
-                                &FrmCostruttore::CalcolaPrevisioni);
+    auto* previsioni =
+        pulsante("cmdCalcoloPrevisioni", QStringLiteral("Calcolo previsioni..."), &FrmCostruttore::CalcolaPrevisioni);
     const char* report[] = {"Riepilogo della tecnica selezionata", "Dettaglio vincite", "Dettaglio vincite"};
     for (int i = 0; i < 3; ++i) {
-        cmdReport_[static_cast<size_t>(i)] =
-            pulsante(QStringLiteral("cmdReport_%1").arg(i), Q(report[i]), nullptr);
+        cmdReport_[static_cast<size_t>(i)] = pulsante(QStringLiteral("cmdReport_%1").arg(i), Q(report[i]), nullptr);
         cmdReport_[static_cast<size_t>(i)]->setEnabled(false);
     }
     cmdReport_[1]->setToolTip(QString::fromUtf8("Disponibile in una prossima versione"));
@@ -374,18 +376,20 @@ QGridLayout* FrmCostruttore::CreaComandi() {
 // parameters than its own.
 void FrmCostruttore::CollegaSvuotamento() {
     auto svuota = [this] { SvuotaRisultati(); };
-    for (auto* b : optSpia_) connect(b, &QRadioButton::toggled, this, [this, svuota](bool on) {
-        if (on) {
-            AggiornaPerSpia();
-            svuota();
-        }
-    });
-    for (auto* b : optTipo_) connect(b, &QRadioButton::toggled, this, [this, svuota](bool on) {
-        if (on) {
-            AggiornaPerSpia();
-            svuota();
-        }
-    });
+    for (auto* b : optSpia_)
+        connect(b, &QRadioButton::toggled, this, [this, svuota](bool on) {
+            if (on) {
+                AggiornaPerSpia();
+                svuota();
+            }
+        });
+    for (auto* b : optTipo_)
+        connect(b, &QRadioButton::toggled, this, [this, svuota](bool on) {
+            if (on) {
+                AggiornaPerSpia();
+                svuota();
+            }
+        });
     connect(cboTipoRicerca_, &QComboBox::currentIndexChanged, this, [this, svuota] {
         AggiornaPerTipoRicerca();
         svuota();
@@ -393,11 +397,12 @@ void FrmCostruttore::CollegaSvuotamento() {
     connect(cboNumero_, &QComboBox::currentIndexChanged, this, svuota);
     connect(cboSortite_, &QComboBox::currentIndexChanged, this, svuota);
     connect(cboIndice_, &QComboBox::currentIndexChanged, this, svuota);
-    connect(chkTuttiGliIndici_, &QCheckBox::toggled, this, [this](bool on) { cboIndice_->setCurrentIndex(on ? 22 : 0); });
+    connect(chkTuttiGliIndici_, &QCheckBox::toggled, this,
+            [this](bool on) { cboIndice_->setCurrentIndex(on ? 22 : 0); });
     for (QDateEdit* d : {DTPickerDa_, DTPickerA_}) connect(d, &QDateEdit::dateChanged, this, svuota);
     for (auto* t : {txtAmbo_[1], txtAmbo_[2], txtColpi_}) connect(t, &QLineEdit::textEdited, this, svuota);
-    for (auto* b : {optTipoAmbi_[0], optTipoAmbi_[1], optPosizioni_[0], optPosizioni_[1], optPeriodo_[0], optPeriodo_[1],
-                    optSorte_[0], optSorte_[1]})
+    for (auto* b : {optTipoAmbi_[0], optTipoAmbi_[1], optPosizioni_[0], optPosizioni_[1], optPeriodo_[0],
+                    optPeriodo_[1], optSorte_[0], optSorte_[1]})
         connect(b, &QRadioButton::toggled, this, svuota);
     for (int p = 1; p <= 5; ++p) {
         connect(chkPosizione_[static_cast<size_t>(p)], &QCheckBox::toggled, this, svuota);
@@ -409,8 +414,8 @@ void FrmCostruttore::CollegaSvuotamento() {
 
 QString FrmCostruttore::TestaSpia() const {
     const int i = optSpia_[0] ? std::max(0, static_cast<int>(std::find_if(optSpia_.begin(), optSpia_.end(),
-                                                                           [](auto* b) { return b->isChecked(); }) -
-                                                              optSpia_.begin()))
+                                                                          [](auto* b) { return b->isChecked(); }) -
+                                                             optSpia_.begin()))
                               : 0;
     static const char* teste[] = {"Numero", "Somma", "Differ.", "Ambo"};
     return Q(teste[std::min(i, 3)]);
@@ -496,7 +501,8 @@ builder::ParametriRicerca FrmCostruttore::Parametri() const {
     p.amboSpia = {txtAmbo_[1]->text().toInt(), txtAmbo_[2]->text().toInt()};
     p.tuttiGliAmbi = optTipoAmbi_[1]->isChecked();
     p.posizioneDeterminata = optPosizioni_[1]->isChecked();
-    for (int i = 1; i <= 5; ++i) p.posizioniSpia[static_cast<size_t>(i)] = chkPosizione_[static_cast<size_t>(i)]->isChecked();
+    for (int i = 1; i <= 5; ++i)
+        p.posizioniSpia[static_cast<size_t>(i)] = chkPosizione_[static_cast<size_t>(i)]->isChecked();
     p.perData = optPeriodo_[1]->isChecked() ? 1 : 0;
     p.dataDa = DTPickerDa_->date().toString("dd/MM/yyyy").toStdString();
     p.dataA = DTPickerA_->date().toString("dd/MM/yyyy").toStdString();
@@ -511,7 +517,8 @@ builder::ParametriRicerca FrmCostruttore::Parametri() const {
     const int k = cboTipoRicerca_->currentIndex();
     p.tipoRicerca = static_cast<builder::TipoRicerca>(std::max(0, k));
     p.soloPosizione = chkPosizionale_->isChecked();
-    for (int i = 1; i <= 5; ++i) p.posizioniValide[static_cast<size_t>(i)] = chkPosizioneA_[static_cast<size_t>(i)]->isChecked();
+    for (int i = 1; i <= 5; ++i)
+        p.posizioniValide[static_cast<size_t>(i)] = chkPosizioneA_[static_cast<size_t>(i)]->isChecked();
     p.sorte = optSorte_[1]->isChecked() ? 3 : 2;
     for (int i = 0; i < 3; ++i) p.operazioni[static_cast<size_t>(i)] = chkOper_[static_cast<size_t>(i)]->isChecked();
     p.colpiDaGiocare = txtColpiDaGiocare_->text().toInt();
@@ -553,7 +560,8 @@ void FrmCostruttore::Calcola() {
     SvuotaRisultati();
     const builder::ParametriRicerca p = Parametri();
     // Validation first, on this thread: a refusal shows its message and focuses its control.
-    const builder::RicercaValidata v = builder::ValidaRicerca(p, *contesto_->storia, &contesto_->terzine, contesto_->fileTerzine);
+    const builder::RicercaValidata v =
+        builder::ValidaRicerca(p, *contesto_->storia, &contesto_->terzine, contesto_->fileTerzine);
     if (!v.errore.vuoto()) {
         MostraMessaggio(this, v.errore);
         if (QWidget* w = findChild<QWidget*>(QString::fromStdString(v.focus))) w->setFocus();
@@ -581,10 +589,10 @@ void FrmCostruttore::MostraEsito(const builder::EsitoRicerca& e) {
     esito_ = e;
     ListaRisultati_->setSortingEnabled(false);
     for (const builder::RigaAlgoritmo& r : e.righe) {
-        auto* item = new QTreeWidgetItem(ListaRisultati_,
-                                         {QString::fromStdString(r.descrizione), QString::fromStdString(r.testoSortite()),
-                                          QString::fromStdString(r.testoPresenze()),
-                                          QString::fromStdString(r.testoPercentuale()), QString::fromStdString(r.testoSpia)});
+        auto* item = new QTreeWidgetItem(
+            ListaRisultati_, {QString::fromStdString(r.descrizione), QString::fromStdString(r.testoSortite()),
+                              QString::fromStdString(r.testoPresenze()), QString::fromStdString(r.testoPercentuale()),
+                              QString::fromStdString(r.testoSpia)});
         item->setCheckState(0, r.selezionata ? Qt::Checked : Qt::Unchecked);
         item->setData(0, Qt::UserRole, QString::fromStdString(r.chiave));
         item->setData(0, Qt::UserRole + 1, static_cast<int>(&r - e.righe.data()));
@@ -593,11 +601,11 @@ void FrmCostruttore::MostraEsito(const builder::EsitoRicerca& e) {
     ListaRisultati_->sortByColumn(2, Qt::DescendingOrder);
     lstVListaUscite_->setSortingEnabled(false);
     for (const builder::CasoSpia& c : e.casi)
-        new QTreeWidgetItem(lstVListaUscite_,
-                            {QString::fromStdString(c.data), QString::fromStdString(c.nomeRuota),
-                             QString::fromStdString(c.testoSpia), QString::fromStdString(c.testoPosizione),
-                             QString::fromStdString(c.testoIndiceMese), QString::fromStdString(c.testoIndiceAnnuale),
-                             QString::fromStdString(c.testoIndice)});
+        new QTreeWidgetItem(
+            lstVListaUscite_,
+            {QString::fromStdString(c.data), QString::fromStdString(c.nomeRuota), QString::fromStdString(c.testoSpia),
+             QString::fromStdString(c.testoPosizione), QString::fromStdString(c.testoIndiceMese),
+             QString::fromStdString(c.testoIndiceAnnuale), QString::fromStdString(c.testoIndice)});
     lstVListaUscite_->setSortingEnabled(true);
     lstVListaUscite_->sortByColumn(6, Qt::DescendingOrder);
     for (QTreeWidget* l : {ListaRisultati_, lstVListaUscite_})
@@ -640,7 +648,9 @@ void FrmCostruttore::FileAlgoritmi() {
 
 namespace {
 
-QColor ColoreVb(uint32_t c) { return QColor(static_cast<int>(c & 0xFF), static_cast<int>((c >> 8) & 0xFF), static_cast<int>((c >> 16) & 0xFF)); }
+QColor ColoreVb(uint32_t c) {
+    return QColor(static_cast<int>(c & 0xFF), static_cast<int>((c >> 8) & 0xFF), static_cast<int>((c >> 16) & 0xFF));
+}
 
 }  // namespace
 
@@ -761,7 +771,9 @@ void FrmCostruttore::StampaVerifica() {
     OpzioniStampa o;
     o.titolo1 = QStringLiteral("Algoritmo");
     o.titolo2 = QString::fromStdString(riga.descrizione);
-    StampaReport(this, builder::StampaVerificaRighe(parametriEsito_, verifica_, riga.descrizione, *contesto_->storia).righe(), o);
+    StampaReport(this,
+                 builder::StampaVerificaRighe(parametriEsito_, verifica_, riga.descrizione, *contesto_->storia).righe(),
+                 o);
 }
 
 void FrmCostruttore::FileVerifica() {

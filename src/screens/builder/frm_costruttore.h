@@ -80,7 +80,7 @@ private:
     builder::ParametriRicerca parametriEsito_;  // the parameters the shown results belong to
     builder::EsitoVerifica verifica_;           // the replay of the row clicked last
     int rigaAperta_ = -1;                       // its place in esito_.righe
-    bool caricamento_ = false;  // the boxes' own handlers do not save while they are being set
+    bool caricamento_ = false;                  // the boxes' own handlers do not save while they are being set
     bool elaborazione_ = false;
 
     std::array<QRadioButton*, 4> optSpia_{};

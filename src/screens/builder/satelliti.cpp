@@ -83,8 +83,9 @@ FrmAlgoritmiCalcolati::FrmAlgoritmiCalcolati(Sessione& sessione, QWidget* parent
     lista->setObjectName("lvConvergenze");
     lista->setRootIsDecorated(false);
     lista->setFont(FontFisso());
-    lista->setHeaderLabels({QStringLiteral("Descrizione algoritmo"), QStringLiteral("Previsione"), QStringLiteral("Rit."),
-                            QStringLiteral("R.Max"), QStringLiteral("Freq."), QStringLiteral("I.C.")});
+    lista->setHeaderLabels({QStringLiteral("Descrizione algoritmo"), QStringLiteral("Previsione"),
+                            QStringLiteral("Rit."), QStringLiteral("R.Max"), QStringLiteral("Freq."),
+                            QStringLiteral("I.C.")});
     for (const builder::RigaPrevisione& r : esito.righe)
         new QTreeWidgetItem(lista, {QString::fromStdString(r.descrizione), QString::fromStdString(r.previsione),
                                     QString::fromStdString(r.ritardo), QString::fromStdString(r.ritardoMax),
@@ -105,8 +106,8 @@ FrmAlgoritmiCalcolati::FrmAlgoritmiCalcolati(Sessione& sessione, QWidget* parent
     ApplicaStile(this, sessione_.ini);
 }
 
-FrmListaSortite::FrmListaSortite(const config::FileIni& ini, QWidget* parent, const std::vector<builder::CasoSpia>& casi,
-                                 const QString& testaSpia)
+FrmListaSortite::FrmListaSortite(const config::FileIni& ini, QWidget* parent,
+                                 const std::vector<builder::CasoSpia>& casi, const QString& testaSpia)
     : QWidget(parent, Qt::Window) {
     setObjectName("frmListaSortite");
     setWindowTitle(QStringLiteral("Dettaglio delle sortite"));

@@ -67,7 +67,8 @@ Elaborazione* Elaborazione::Avvia(QWidget* parent, Sessione& sessione, const QSt
     e->thread_ = std::thread([e, stato, finestra, token, lavoro = std::move(lavoro), fine = std::move(fine)]() mutable {
         Progresso progresso = [finestra](const std::string& testo, int valore, int massimo) {
             QMetaObject::invokeMethod(
-                finestra, [finestra, t = QString::fromStdString(testo), valore, massimo] {
+                finestra,
+                [finestra, t = QString::fromStdString(testo), valore, massimo] {
                     if (finestra) finestra->Descrivi(t, valore, massimo);
                 },
                 Qt::QueuedConnection);

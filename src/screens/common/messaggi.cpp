@@ -24,7 +24,9 @@ GestoreMessaggi& Gestore() {
     return g;
 }
 
-QString Titolo(const archives::Messaggio& m) { return m.titolo.empty() ? QStringLiteral("Gorgo 2") : QString::fromStdString(m.titolo); }
+QString Titolo(const archives::Messaggio& m) {
+    return m.titolo.empty() ? QStringLiteral("Gorgo 2") : QString::fromStdString(m.titolo);
+}
 
 }  // namespace
 
@@ -40,11 +42,11 @@ void MostraMessaggio(QWidget* parent, const archives::Messaggio& m) {
     box.exec();
 }
 
-QMessageBox::StandardButton Chiedi(QWidget* parent, const archives::Messaggio& domanda, QMessageBox::StandardButtons pulsanti,
-                                   QMessageBox::StandardButton predefinito) {
+QMessageBox::StandardButton Chiedi(QWidget* parent, const archives::Messaggio& domanda,
+                                   QMessageBox::StandardButtons pulsanti, QMessageBox::StandardButton predefinito) {
     if (Gestore()) return Gestore()(domanda, pulsanti);
-    QMessageBox box(IconaQt(domanda.icona == archives::Icona::Nessuna ? archives::Icona::Domanda : domanda.icona), Titolo(domanda),
-                    QString::fromStdString(domanda.testo), pulsanti, parent);
+    QMessageBox box(IconaQt(domanda.icona == archives::Icona::Nessuna ? archives::Icona::Domanda : domanda.icona),
+                    Titolo(domanda), QString::fromStdString(domanda.testo), pulsanti, parent);
     box.setObjectName("frmDomanda");
     box.setDefaultButton(predefinito);
     // Italian captions whatever the host's language.

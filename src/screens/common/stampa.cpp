@@ -28,7 +28,9 @@ constexpr double PuntiMinimi = 6.0;
 
 QString DaUtf8(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
-std::filesystem::path Percorso(const QString& file) { return std::filesystem::path(QFile::encodeName(file).toStdString()); }
+std::filesystem::path Percorso(const QString& file) {
+    return std::filesystem::path(QFile::encodeName(file).toStdString());
+}
 
 QString SalvaConDialogo(QWidget* parent, const QString& titolo, const QString& proposto, const QString& filtro) {
     // The question on an existing file is ours (append or overwrite), not the dialog's.
@@ -77,7 +79,8 @@ Misure Misura(const QFont& base, double punti, const std::vector<std::vector<con
     for (const auto& pagina : pagine)
         for (const auto& r : pagina)
             if (!r.testo.empty())
-                m.larghezza = std::max(m.larghezza, (r.grassetto ? fg : fn).horizontalAdvance(RigaSenzaCodaBianca(r.testo)));
+                m.larghezza =
+                    std::max(m.larghezza, (r.grassetto ? fg : fn).horizontalAdvance(RigaSenzaCodaBianca(r.testo)));
     return m;
 }
 
@@ -183,8 +186,7 @@ bool DisegnaReport(QPrinter& stampante, std::span<const config::RigaTesto> righe
     // still do not fit go on to a further page.
     double punti = richiesti;
     Misure m = Misura(base, punti, logiche, pittore.device());
-    while (punti > minimi &&
-           (m.larghezza > spazio.width() || m.altezzaRiga * righeMassime > spazio.height())) {
+    while (punti > minimi && (m.larghezza > spazio.width() || m.altezzaRiga * righeMassime > spazio.height())) {
         const double fattore = std::min(spazio.width() / std::max(m.larghezza, 1.0),
                                         spazio.height() / std::max(m.altezzaRiga * righeMassime, 1.0));
         punti = std::max(minimi, std::min(punti - 0.5, std::floor(punti * fattore * 2.0) / 2.0));
@@ -274,9 +276,9 @@ bool SalvaReportSuFile(QWidget* parent, Sessione& sessione, std::span<const conf
     const QString cartella = CartellaProposta(sessione);
     const QString proposto = nome.isEmpty() ? cartella : QDir(cartella).filePath(nome);
 
-    QString scelto = ScegliFileReport ? ScegliFileReport(parent, DaUtf8(config::TitoloSalvaRisultati), proposto,
-                                                         FiltroQt(filtro))
-                                      : QString();
+    QString scelto = ScegliFileReport
+                         ? ScegliFileReport(parent, DaUtf8(config::TitoloSalvaRisultati), proposto, FiltroQt(filtro))
+                         : QString();
     if (scelto.isEmpty()) return false;
     if (QFileInfo(scelto).suffix().isEmpty() && !scelto.endsWith(u'.')) scelto += estensione;
     const QFileInfo info(scelto);

@@ -46,9 +46,9 @@ bool SalvaReportSuFile(QWidget* parent, Sessione& sessione, std::span<const conf
 // gives the chosen path or an empty text on Cancel.
 using SceltaFileReport =
     std::function<QString(QWidget* parent, const QString& titolo, const QString& proposto, const QString& filtro)>;
-using DomandaReport = std::function<QMessageBox::StandardButton(
-    QWidget* parent, const archives::Messaggio& domanda, QMessageBox::StandardButtons pulsanti,
-    QMessageBox::StandardButton predefinito)>;
+using DomandaReport = std::function<QMessageBox::StandardButton(QWidget* parent, const archives::Messaggio& domanda,
+                                                                QMessageBox::StandardButtons pulsanti,
+                                                                QMessageBox::StandardButton predefinito)>;
 extern SceltaFileReport ScegliFileReport;
 extern DomandaReport ChiediReport;
 SceltaFileReport SceltaFileReportPredefinita();

@@ -1,9 +1,9 @@
 #include "screens/common/twips.h"
 
+#include <fmt/format.h>
 #include <QGuiApplication>
 #include <QVariant>
 #include <algorithm>
-#include <fmt/format.h>
 
 #include "config/impostazioni.h"
 #include "config/ini.h"
@@ -13,8 +13,8 @@ namespace gorgo::screens {
 namespace {
 
 long long LeggiTwips(const config::FileIni& ini, const char* chiave, long long predefinito) {
-    const std::string v = config::LeggiImpostazione(ini, config::sezioni::Forms, chiave,
-                                                    fmt::format("{}", predefinito));
+    const std::string v =
+        config::LeggiImpostazione(ini, config::sezioni::Forms, chiave, fmt::format("{}", predefinito));
     try {
         size_t fine = 0;
         const double d = std::stod(v, &fine);  // single-precision values as the host printed them
@@ -55,7 +55,8 @@ void SalvaPosizione(QWidget* f, config::FileIni& ini, const char* chiaveLeft, co
     // Only a real move is written, so closing an untouched window leaves the file as it was.
     if (f->isMinimized() || f->property("posizioneLetta").toPoint() == f->pos()) return;
     const QScreen* s = f->screen();
-    const std::string left = fmt::format("{}", TwipsDaPixel(f->x(), s)), top = fmt::format("{}", TwipsDaPixel(f->y(), s));
+    const std::string left = fmt::format("{}", TwipsDaPixel(f->x(), s)),
+                      top = fmt::format("{}", TwipsDaPixel(f->y(), s));
     const config::CoppiaChiaveValore valori[] = {{chiaveLeft, left}, {chiaveTop, top}};
     ini.Scrivi(config::sezioni::Forms, valori);
 }

@@ -127,8 +127,8 @@ bool FrmColori::eventFilter(QObject* oggetto, QEvent* evento) {
             return true;
         }
         if (oggetto == lblColore_[2]) {
-            MostraMessaggio(this, {"Path applicazione = " + sessione_.PercorsoProgramma.string(), "",
-                                   archives::Icona::Nessuna});
+            MostraMessaggio(
+                this, {"Path applicazione = " + sessione_.PercorsoProgramma.string(), "", archives::Icona::Nessuna});
             return true;
         }
     }

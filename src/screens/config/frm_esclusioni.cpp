@@ -14,10 +14,7 @@
 
 namespace gorgo::screens {
 
-namespace {
-
-
-}  // namespace
+namespace {}  // namespace
 
 FrmEsclusioni::FrmEsclusioni(config::FileIni& ini, QWidget* parent) : QDialog(parent), ini_(ini) {
     setObjectName("frmEsclusioni");

@@ -14,16 +14,15 @@
 
 #include "config/impostazioni.h"
 #include "config/ini.h"
-#include "screens/common/twips.h"
-#include "screens/common/caselle.h"
 #include "screens/common/aiuto.h"
+#include "screens/common/caselle.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
+#include "screens/common/twips.h"
 
 namespace gorgo::screens {
 
 namespace {
-
 
 constexpr std::string_view Schermo = "frmOpzioni";
 

@@ -1,12 +1,12 @@
 #include "screens/maintenance/frm_aggiorna_internet.h"
 
+#include <fmt/format.h>
 #include <QCloseEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
-#include <fmt/format.h>
 #include <system_error>
 
 #include "archives/archivio.h"
@@ -51,7 +51,8 @@ QLabel* EtichettaStato(QWidget* parent) {
 // The long form of a stored date: "sabato 21 agosto 2026".
 std::string DataLunga(const archives::Data& d) {
     if (!d.valida()) return {};
-    return fmt::format("{} {} {} {}", archives::NomeGiorno(d.giornoSettimana()), d.giorno, archives::NomeMese(d.mese), d.anno);
+    return fmt::format("{} {} {} {}", archives::NomeGiorno(d.giornoSettimana()), d.giorno, archives::NomeMese(d.mese),
+                       d.anno);
 }
 
 std::string LeggiUrl(const config::FileIni& ini, std::string_view chiave) {
@@ -65,7 +66,10 @@ std::string LeggiUrl(const config::FileIni& ini, std::string_view chiave) {
 
 FrmAggiornaInternetBase::FrmAggiornaInternetBase(Sessione& sessione, archives::Archivio& archivio, m::Gioco gioco,
                                                  const char* nome, const QString& titolo, QWidget* parent)
-    : QWidget(parent, Qt::Window), sessione_(sessione), archivio_(archivio), gioco_(gioco),
+    : QWidget(parent, Qt::Window),
+      sessione_(sessione),
+      archivio_(archivio),
+      gioco_(gioco),
       scaricatore_(new network::Scaricatore(this)) {
     setObjectName(nome);
     setWindowTitle(titolo);
@@ -247,7 +251,8 @@ void FrmAggiornaInternetBase::Prosegui(m::EsitoInternet e, Ancora ancora) {
     ImpostaStato(e.testoStato);
     if (e.stato == m::StatoInternet::Domanda) {
         cmdAggiorna_->setEnabled(true);
-        const bool si = Chiedi(this, e.messaggio, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;
+        const bool si =
+            Chiedi(this, e.messaggio, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) == QMessageBox::Yes;
         if (si) ImpostaStato(std::string(m::testi::FineConnessione));
         try {
             e = ancora(si ? m::RispostaAllineamento::Si : m::RispostaAllineamento::No);
@@ -310,12 +315,16 @@ void FrmAggiornaInternetBase::closeEvent(QCloseEvent* e) {
 // ---- frmScaricaStorico --------------------------------------------------------------------
 
 FrmScaricaStorico::FrmScaricaStorico(Sessione& sessione, archives::Archivio& archivio, QWidget* parent)
-    : QWidget(parent, Qt::Window), sessione_(sessione), archivio_(archivio), scaricatore_(new network::Scaricatore(this)) {
+    : QWidget(parent, Qt::Window),
+      sessione_(sessione),
+      archivio_(archivio),
+      scaricatore_(new network::Scaricatore(this)) {
     setObjectName("frmScaricaStorico");
     setWindowTitle(QStringLiteral("Scarica archivio storico da Internet"));
 
     auto* principale = new QVBoxLayout(this);
-    principale->addWidget(Etichetta(this, "lblIndirizzo", QStringLiteral("Indirizzo dell'archivio storico (zip o testo):")));
+    principale->addWidget(
+        Etichetta(this, "lblIndirizzo", QStringLiteral("Indirizzo dell'archivio storico (zip o testo):")));
     txtUrlStorico_ = new QLineEdit(this);
     txtUrlStorico_->setObjectName("txtUrlStorico");
     txtUrlStorico_->setMinimumWidth(420);
@@ -338,12 +347,14 @@ FrmScaricaStorico::FrmScaricaStorico(Sessione& sessione, archives::Archivio& arc
     connect(cmdScarica_, &QPushButton::clicked, this, &FrmScaricaStorico::Scarica);
     connect(cmdAnnulla_, &QPushButton::clicked, this, &FrmScaricaStorico::Annulla);
     connect(cmdEsci_, &QPushButton::clicked, this, &QWidget::close);
-    connect(scaricatore_, &network::Scaricatore::statoCambiato, this, [this](int stato, int codice, const QString& testo) {
-        if (stato == m::stati::Errore)
-            lblStatus_->setText(Q(m::TestoStatoErrore(lblStatus_->text().toStdString(), codice, testo.toStdString())));
-        else if (const auto t = m::TestoStato(stato))
-            lblStatus_->setText(Q(*t));
-    });
+    connect(scaricatore_, &network::Scaricatore::statoCambiato, this,
+            [this](int stato, int codice, const QString& testo) {
+                if (stato == m::stati::Errore)
+                    lblStatus_->setText(
+                        Q(m::TestoStatoErrore(lblStatus_->text().toStdString(), codice, testo.toStdString())));
+                else if (const auto t = m::TestoStato(stato))
+                    lblStatus_->setText(Q(*t));
+            });
     connect(scaricatore_, &network::Scaricatore::terminato, this, &FrmScaricaStorico::FineScaricamento);
 
     ApplicaStile(this, sessione_.ini);
@@ -359,7 +370,8 @@ void FrmScaricaStorico::Scarica() {
         return;
     }
     // The address is kept for next time, once it is of the right form.
-    if (archives::Messaggio errore = config::ControllaValoreImpostazione(config::sezioni::Options, "UrlStorico", indirizzo);
+    if (archives::Messaggio errore =
+            config::ControllaValoreImpostazione(config::sezioni::Options, "UrlStorico", indirizzo);
         !errore.vuoto()) {
         MostraMessaggio(this, errore);
         return;
@@ -407,10 +419,11 @@ void FrmScaricaStorico::FineScaricamento() {
             MostraMessaggio(this, m::MessaggioNienteDiNuovo());
             return;
         }
-        const archives::Messaggio domanda{fmt::format("L'archivio storico scaricato porta {} estrazioni nuove, fino al {}. "
-                                            "Confermi l'importazione ?",
-                                            prova.aggiunte, prova.ultimaData),
-                                std::string(m::TitoloStorico), archives::Icona::Domanda};
+        const archives::Messaggio domanda{
+            fmt::format("L'archivio storico scaricato porta {} estrazioni nuove, fino al {}. "
+                        "Confermi l'importazione ?",
+                        prova.aggiunte, prova.ultimaData),
+            std::string(m::TitoloStorico), archives::Icona::Domanda};
         if (Chiedi(this, domanda, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) != QMessageBox::Yes) return;
         const m::EsitoImportazione e = m::ImportaDati(*a, dati, m::Gioco::Lotto);
         lblStatus_->setText(Q(e.messaggio.testo));

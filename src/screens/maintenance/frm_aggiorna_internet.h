@@ -41,8 +41,8 @@ signals:
     void archivioAggiornato();
 
 protected:
-    FrmAggiornaInternetBase(Sessione& sessione, archives::Archivio& archivio, maintenance::Gioco gioco, const char* nome,
-                            const QString& titolo, QWidget* parent);
+    FrmAggiornaInternetBase(Sessione& sessione, archives::Archivio& archivio, maintenance::Gioco gioco,
+                            const char* nome, const QString& titolo, QWidget* parent);
     void closeEvent(QCloseEvent* e) override;
 
 private:

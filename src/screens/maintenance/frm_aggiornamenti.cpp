@@ -11,9 +11,9 @@
 #include "config/ini.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/scelta_file.h"
 #include "screens/common/stile.h"
 #include "screens/maintenance/riquadro_ultima.h"
-#include "screens/common/scelta_file.h"
 
 namespace gorgo::screens {
 
@@ -23,7 +23,6 @@ using maintenance::Gioco;
 using maintenance::StatoAggiornamento;
 
 QString Testo(const std::string& s) { return QString::fromStdString(s); }
-
 
 }  // namespace
 
@@ -39,8 +38,8 @@ FrmAggiornamenti::FrmAggiornamenti(Sessione& sessione, archives::Archivio& archi
     setAttribute(Qt::WA_DeleteOnClose);
 
     auto* principale = new QVBoxLayout(this);
-    const RiquadroUltima ultima = CreaRiquadroUltima(this, "fraUltima", QStringLiteral("Ultima estrazione memorizzata nel sistema:"),
-                                                     QStringLiteral("Data"));
+    const RiquadroUltima ultima = CreaRiquadroUltima(
+        this, "fraUltima", QStringLiteral("Ultima estrazione memorizzata nel sistema:"), QStringLiteral("Data"));
     lblNumero_ = ultima.lblNumero;
     lblAnno_ = ultima.lblAnno;
     lblUltima_ = ultima.lblUltima;
@@ -124,13 +123,13 @@ void FrmAggiornamenti::Chiudi() {
 
 void FrmAggiornamenti::Apri() {
     Chiudi();
-    const QString filtro =
-        gioco_ == Gioco::Lotto
-            ? QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|File aggiornamento Gorgo (*.alb)|*.alb|"
-                             "Tutti i file (*.*)|*.*")
-            : QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|Tutti i file (*.*)|*.*");
-    const QString scelto =
-        ScegliFileManutenzione ? ScegliFileManutenzione(this, ModoSceltaFile::Apri, QStringLiteral("Apri"), filtro,
+    const QString filtro = gioco_ == Gioco::Lotto
+                               ? QStringLiteral(
+                                     "File aggiornamento Gorgo (*.bin)|*.bin|File aggiornamento Gorgo (*.alb)|*.alb|"
+                                     "Tutti i file (*.*)|*.*")
+                               : QStringLiteral("File aggiornamento Gorgo (*.bin)|*.bin|Tutti i file (*.*)|*.*");
+    const QString scelto = ScegliFileManutenzione
+                               ? ScegliFileManutenzione(this, ModoSceltaFile::Apri, QStringLiteral("Apri"), filtro,
                                                         Testo(sessione_.PercorsoProgramma.string()))
                                : QString();
     if (scelto.isEmpty()) return;

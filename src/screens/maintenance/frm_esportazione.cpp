@@ -10,20 +10,17 @@
 #include <QVBoxLayout>
 
 #include "archives/regole.h"
-#include "maintenance/aggiornamento.h"
 #include "config/ini.h"
+#include "maintenance/aggiornamento.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/scelta_file.h"
 #include "screens/common/stile.h"
 #include "screens/maintenance/riquadro_ultima.h"
-#include "screens/common/scelta_file.h"
 
 namespace gorgo::screens {
 
-namespace {
-
-
-}  // namespace
+namespace {}  // namespace
 
 FrmEsportazione::FrmEsportazione(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent)
     : QDialog(parent), sessione_(sessione), archivio_(archivio) {

@@ -10,11 +10,11 @@
 
 #include "config/impostazioni.h"
 #include "config/ini.h"
-#include "screens/common/caselle.h"
-#include "screens/common/twips.h"
 #include "screens/common/aiuto.h"
+#include "screens/common/caselle.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
+#include "screens/common/twips.h"
 
 namespace gorgo::screens {
 
@@ -153,7 +153,8 @@ QGroupBox* FrmInputEstrazioni::CreaFrameNumeri() {
         });
     }
     if (lotto) {
-        for (int p = 1; p <= 5; ++p) gn->addWidget(new QLabel(QStringLiteral("%1°").arg(p), fraNumeri), 0, p, Qt::AlignCenter);
+        for (int p = 1; p <= 5; ++p)
+            gn->addWidget(new QLabel(QStringLiteral("%1°").arg(p), fraNumeri), 0, p, Qt::AlignCenter);
         for (int w = 1; w <= archives::NumeroRuote; ++w) {
             auto* nome = new QLabel(Q(archives::NomiRuota[static_cast<size_t>(w)]).trimmed(), fraNumeri);
             nome->setObjectName(QStringLiteral("lblRuota_%1").arg(w));
@@ -182,8 +183,9 @@ QGroupBox* FrmInputEstrazioni::CreaFrameTesto() {
     auto* gt = new QVBoxLayout(fraTesto);
     Text1_ = new QPlainTextEdit(fraTesto);
     Text1_->setObjectName("Text1");
-    Text1_->setToolTip(QStringLiteral("Qui si può incollare con CTRL-V un'estrazione copiata negli appunti; "
-                                      "\"Inserisci\" poi la decodifica nelle caselle dei numeri"));
+    Text1_->setToolTip(
+        QStringLiteral("Qui si può incollare con CTRL-V un'estrazione copiata negli appunti; "
+                       "\"Inserisci\" poi la decodifica nelle caselle dei numeri"));
     Text1_->setMinimumWidth(220);
     connect(Text1_, &QPlainTextEdit::textChanged, this, [this] {
         if (!InCaricamento_) motore_->ImpostaTestoIncolla(Text1_->toPlainText().toStdString());
@@ -375,11 +377,8 @@ bool FrmInputEstrazioni::eventFilter(QObject* oggetto, QEvent* evento) {
             if (!testo.isEmpty() && !maintenance::SoloCifre(testo.at(0).unicode())) return true;
             break;
         }
-        case QEvent::FocusOut:
-            ControllaUscita(casella);
-            break;
-        default:
-            break;
+        case QEvent::FocusOut: ControllaUscita(casella); break;
+        default: break;
     }
     return QWidget::eventFilter(oggetto, evento);
 }

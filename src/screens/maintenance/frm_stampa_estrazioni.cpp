@@ -11,12 +11,12 @@
 #include "archives/regole.h"
 #include "config/impostazioni.h"
 #include "config/ini.h"
-#include "screens/common/twips.h"
 #include "screens/common/aiuto.h"
 #include "screens/common/caselle.h"
-#include "screens/common/messaggi.h"
 #include "screens/common/elaborazioni.h"
+#include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
+#include "screens/common/twips.h"
 
 namespace gorgo::screens {
 
@@ -105,7 +105,8 @@ void FrmStampaEstrazioni::CreaControlli() {
         gp->addWidget(new QLabel(QStringLiteral("Ruota :"), fraPeriodo), 2, 0);
         cboRuota_ = new QComboBox(fraPeriodo);
         cboRuota_->setObjectName("cboRuota");
-        for (int w = 0; w <= archives::NumeroRuote; ++w) cboRuota_->addItem(Q(archives::NomiRuota[static_cast<size_t>(w)]));
+        for (int w = 0; w <= archives::NumeroRuote; ++w)
+            cboRuota_->addItem(Q(archives::NomiRuota[static_cast<size_t>(w)]));
         gp->addWidget(cboRuota_, 2, 1, 1, 2);
     }
     principale->addWidget(fraPeriodo);
@@ -202,8 +203,8 @@ maintenance::StampaComposta FrmStampaEstrazioni::Componi() {
                                              : maintenance::ComponiStampa10eLotto(a, p);
     }
     // The boxes take the dates of the draws found.
-    for (auto [testo, scatola, picker] : {std::tuple{s.dataInizio, txtDataInizio_, DTPickerDa_},
-                                          std::tuple{s.dataFine, txtDataFine_, DTPickerA_}}) {
+    for (auto [testo, scatola, picker] :
+         {std::tuple{s.dataInizio, txtDataInizio_, DTPickerDa_}, std::tuple{s.dataFine, txtDataFine_, DTPickerA_}}) {
         if (testo.empty()) continue;
         const QSignalBlocker blocca(picker);
         picker->setDate(DataQt(testo));
