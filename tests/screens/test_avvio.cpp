@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <unistd.h>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -106,6 +107,53 @@ TEST(Avvio, UnaSolaIstanza) {
     std::unique_ptr<QLockFile> terzo;
     EXPECT_NE(AvviaProgramma(c.percorso(), terzo), nullptr);
     EXPECT_EQ(m.visti.size(), 1u);
+}
+
+// A lock that cannot be created is not another instance: the message names the folder and
+// the cause. (As root a folder without write permission stays writable, hence the other ways.)
+TEST(Avvio, BloccoNonCreabileNonEUnAltraIstanza) {
+    CartellaTemporanea c;
+    const QString occupato = QString::fromStdString((c / "occupato.lock").string());
+    auto primo = BloccaFile(occupato);
+    ASSERT_NE(primo, nullptr);
+    { std::ofstream(c / "file") << "x"; }
+    std::filesystem::create_directories(c / "cartella" / "Gorgo.lock");
+    std::filesystem::create_directories(c / "sola-lettura");
+    std::filesystem::permissions(c / "sola-lettura", std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::remove);
+    struct Caso {
+        std::filesystem::path file;
+        std::string attesa;
+    };
+    const std::vector<Caso> casi = {
+        {c / "occupato.lock", MessaggioIstanzaUnica},
+        {c / "file" / "Gorgo.lock", "Impossibile creare il file di blocco in " + (c / "file").string() +
+                                        ": la cartella non esiste o non è una cartella."},
+        {c / "cartella" / "Gorgo.lock", "Impossibile creare il file di blocco in " + (c / "cartella").string() + ": " +
+                                            (c / "cartella" / "Gorgo.lock").string() + " esiste già e non è un file."},
+        {c / "sola-lettura" / "Gorgo.lock", ::geteuid() == 0 ? std::string()
+                                                             : "Impossibile creare il file di blocco in " +
+                                                                   (c / "sola-lettura").string() +
+                                                                   ": cartella in sola lettura o non accessibile."},
+    };
+    for (const Caso& k : casi) {
+        if (k.attesa.empty()) continue;
+        archives::Messaggio m;
+        EXPECT_EQ(BloccaFile(QString::fromStdString(k.file.string()), &m), nullptr) << k.file;
+        EXPECT_EQ(m.testo, k.attesa);
+    }
+    std::filesystem::permissions(c / "sola-lettura", std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add);
+
+    // The start-up shows it and ends.
+    test::CreaArchivioDemo(c / "cartella",
+                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    EXPECT_EQ(AvviaProgramma(c / "cartella", blocco), nullptr);
+    ASSERT_EQ(m.visti.size(), 1u);
+    EXPECT_EQ(m.visti[0].testo, casi[2].attesa);
+    EXPECT_EQ(m.visti[0].icona, archives::Icona::Stop);
 }
 
 // "Cambia..." opens the restrictions; their confirm shows in the panel at once.
