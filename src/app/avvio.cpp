@@ -2,6 +2,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QFileInfo>
 
 #include "app/programma.h"
 #include "archives/demo.h"
@@ -12,7 +13,32 @@
 
 namespace gorgo::screens {
 
-std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorso) {
+std::unique_ptr<QLockFile> BloccaFile(const QString& file, archives::Messaggio* messaggio) {
+    auto blocco = std::make_unique<QLockFile>(file);
+    // A lock whose process is gone is stale at once; a live one never is.
+    blocco->setStaleLockTime(0);
+    if (blocco->tryLock(0)) return blocco;
+    if (messaggio) {
+        const QFileInfo info(file);
+        const QString cartella = QDir::toNativeSeparators(info.absolutePath());
+        QString causa;
+        if (blocco->error() == QLockFile::LockFailedError && (!info.exists() || info.isFile()))
+            *messaggio = {MessaggioIstanzaUnica, "", archives::Icona::Esclamazione};
+        else if (blocco->error() == QLockFile::LockFailedError)
+            causa = QStringLiteral("%1 esiste già e non è un file.").arg(QDir::toNativeSeparators(file));
+        else if (!QFileInfo(info.absolutePath()).isDir())
+            causa = QStringLiteral("la cartella non esiste o non è una cartella.");
+        else
+            causa = QStringLiteral("cartella in sola lettura o non accessibile.");
+        if (!causa.isEmpty())
+            *messaggio = {
+                QStringLiteral("Impossibile creare il file di blocco in %1: %2").arg(cartella, causa).toStdString(),
+                "Errore", archives::Icona::Stop};
+    }
+    return nullptr;
+}
+
+std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorso, archives::Messaggio* messaggio) {
     // The lock stands in the program folder; a folder that is not there yet gets one in the
     // temporary folder, named after it.
     QString file;
@@ -25,19 +51,16 @@ std::unique_ptr<QLockFile> BloccaIstanza(const std::filesystem::path& percorso) 
                     QCryptographicHash::hash(QByteArray::fromStdString(percorso.string()), QCryptographicHash::Sha1)
                         .toHex()
                         .left(16))));
-    auto blocco = std::make_unique<QLockFile>(file);
-    // A lock whose process is gone is stale at once; a live one never is.
-    blocco->setStaleLockTime(0);
-    if (!blocco->tryLock(0)) return nullptr;
-    return blocco;
+    return BloccaFile(file, messaggio);
 }
 
 std::unique_ptr<FrmMain> AvviaProgramma(const std::filesystem::path& percorso, std::unique_ptr<QLockFile>& blocco) {
     auto programma = std::make_unique<Programma>(percorso);
 
-    blocco = BloccaIstanza(percorso);
+    archives::Messaggio perche;
+    blocco = BloccaIstanza(percorso, &perche);
     if (!blocco) {
-        MostraMessaggio(nullptr, {MessaggioIstanzaUnica, "", archives::Icona::Esclamazione});
+        MostraMessaggio(nullptr, perche);
         return nullptr;
     }
     try {

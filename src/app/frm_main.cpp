@@ -15,6 +15,7 @@
 #include "config/impostazioni.h"
 #include "config/restrizioni.h"
 #include "maintenance/importazione.h"
+#include "network/connessione.h"
 #include "screens/builder/frm_costruttore.h"
 #include "screens/common/browser.h"
 #include "screens/common/elaborazioni.h"
@@ -339,6 +340,10 @@ void FrmMain::ApriUrl() {
 }
 
 void FrmMain::ApriSitoWeb() {
+    if (!network::VaiInLineaSeServe()) {
+        MostraMessaggio(this, {network::MessaggioOffLine, "Errore", archives::Icona::Stop});
+        return;
+    }
     ApriBrowser(QString::fromStdString(config::LeggiImpostazione(
         sessione_.ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
 }

@@ -177,6 +177,17 @@ void EsportaTesto(const Contesto& ctx, const std::string& file) {
 
 }  // namespace
 
+// The repair every writer makes first, on its own: for a folder the readers could not repair.
+void Ripara(const Contesto& ctx) {
+    const ArchivioScrittura a = ApriPerScrivere(ctx);
+    const std::string testo =
+        a.riparazione.empty() ? "Archivio integro: nessuna riparazione necessaria." : a.riparazione;
+    if (ctx.json)
+        StampaJson({{"riparato", !a.riparazione.empty()}, {"messaggio", testo}});
+    else
+        std::cout << testo << "\n";
+}
+
 void AggiungiComandiManutenzione(CLI::App& app, Contesto& ctx) {
     struct Argomenti {
         std::string file, da;
@@ -208,6 +219,10 @@ void AggiungiComandiManutenzione(CLI::App& app, Contesto& ctx) {
     auto* testo = app.add_subcommand("esporta-testo", "Scrive l'archivio del Lotto nel formato di testo pubblico");
     testo->add_option("file", a->file, "File da scrivere (sostituito se esiste)")->required();
     testo->callback([&ctx, a] { EsportaTesto(ctx, a->file); });
+
+    auto* ripara = app.add_subcommand(
+        "ripara", "Ripara gli archivi dopo un'interruzione (estrazione incompleta in coda, indice degli anni)");
+    ripara->callback([&ctx] { Ripara(ctx); });
 }
 
 const GruppoComandi registrazione{60, AggiungiComandiManutenzione};

@@ -1,11 +1,15 @@
 #include "cli/contesto.h"
 
+#include <fmt/format.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <iostream>
 #include <utility>
 #include <vector>
 
 #include "archives/percorso.h"
+#include "maintenance/aggiornamento.h"
 
 namespace gorgo::cli {
 
@@ -16,10 +20,31 @@ std::filesystem::path Contesto::PercorsoProgramma() const {
 }
 
 archives::Archivio Contesto::ApriArchivi() const {
-    archives::Archivio a = archives::Archivio::Apri(PercorsoProgramma(), archives::ModoApertura::Lettura);
+    const std::filesystem::path programma = PercorsoProgramma();
+    archives::Archivio a = archives::Archivio::Apri(programma, archives::ModoApertura::Lettura);
     if (archives::Messaggio m = archives::ControllaPresenzaArchivi(a); !m.vuoto()) throw Rifiuto{m};
-    if (archives::Messaggio m = archives::VerificaIntegrita(a); !m.vuoto()) throw Rifiuto{m};
-    return a;
+    archives::Messaggio m = archives::VerificaIntegrita(a);
+    if (m.vuoto()) return a;
+    // An interrupted write leaves the files out of step; a whole archive is never written
+    // here, so a read-only folder still serves the readers.
+    if (::access(a.CartellaArchivi().c_str(), W_OK) == 0) {
+        try {
+            const maintenance::EsitoRiparazione r = maintenance::RiparaCartellaArchivi(a.CartellaArchivi());
+            if (r.riparato()) {
+                std::cerr << r.descrizione << "\n";
+                a = archives::Archivio::Apri(programma, archives::ModoApertura::Lettura);
+                m = archives::VerificaIntegrita(a);
+                if (m.vuoto()) return a;
+            }
+            throw Rifiuto{m};
+        } catch (const archives::ErroreArchivio&) {
+            // Not writable after all: say how to repair, below.
+        }
+    }
+    if (maintenance::RiparaCartellaArchivi(a.CartellaArchivi(), true).riparato())
+        m.testo += fmt::format("\nPer ripararlo: gorgo-cli --cartella {} ripara, oppure aprire il programma.",
+                               programma.string());
+    throw Rifiuto{m};
 }
 
 namespace {

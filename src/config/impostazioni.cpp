@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <limits>
+#include <string>
 
 #include <fmt/format.h>
 
@@ -212,6 +214,20 @@ std::string SalvaRuote(CaselleRuote& caselle, int indice) {
 
 namespace gorgo::config {
 
+std::optional<double> NumeroPosizione(std::string_view t) {
+    while (!t.empty() && t.front() == ' ') t.remove_prefix(1);
+    while (!t.empty() && t.back() == ' ') t.remove_suffix(1);
+    if (!t.empty() && t.front() == '+') t.remove_prefix(1);
+    // from_chars ignores the locale, which a Qt program sets from the environment; a comma
+    // is read as the decimal point of an Italian system.
+    std::string s(t);
+    std::replace(s.begin(), s.end(), ',', '.');
+    double d = 0;
+    const auto [fine, errore] = std::from_chars(s.data(), s.data() + s.size(), d);
+    if (s.empty() || errore != std::errc{} || fine != s.data() + s.size() || !std::isfinite(d)) return std::nullopt;
+    return d;
+}
+
 namespace {
 
 bool SoloLettere(std::string_view v, std::string_view ammesse, std::size_t lunghezza) {
@@ -248,9 +264,11 @@ archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::s
 
     const std::string_view k = v->chiave;
     const auto intero = Intero(valore);
-    if (v->sezione == sezioni::Forms)
-        return intero && *intero > -10000000 && *intero < 10000000 ? archives::Messaggio{}
-                                                                   : errore("Serve un numero intero (twip).");
+    if (v->sezione == sezioni::Forms) {
+        const auto n = NumeroPosizione(valore);
+        return n && *n > -10000000 && *n < 10000000 ? archives::Messaggio{}
+                                                    : errore("Serve un numero (twip), anche con i decimali.");
+    }
     if (k.starts_with("Colore"))
         return intero && *intero >= 0 && *intero <= 0xFFFFFF ? archives::Messaggio{}
                                                              : errore("Serve un colore da 0 a 16777215.");

@@ -61,6 +61,9 @@ std::string Predefinito(std::string_view sezione, std::string_view chiave, int32
 // the value can be written.
 archives::Messaggio ControllaValoreImpostazione(std::string_view sezione, std::string_view chiave,
                                                 std::string_view valore);
+// A window position as the host prints it: a single-precision number, with "." or "," before
+// the decimals and an optional exponent; nothing when the text is not a number.
+std::optional<double> NumeroPosizione(std::string_view testo);
 // The longest value the settings give back whole.
 inline constexpr std::size_t LunghezzaMassimaValore = 1000;
 

@@ -353,7 +353,7 @@ EsitoEsportazione EsportaAggiornamento(const archives::Archivio& archivio, const
     return e;
 }
 
-EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
+EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella, bool soloVerifica) {
     EsitoRiparazione r;
     std::error_code ec;
     if (!fs::is_directory(cartella, ec)) return r;
@@ -369,6 +369,7 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         if (!fs::exists(p, ec)) return 0;
         const uint64_t l = lunghezza(p);
         if (l % dimensione == 0) return 0;
+        if (soloVerifica) return l % dimensione;
         archives::FileRecord f(p, O_RDWR);
         f.tronca(l - l % dimensione);
         return l % dimensione;
@@ -420,16 +421,13 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella) {
         }
         if (!coerente) aggiunti.clear();
         if (validi < anni.size() || !aggiunti.empty()) {
-            archives::FileRecord f(pA, O_RDWR);
-            if (validi < anni.size()) {
-                r.byteTroncatiAnni += (anni.size() - validi) * sizeof(archives::RecordAnno);
-                f.tronca(validi * sizeof(archives::RecordAnno));
-            }
-            if (!aggiunti.empty()) {
-                f.scrivi(validi * sizeof(archives::RecordAnno), Byte(std::span<const archives::RecordAnno>(aggiunti)));
-                f.sincronizza();
-                r.anniAggiunti = static_cast<int32_t>(aggiunti.size());
-            }
+            // The whole index is replaced in one rename: a crash during the repair leaves
+            // either the old index or the new one, never a mix.
+            r.byteTroncatiAnni += (anni.size() - validi) * sizeof(archives::RecordAnno);
+            anni.resize(validi);
+            anni.insert(anni.end(), aggiunti.begin(), aggiunti.end());
+            if (!soloVerifica) ScriviFileSostituendo(pA, Byte(std::span<const archives::RecordAnno>(anni)));
+            r.anniAggiunti = static_cast<int32_t>(aggiunti.size());
         }
     }
 

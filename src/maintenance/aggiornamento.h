@@ -153,8 +153,10 @@ struct EsitoRiparazione {
 // record of each file, drops year records that point past the last draw, and appends the
 // year records of the draws after the last indexed year (at each change of year, the index
 // of that year's first draw). Works on the paths only, so it can run before the archive is
-// opened; creates nothing. Throws ErroreArchivio on an input/output failure.
-EsitoRiparazione RiparaCartellaArchivi(const std::filesystem::path& cartellaArchivi);
+// opened; creates nothing but the new anni.ind, which replaces the old one through a rename.
+// With soloVerifica it writes nothing and says what it would repair. Throws ErroreArchivio on
+// an input/output failure.
+EsitoRiparazione RiparaCartellaArchivi(const std::filesystem::path& cartellaArchivi, bool soloVerifica = false);
 // The same on an open archive, which is reopened in write mode when anything changed.
 EsitoRiparazione RiparaArchivio(archives::Archivio& archivio);
 

@@ -2,14 +2,24 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <fmt/format.h>
+#include <signal.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+
+#include <chrono>
 #include <fstream>
+#include <iostream>
+#include <map>
 #include <nlohmann/json.hpp>
 
 #include "archives/archivio.h"
+#include "maintenance/aggiornamento.h"
 #include "support/archivi_reali.h"
 #include "support/attesi.h"
 #include "support/cartelle.h"
@@ -139,12 +149,14 @@ TEST_F(Cli, ArchiviDanneggiatiRifiutati) {
         AttesiRifiuti(cartella_, {{{"info"}, attesa}, {{"estrazione", "1"}, attesa}, {{"data", "07/01/1871"}, attesa}},
                       [&](const std::vector<std::string>& a) { return Su(a); });
     };
-    const auto lunghezza = fs::file_size(archivi / "Estrazioni.ind");
-    fs::resize_file(archivi / "Estrazioni.ind", lunghezza - 10);
-    prova("non è un multiplo di 66");
-    fs::resize_file(archivi / "Estrazioni.ind", lunghezza);
-    fs::resize_file(archivi / "anni.ind", fs::file_size(archivi / "anni.ind") - 12);
-    prova("non corrisponde alle estrazioni");
+    // Damage no interruption leaves: refused, and no repair is offered.
+    const std::string anni = LeggiFile(archivi / "anni.ind");
+    {
+        std::ofstream f(archivi / "anni.ind", std::ios::binary | std::ios::trunc);
+        f << "1999" << anni.substr(4);
+    }
+    prova("non corrisponde alle estrazioni: manca o è errato l'anno");
+    EXPECT_EQ(Su({"info"}).err.find("Per ripararlo"), std::string::npos);
     fs::resize_file(archivi / "Estrazioni.ind", 0);
     prova("mancanti!");
     fs::remove_all(archivi);
@@ -431,18 +443,165 @@ TEST_F(CliManutenzione, ImportaSuperEnalotto) {
     EXPECT_EQ(LeggiFile(cartella_ / "Archivi" / "SuperEnalotto.ind"), super);
 }
 
-TEST_F(CliManutenzione, UnArchivioInterrottoSiRiparaPrimaDiScrivere) {
-    // The draws of the update written, anni.ind not: the next writer repairs, says so, goes on.
-    {
-        std::ofstream f(cartella_ / "Archivi" / "Estrazioni.ind", std::ios::binary | std::ios::app);
-        f << LeggiFile(File("AggiornamentoPz.bin")).substr(66, 10 * 66) << "mezzo";
-    }
-    EXPECT_EQ(Su({"info"}).codice, 2);  // the readers refuse an archive out of step
+TEST_F(CliManutenzione, UnArchivioInterrottoSiRiparaAllaLetturaEPrimaDiScrivere) {
+    // The draws of the update written, anni.ind not: the next command repairs, says so, goes on.
+    const fs::path estrazioni = cartella_ / "Archivi" / "Estrazioni.ind";
+    const std::string agg = LeggiFile(File("AggiornamentoPz.bin"));
+    auto interrompi = [&](size_t da, size_t quante) {
+        std::ofstream f(estrazioni, std::ios::binary | std::ios::app);
+        f << agg.substr(da * 66, quante * 66) << "mezzo";
+    };
+    interrompi(1, 10);
+    const Esito info = Su({"--json", "info"});
+    ASSERT_EQ(info.codice, 0) << info.err;
+    EXPECT_NE(info.err.find("Archivio riparato dopo un'interruzione"), std::string::npos) << info.err;
+    EXPECT_NE(info.err.find("aggiunti 1 anni ad anni.ind"), std::string::npos) << info.err;
+    EXPECT_EQ(fs::file_size(estrazioni), (10779u + 10u) * 66u);
+    const Esito pulito = Su({"info"});
+    EXPECT_EQ(pulito.codice, 0);
+    EXPECT_TRUE(pulito.err.empty()) << pulito.err;
+
+    interrompi(11, 3);
     const Esito e = Su({"aggiorna", File("AggiornamentoPz.bin")});
     ASSERT_EQ(e.codice, 0) << e.err;
     EXPECT_NE(e.err.find("Archivio riparato"), std::string::npos) << e.err;
-    EXPECT_NE(e.out.find("Estrazioni aggiunte: 124;"), std::string::npos) << e.out;
-    EXPECT_EQ(Su({"info"}).codice, 0);
+    EXPECT_NE(e.out.find("Estrazioni aggiunte: 121;"), std::string::npos) << e.out;
+    EXPECT_EQ(LeggiFile(estrazioni).substr(10779 * 66), agg.substr(66));
+
+    const Esito r = Su({"ripara"});
+    EXPECT_EQ(r.codice, 0) << r.err;
+    EXPECT_EQ(r.out, "Archivio integro: nessuna riparazione necessaria.\n");
+    interrompi(0, 0);
+    const Esito r2 = Su({"ripara"});
+    EXPECT_EQ(r2.codice, 0) << r2.err;
+    EXPECT_EQ(r2.out.rfind("Archivio riparato dopo un'interruzione: tolta un'estrazione incompleta", 0), 0u) << r2.out;
+}
+
+// A folder the readers cannot write: nothing is written, and the message says how to repair.
+TEST_F(CliManutenzione, UnArchivioInterrottoInSolaLetturaDiceComeRipararlo) {
+    // Root writes through any permission bit: as root the command runs as nobody, on a copy
+    // of the binary it can reach.
+    std::string cli = std::getenv("GORGO_CLI") ? std::getenv("GORGO_CLI") : "gorgo-cli", prefisso;
+    if (::geteuid() == 0) {
+        if (!fs::exists("/usr/bin/setpriv")) GTEST_SKIP() << "da root serve setpriv per una cartella in sola lettura";
+        prefisso = "/usr/bin/setpriv --reuid=65534 --regid=65534 --clear-groups ";
+        fs::copy_file(cli, c_ / "gorgo-cli");
+        cli = (c_ / "gorgo-cli").string();
+        for (const auto& f : fs::recursive_directory_iterator(c_.percorso()))
+            fs::permissions(f.path(),
+                            fs::perms::others_read | (f.is_directory() ? fs::perms::others_exec : fs::perms::none),
+                            fs::perm_options::add);
+        fs::permissions(c_.percorso(), fs::perms::others_read | fs::perms::others_exec, fs::perm_options::add);
+        fs::permissions(cli, fs::perms::others_exec, fs::perm_options::add);
+    }
+    {
+        std::ofstream f(cartella_ / "Archivi" / "Estrazioni.ind", std::ios::binary | std::ios::app);
+        f << "mezzo";
+    }
+    const std::string prima = Istantanea(cartella_);
+    fs::permissions(cartella_ / "Archivi", fs::perms::owner_write, fs::perm_options::remove);
+    std::string err;
+    FILE* p = ::popen((prefisso + cli + " --cartella " + cartella_.string() + " info 2>&1 >/dev/null").c_str(), "r");
+    ASSERT_NE(p, nullptr);
+    std::array<char, 4096> buf{};
+    for (size_t n; (n = std::fread(buf.data(), 1, buf.size(), p)) > 0;) err.append(buf.data(), n);
+    const int stato = ::pclose(p);
+    fs::permissions(cartella_ / "Archivi", fs::perms::owner_write, fs::perm_options::add);
+    EXPECT_EQ(WIFEXITED(stato) ? WEXITSTATUS(stato) : -1, 2) << err;
+    EXPECT_NE(err.find("non è un multiplo di 66"), std::string::npos) << err;
+    EXPECT_NE(
+        err.find("Per ripararlo: gorgo-cli --cartella " + cartella_.string() + " ripara, oppure aprire il programma."),
+        std::string::npos)
+        << err;
+    EXPECT_EQ(Istantanea(cartella_), prima);
+}
+
+// SIGKILL at many moments of an update: whatever the moment, the next command of every kind
+// works, no draw of the archive is lost, and finishing the update gives the archive of an
+// uninterrupted one.
+TEST_F(CliManutenzione, UnAggiornamentoUccisoInQualunqueMomento) {
+    GORGO_RICHIEDI_ARCHIVI_REALI(reale);
+    const char* cli = std::getenv("GORGO_CLI");
+    ASSERT_NE(cli, nullptr);
+    const std::string originale = LeggiFile(cartella_ / "Archivi" / "Estrazioni.ind");
+    const std::string estrazione = Su({"estrazione", "10779"}).out;
+    ASSERT_FALSE(estrazione.empty());
+    // The kills are spread over the length of an uninterrupted run on this machine.
+    const auto inizio = std::chrono::steady_clock::now();
+    ASSERT_EQ(Su({"aggiorna", File("AggiornamentoPz.bin")}).codice, 0);
+    const auto durata =
+        std::chrono::duration_cast<std::chrono::microseconds>(std::chrono::steady_clock::now() - inizio).count();
+    std::map<std::string, std::string> atteso;
+    for (const char* nome : {"Estrazioni.ind", "anni.ind", "SuperEnalotto.ind"})
+        atteso[nome] = LeggiFile(cartella_ / "Archivi" / nome);
+
+    constexpr int Uccisioni = 32;
+    int uccisi = 0, fuoriPasso = 0;
+    for (int k = 0; k < Uccisioni; ++k) {
+        SCOPED_TRACE(fmt::format("uccisione {}", k));
+        const fs::path cartella = c_ / fmt::format("k{}", k);
+        test::CopiaArchiviReali(reale, cartella);
+        const std::string argomenti[] = {cli, "--cartella", cartella.string(), "aggiorna", File("AggiornamentoPz.bin")};
+        std::vector<char*> argv;
+        for (const auto& a : argomenti) argv.push_back(const_cast<char*>(a.c_str()));
+        argv.push_back(nullptr);
+        posix_spawn_file_actions_t azioni;
+        posix_spawn_file_actions_init(&azioni);
+        posix_spawn_file_actions_addopen(&azioni, 1, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_addopen(&azioni, 2, "/dev/null", O_WRONLY, 0);
+        pid_t pid = 0;
+        ASSERT_EQ(posix_spawn(&pid, cli, &azioni, nullptr, argv.data(), environ), 0);
+        posix_spawn_file_actions_destroy(&azioni);
+        ::usleep(static_cast<useconds_t>(200 + durata * k / Uccisioni));
+        ::kill(pid, SIGKILL);
+        int stato = 0;
+        ::waitpid(pid, &stato, 0);
+        if (WIFSIGNALED(stato)) ++uccisi;
+        if (maintenance::RiparaCartellaArchivi(cartella / "Archivi", true).riparato()) ++fuoriPasso;
+
+        // Each kind of command in turn is the first to meet the interrupted archive.
+        auto su = [&](std::vector<std::string> a) {
+            a.insert(a.begin(), {"--cartella", cartella.string()});
+            return Esegui(a);
+        };
+        for (int j = 0; j < 5; ++j) {
+            switch ((k + j) % 5) {
+                case 0: {
+                    const Esito e = su({"info"});
+                    EXPECT_EQ(e.codice, 0) << e.err;
+                    break;
+                }
+                case 1: {
+                    const Esito e = su({"estrazione", "10779"});
+                    EXPECT_EQ(e.codice, 0) << e.err;
+                    EXPECT_EQ(e.out, estrazione);
+                    break;
+                }
+                case 2: {
+                    const Esito e = su({"data", "30/12/2025"});
+                    EXPECT_EQ(e.codice, 0) << e.err;
+                    break;
+                }
+                case 3: {
+                    const std::string ora = LeggiFile(cartella / "Archivi" / "Estrazioni.ind");
+                    EXPECT_EQ(ora.substr(0, originale.size()), originale);
+                    break;
+                }
+                case 4: {
+                    const Esito e = su({"aggiorna", File("AggiornamentoPz.bin")});
+                    EXPECT_EQ(e.codice, 0) << e.err;
+                    for (const auto& [nome, contenuto] : atteso)
+                        EXPECT_EQ(LeggiFile(cartella / "Archivi" / nome), contenuto) << nome;
+                    break;
+                }
+            }
+        }
+        if (HasFailure()) break;
+        fs::remove_all(cartella);
+    }
+    // The delays must reach into the run, or the test proves nothing.
+    EXPECT_GT(uccisi, 0);
+    std::cout << uccisi << " uccisioni, " << fuoriPasso << " con gli archivi da riparare\n";
 }
 
 // inserisci: a draw as text; the screen's questions need --conferma, without it nothing is

@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <random>
 #include <sstream>
 #include <string>
@@ -349,4 +350,38 @@ TEST(CaselleRuote, ClicSulleCaselle) {
     EXPECT_EQ(SalvaRuote(una, 5), "NNNNYNNNNNN");
     EXPECT_EQ(std::count(una.begin(), una.end(), true), 1);
     EXPECT_EQ(SalvaRuote(una, -1), "NNNNYNNNNNN") << "an index outside the row changes nothing";
+}
+
+// Window places are single-precision numbers: the check before a write takes what the reader
+// of places reads, and refuses what it would not.
+TEST(Impostazioni, PosizioniConDecimali) {
+    struct Caso {
+        const char* valore;
+        std::optional<double> letto;
+    };
+    const Caso casi[] = {
+        {"1500", 1500},
+        {"12.5", 12.5},
+        {"12,5", 12.5},
+        {" -300.25 ", -300.25},
+        {"+7", 7},
+        {"1.5E+03", 1500},
+        {"9999999", 9999999},
+        {"", std::nullopt},
+        {"12abc", std::nullopt},
+        {"1.2.3", std::nullopt},
+        {"1,234.5", std::nullopt},
+        {"abc", std::nullopt},
+        {"nan", std::nullopt},
+        {"inf", std::nullopt},
+        {"- 5", std::nullopt},
+        {"1e400", std::nullopt},
+    };
+    for (const Caso& c : casi) {
+        SCOPED_TRACE(c.valore);
+        EXPECT_EQ(NumeroPosizione(c.valore), c.letto);
+        EXPECT_EQ(ControllaValoreImpostazione("Forms", "MainLeft", c.valore).vuoto(), c.letto.has_value());
+    }
+    EXPECT_FALSE(ControllaValoreImpostazione("Forms", "MainTop", "10000000").vuoto());
+    EXPECT_FALSE(ControllaValoreImpostazione("Forms", "MainTop", "-1e7").vuoto());
 }

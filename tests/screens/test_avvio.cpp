@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <fmt/format.h>
+#include <unistd.h>
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -17,6 +19,7 @@
 #include "archives/demo.h"
 #include "screens/common/elaborazioni.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/twips.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
@@ -108,6 +111,53 @@ TEST(Avvio, UnaSolaIstanza) {
     EXPECT_EQ(m.visti.size(), 1u);
 }
 
+// A lock that cannot be created is not another instance: the message names the folder and
+// the cause. (As root a folder without write permission stays writable, hence the other ways.)
+TEST(Avvio, BloccoNonCreabileNonEUnAltraIstanza) {
+    CartellaTemporanea c;
+    const QString occupato = QString::fromStdString((c / "occupato.lock").string());
+    auto primo = BloccaFile(occupato);
+    ASSERT_NE(primo, nullptr);
+    { std::ofstream(c / "file") << "x"; }
+    std::filesystem::create_directories(c / "cartella" / "Gorgo.lock");
+    std::filesystem::create_directories(c / "sola-lettura");
+    std::filesystem::permissions(c / "sola-lettura", std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::remove);
+    struct Caso {
+        std::filesystem::path file;
+        std::string attesa;
+    };
+    const std::vector<Caso> casi = {
+        {c / "occupato.lock", MessaggioIstanzaUnica},
+        {c / "file" / "Gorgo.lock", "Impossibile creare il file di blocco in " + (c / "file").string() +
+                                        ": la cartella non esiste o non è una cartella."},
+        {c / "cartella" / "Gorgo.lock", "Impossibile creare il file di blocco in " + (c / "cartella").string() + ": " +
+                                            (c / "cartella" / "Gorgo.lock").string() + " esiste già e non è un file."},
+        {c / "sola-lettura" / "Gorgo.lock", ::geteuid() == 0 ? std::string()
+                                                             : "Impossibile creare il file di blocco in " +
+                                                                   (c / "sola-lettura").string() +
+                                                                   ": cartella in sola lettura o non accessibile."},
+    };
+    for (const Caso& k : casi) {
+        if (k.attesa.empty()) continue;
+        archives::Messaggio m;
+        EXPECT_EQ(BloccaFile(QString::fromStdString(k.file.string()), &m), nullptr) << k.file;
+        EXPECT_EQ(m.testo, k.attesa);
+    }
+    std::filesystem::permissions(c / "sola-lettura", std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add);
+
+    // The start-up shows it and ends.
+    test::CreaArchivioDemo(c / "cartella",
+                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+    Messaggi m;
+    std::unique_ptr<QLockFile> blocco;
+    EXPECT_EQ(AvviaProgramma(c / "cartella", blocco), nullptr);
+    ASSERT_EQ(m.visti.size(), 1u);
+    EXPECT_EQ(m.visti[0].testo, casi[2].attesa);
+    EXPECT_EQ(m.visti[0].icona, archives::Icona::Stop);
+}
+
 // "Cambia..." opens the restrictions; their confirm shows in the panel at once.
 TEST(Avvio, RestrizioniCambiateSiVedonoSubito) {
     CartellaTemporanea c;
@@ -155,23 +205,50 @@ TEST(Avvio, ArchiviRiparatiAllApertura) {
     principale.reset();
 }
 
-TEST(Avvio, PosizioneFuoriSchermoTornaAlCentro) {
-    CartellaTemporanea c;
-    test::CreaArchivioDemo(c.percorso(),
-                           archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
-    { std::ofstream(c / "Gorgo.ini") << "[Forms]\nMainLeft=99999999\nMainTop=-5000000\n"; }
-    Messaggi m;
-    std::unique_ptr<QLockFile> blocco;
-    auto principale = AvviaProgramma(c.percorso(), blocco);
-    ASSERT_NE(principale, nullptr);
-    principale->show();
-    const QRect schermo = principale->screen()->availableGeometry();
-    EXPECT_TRUE(schermo.contains(principale->frameGeometry().topLeft())) << principale->x() << "," << principale->y();
-    // Closing writes the place back in twips.
-    principale->close();
-    const std::string ini = test::LeggiFile(c / "Gorgo.ini");
-    EXPECT_EQ(ini.find("MainLeft=99999999"), std::string::npos) << ini;
-    principale.reset();
+// The main window's place: saved in twips (single-precision, "." or ","), centred on the first
+// start, and centred when the saved place is off every screen or not a number.
+TEST(Avvio, PosizioneDellaFinestraPrincipale) {
+    struct Caso {
+        const char* forms;              // the Forms section, or nullptr for no Gorgo.ini at all
+        long long left = -1, top = -1;  // twips, -1 for the centre
+    };
+    const Caso casi[] = {
+        {nullptr},
+        {"[Forms]\n"},
+        {"[Forms]\nMainLeft=3000\n"},
+        {"[Forms]\nMainLeft=99999999\nMainTop=-5000000\n"},
+        {"[Forms]\nMainLeft=12abc\nMainTop=3000\n"},
+        {"[Forms]\nMainLeft=3000\nMainTop=1500\n", 3000, 1500},
+        {"[Forms]\nMainLeft=3000.4\nMainTop=1499,6\n", 3000, 1500},
+        {"[Forms]\nMainLeft=3.0E+03\nMainTop= 1500 \n", 3000, 1500},
+    };
+    for (const Caso& k : casi) {
+        SCOPED_TRACE(k.forms ? k.forms : "(nessun Gorgo.ini)");
+        CartellaTemporanea c;
+        test::CreaArchivioDemo(c.percorso(),
+                               archives::ParametriDemo{5, archives::Data{30, 12, 1900}, archives::Data{2, 1, 1890}});
+        if (k.forms) std::ofstream(c / "Gorgo.ini") << k.forms;
+        Messaggi m;
+        std::unique_ptr<QLockFile> blocco;
+        auto principale = AvviaProgramma(c.percorso(), blocco);
+        ASSERT_NE(principale, nullptr);
+        const QScreen* s = principale->screen();
+        const QRect a = s->availableGeometry();
+        // A window wider or taller than the screen keeps its corner on it.
+        const QPoint atteso =
+            k.left < 0 ? QPoint(std::max(a.x(), a.x() + (a.width() - principale->frameGeometry().width()) / 2),
+                                std::max(a.y(), a.y() + (a.height() - principale->frameGeometry().height()) / 2))
+                       : QPoint(PixelDaTwips(k.left, s), PixelDaTwips(k.top, s));
+        EXPECT_EQ(principale->pos(), atteso);
+        principale->show();
+        EXPECT_TRUE(a.contains(principale->frameGeometry().topLeft())) << principale->x() << "," << principale->y();
+        // Closing writes a moved place back in twips.
+        principale->move(principale->pos() + QPoint(10, 10));
+        principale->close();
+        const std::string ini = test::LeggiFile(c / "Gorgo.ini");
+        EXPECT_NE(ini.find(fmt::format("MainLeft={}\n", TwipsDaPixel(principale->x(), s))), std::string::npos) << ini;
+        principale.reset();
+    }
 }
 
 // A long job on the worker thread: the computing window shows, refuses to close, the main

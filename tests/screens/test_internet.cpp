@@ -19,6 +19,7 @@
 #include "config/ini.h"
 #include "maintenance/aggiornamento.h"
 #include "maintenance/server_locale.h"
+#include "network/connessione.h"
 #include "network/scaricatore.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/sessione.h"
@@ -358,6 +359,76 @@ TEST_F(AggiornaInternet, ScaricaStorico) {
     EXPECT_EQ(aggiornato.count(), 1);
     // The address is kept for the next time.
     EXPECT_EQ(ini_.Leggi("Options", "UrlStorico", ""), server_.Indirizzo("/storico.zip"));
+}
+
+// The host's connection state as a test sets it, with the calls it received.
+struct ConnessioneFinta : network::StatoConnessione {
+    bool connesso = true, riesce = true;
+    std::vector<bool> richieste;
+    bool Connesso() override { return connesso; }
+    bool ImpostaInLinea(bool inLinea) override {
+        richieste.push_back(inLinea);
+        return riesce;
+    }
+};
+
+// Before the download: a host not connected is switched on-line; if that fails, the system's
+// message and no transfer.
+TEST_F(AggiornaInternet, ModalitaOffLine) {
+    struct Caso {
+        bool connesso, riesce;
+        std::vector<bool> richieste;
+        bool scarica;
+    };
+    const Caso casi[] = {
+        {true, false, {}, true},
+        {false, true, {true}, true},
+        {false, false, {true}, false},
+    };
+    Url("Url", server_.Indirizzo("/manca/"));
+    for (const Caso& k : casi) {
+        SCOPED_TRACE(fmt::format("connesso {}, in linea {}", k.connesso, k.riesce));
+        auto finta = std::make_unique<ConnessioneFinta>();
+        ConnessioneFinta* stato = finta.get();
+        stato->connesso = k.connesso;
+        stato->riesce = k.riesce;
+        auto prima = network::ImpostaConnessione(std::move(finta));
+        messaggi_.clear();
+        stati_.clear();
+        {
+            FrmAggiornaInternet f(sessione_, *archivio_);
+            f.show();
+            SeguiStati(f);
+            Scarica(f, f.scaricatore());
+            EXPECT_EQ(stato->richieste, k.richieste);
+            EXPECT_EQ(!stati_.empty(), k.scarica);
+            const std::vector<std::string> testi = TestiMessaggi();
+            if (k.scarica) {
+                EXPECT_EQ(std::count(testi.begin(), testi.end(), network::MessaggioOffLine), 0);
+            } else {
+                EXPECT_EQ(TestiMessaggi(), std::vector<std::string>{"Errore richiamando la modalità off-line"});
+                EXPECT_TRUE(Trova<QPushButton>(&f, "cmdScarica")->isEnabled());
+            }
+        }
+        network::ImpostaConnessione(std::move(prima));
+    }
+
+    // The menu entry of the web page goes on-line first too.
+    auto finta = std::make_unique<ConnessioneFinta>();
+    finta->connesso = finta->riesce = false;
+    auto prima = network::ImpostaConnessione(std::move(finta));
+    archivio_.reset();
+    messaggi_.clear();
+    {
+        std::unique_ptr<QLockFile> blocco;
+        auto principale = AvviaProgramma(c_.percorso(), blocco);
+        ASSERT_NE(principale, nullptr);
+        QAction* web = Trova<QAction>(principale.get(), "mnuStrumentiWeb");
+        ASSERT_NE(web, nullptr);
+        web->trigger();
+        EXPECT_EQ(TestiMessaggi(), std::vector<std::string>{"Errore richiamando la modalità off-line"});
+    }
+    network::ImpostaConnessione(std::move(prima));
 }
 
 TEST_F(AggiornaInternet, PulsantiEVociDelMenu) {

@@ -4,6 +4,8 @@
 #include <QGuiApplication>
 #include <QVariant>
 #include <algorithm>
+#include <cmath>
+#include <optional>
 
 #include "config/impostazioni.h"
 #include "config/ini.h"
@@ -12,16 +14,15 @@ namespace gorgo::screens {
 
 namespace {
 
-long long LeggiTwips(const config::FileIni& ini, const char* chiave, long long predefinito) {
-    const std::string v =
-        config::LeggiImpostazione(ini, config::sezioni::Forms, chiave, fmt::format("{}", predefinito));
-    try {
-        size_t fine = 0;
-        const double d = std::stod(v, &fine);  // single-precision values as the host printed them
-        return fine ? static_cast<long long>(d) : predefinito;
-    } catch (...) {
-        return predefinito;
-    }
+// A place in twips, or nothing when the window is to be centred: no place saved for a
+// window whose default is the centre, or a value that is not a number.
+std::optional<long long> LeggiTwips(const config::FileIni& ini, const char* chiave) {
+    const config::VoceImpostazione* voce = config::CercaImpostazione(config::sezioni::Forms, chiave);
+    const bool centrato = voce && voce->tipo == config::TipoPredefinito::Centrato;
+    const std::string predefinito = centrato ? std::string() : std::string(voce ? voce->predefinito : "1000");
+    const auto d = config::NumeroPosizione(config::LeggiImpostazione(ini, config::sezioni::Forms, chiave, predefinito));
+    if (!d || *d <= -1e7 || *d >= 1e7) return std::nullopt;
+    return std::llround(*d);
 }
 
 }  // namespace
@@ -37,8 +38,12 @@ void Centra(QWidget* f) {
 
 void RipristinaPosizione(QWidget* f, const config::FileIni& ini, const char* chiaveLeft, const char* chiaveTop) {
     const QScreen* s = f->screen() ? f->screen() : QGuiApplication::primaryScreen();
-    const long long left = LeggiTwips(ini, chiaveLeft, 1000), top = LeggiTwips(ini, chiaveTop, 1000);
-    const QPoint p(PixelDaTwips(left, s), PixelDaTwips(top, s));
+    const auto left = LeggiTwips(ini, chiaveLeft), top = LeggiTwips(ini, chiaveTop);
+    if (!left || !top) {
+        Centra(f);
+        return;
+    }
+    const QPoint p(PixelDaTwips(*left, s), PixelDaTwips(*top, s));
     // A place saved on a screen that is gone, or off every screen, falls back to the centre.
     for (const QScreen* schermo : QGuiApplication::screens()) {
         const QRect a = schermo->availableGeometry().adjusted(0, 0, -PixelDaTwips(1000, s), -PixelDaTwips(1000, s));

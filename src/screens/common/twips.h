@@ -21,7 +21,8 @@ inline long long TwipsDaPixel(int pixel, const QScreen* s) {
 }
 
 // Reads left/top (twips) from section Forms of the settings and places the window there, or
-// in the centre when the place would be off every screen.
+// in the centre when the place would be off every screen, is not a number, or was never saved
+// for a window whose default is the centre (the main window).
 void RipristinaPosizione(QWidget* finestra, const config::FileIni& ini, const char* chiaveLeft, const char* chiaveTop);
 // Writes the place back, unless the window is minimised.
 void SalvaPosizione(QWidget* finestra, config::FileIni& ini, const char* chiaveLeft, const char* chiaveTop);

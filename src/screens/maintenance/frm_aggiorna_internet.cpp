@@ -13,6 +13,7 @@
 #include "config/impostazioni.h"
 #include "maintenance/importazione.h"
 #include "maintenance/internet.h"
+#include "network/connessione.h"
 #include "network/scaricatore.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stile.h"
@@ -172,6 +173,10 @@ void FrmAggiornaInternetBase::Stato(int stato, int codice, const QString& testo)
 void FrmAggiornaInternetBase::Scarica() {
     errore_ = false;
     const std::string indirizzo = m::IndirizzoAggiornamento(LeggiUrl(sessione_.ini, "Url"), gioco_);
+    if (!network::VaiInLineaSeServe()) {
+        MostraMessaggio(this, {network::MessaggioOffLine, "Errore", archives::Icona::Stop});
+        return;
+    }
     cmdAnnulla_->setEnabled(true);
     cmdScarica_->setEnabled(false);
     cmdApri_->setEnabled(false);
