@@ -160,7 +160,18 @@ Messaggio CreaCartellaDemo(const fs::path& cartella, const ParametriDemo& p) {
         f << "Questa cartella contiene un archivio DIMOSTRATIVO: le estrazioni sono sintetiche,\n"
              "generate dal programma, e non sono quelle reali del Lotto e del SuperEnalotto.\n"
              "Per lavorare sulle estrazioni reali indicare una cartella con i propri archivi\n"
-             "(opzione --cartella) oppure importare l'archivio storico.\n";
+             "(opzione --cartella) oppure importare l'archivio storico.\n"
+             "\n"
+             "La ricerca \"Codici Tordelli\" del costruttore usa le terzine ridotte: un file di\n"
+             "testo che non fa parte del programma. Chi lo ha lo copia in questa cartella con il\n"
+             "nome Terzine.txt,\n"
+             "oppure lo sceglie quando il costruttore lo chiede (il file scelto viene ricordato\n"
+             "nell'impostazione FileTerzine della sezione Options). Se ne può anche preparare uno\n"
+             "con un editor di testo: una terzina per riga, tre numeri da 1 a 90 di due cifre\n"
+             "separati da uno spazio (per esempio \"01 30 60\"), 1002 righe. Un numero 0 rende il\n"
+             "file non valido; un numero di righe diverso da 1002 viene segnalato, e il file si usa.\n"
+             "Per controllarlo: gorgo-cli terzine FILE. Senza il file tutte le altre ricerche\n"
+             "funzionano.\n";
     } catch (const std::exception& e) {
         return {fmt::format("Impossibile creare l'archivio dimostrativo in {} : {}", cartella.string(), e.what()),
                 "Errore", Icona::Stop};

@@ -180,8 +180,12 @@ RisultatoValore CorpoAmbiT(const Preparata& r, const Spia& spia, const std::vect
     std::vector<int> celleScelte;
     const auto& per = RisultatiPer();
 
+    // Scoring and emission go together, a first cell at a time: the emission's progress,
+    // "Ordinamento risultati " with the value, over the 55 first cells.
+    const std::string testoAvanzamento = "Ordinamento risultati " + testoSpia + "...";
     for (int a = 1; a <= 55; ++a) {
         if (r.fermata()) break;
+        if (r.avanzamento && r.avanzamento->progresso) r.avanzamento->progresso(testoAvanzamento, a - 1, 55);
         const int wa = RuotaDiCella(a);
         const int primoB = wa * 5 + 1;  // later wheels only
         if (primoB > 55) break;
@@ -260,6 +264,8 @@ RisultatoValore CorpoAmbiT(const Preparata& r, const Spia& spia, const std::vect
             celleScelte.push_back(a);
         }
     }
+
+    if (!r.fermata() && r.avanzamento && r.avanzamento->progresso) r.avanzamento->progresso(testoAvanzamento, 55, 55);
 
     // "Tutti i numeri": only the best row of the value stands.
     std::vector<size_t> tenute(scelti.size());

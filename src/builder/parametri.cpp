@@ -79,15 +79,20 @@ RicercaValidata ValidaRicerca(const ParametriRicerca& p, const archives::StoriaL
                               const EsitoTerzine* terzine, std::string_view fileTerzine) {
     if (!ParametriPossibili(p)) return Rifiuto("Parametri di ricerca non validi !");
 
-    // The codes need the reduced triples, whatever the spy: the load's own message when it
-    // gave one.
+    // The codes need the reduced triples, whatever the spy: a file that is missing or holds
+    // none is named; a file that failed says it as its load did.
     if (p.tipoRicerca == TipoRicerca::Codici && terzine && !terzine->valido) {
         RicercaValidata r;
-        r.errore = terzine->messaggio.vuoto()
-                       ? archives::Messaggio{"Codici non disponibili: manca il file delle terzine ridotte " +
-                                                 std::string(fileTerzine),
-                                             "Errore", archives::Icona::Esclamazione}
-                       : terzine->messaggio;
+        auto nonDisponibili = [&](std::string_view perche) {
+            return archives::Messaggio{"Codici non disponibili: " + std::string(perche) + std::string(fileTerzine),
+                                       "Errore", archives::Icona::Esclamazione};
+        };
+        if (terzine->fileMancante || terzine->messaggio.vuoto())
+            r.errore = nonDisponibili("manca il file delle terzine ridotte ");
+        else if (terzine->caricato)
+            r.errore = nonDisponibili("nessuna terzina nel file delle terzine ridotte ");
+        else
+            r.errore = terzine->messaggio;
         return r;
     }
 

@@ -100,6 +100,12 @@ std::string SenzaBlanchi(std::string_view t) {
 // "Num.", "Som.", "Dif.", "Amb.": the first three letters of the spy head and a point.
 std::string TestaBreve(TipoSpia tipo) { return std::string(TestaColonnaSpia(tipo).substr(0, 3)) + "."; }
 
+config::Tabella TabellaAlgoritmi(TipoSpia tipo) {
+    return {
+        "", "*------------------------------------*---------*-------------------*------------*----*",
+        "| Descrizione algoritmo              | Sortite | Presenze/quantità | % presenza | " + TestaBreve(tipo) + " |"};
+}
+
 config::Tabella TabellaVerifica(TipoSpia tipo) {
     return {"", "*------------*-------*----*------*--------*--------*------------*-----------*-------*------*",
             "| Data spia  | Ruota | " + TestaBreve(tipo) +
@@ -127,6 +133,19 @@ config::ReportTesto Previsioni(const ParametriRicerca& p, const EsitoPrevisioni&
 }
 
 }  // namespace
+
+config::ReportTesto StampaAlgoritmiRighe(const ParametriRicerca& p, const EsitoRicerca& esito,
+                                         const archives::StoriaLotto& storia) {
+    config::ReportTesto r = IntestazioneCostruttore(p, storia);
+    r.apriTabella(TabellaAlgoritmi(p.tipoSpia));
+    for (const RigaAlgoritmo& x : esito.righe) {
+        config::RigaReport riga = r.rigaTabella();
+        riga.metti(2, x.descrizione).metti(41, x.testoSortite()).metti(50, x.testoPresenze());
+        riga.metti(72, x.testoPercentuale()).metti(83, x.testoSpia);
+        r.riga(riga);
+    }
+    return r.chiudiTabella();
+}
 
 config::ReportTesto StampaVerificaRighe(const ParametriRicerca& p, const EsitoVerifica& v, std::string_view,
                                         const archives::StoriaLotto& storia) {

@@ -1,6 +1,6 @@
 #pragma once
-// The builder's text reports: the header block of the search and the file form of the
-// list of algorithms.
+// The builder's text reports: the header block of the search, and the list of algorithms
+// in its two forms, the boxed table of the printer and the labelled lines of the file.
 
 #include <string>
 
@@ -13,6 +13,7 @@
 namespace gorgo::builder {
 
 inline constexpr std::string_view NomeReportAlgoritmi = "ReportAlgoritmi";
+inline constexpr std::string_view TitoloStampaAlgoritmi = "Algoritmi rintracciati";
 
 // "Numero", "Somma", "Differ." or "Ambo": the head of the spy column.
 std::string_view TestaColonnaSpia(TipoSpia tipo);
@@ -22,7 +23,11 @@ std::string_view NomeTipoRicerca(TipoRicerca tipo, TipoSpia spia);
 // Title, blank line, the parameter lines of the search, blank line.
 config::ReportTesto IntestazioneCostruttore(const ParametriRicerca& p, const archives::StoriaLotto& storia);
 
-// The header, then one line a row: "Algoritmo: ..., Sort.: ..., Pres./quantità: ...".
+// The printed list (cmdStampaRisultati(0)), under the page title "Algoritmi rintracciati":
+// the header, then the boxed table of ListaRisultati, rows in the order of esito.righe.
+config::ReportTesto StampaAlgoritmiRighe(const ParametriRicerca& p, const EsitoRicerca& esito,
+                                         const archives::StoriaLotto& storia);
+// The file form: the header, then one line a row: "Algoritmo: ..., Sort.: ..., Pres./quantità: ...".
 config::ReportTesto ReportAlgoritmi(const ParametriRicerca& p, const EsitoRicerca& esito,
                                     const archives::StoriaLotto& storia);
 

@@ -28,9 +28,11 @@ int CampoTerzina(std::string_view campo) {
 // The widest terzina number a key can hold (four digits).
 constexpr int MassimoTerzine = 9999;
 
-EsitoTerzine NonValido() {
+EsitoTerzine NonValido(int riga) {
     EsitoTerzine r;
     r.messaggio = {" File terzine non valido!", "", archives::Icona::Esclamazione};
+    r.nonValido = true;
+    r.rigaNonValida = riga;
     return r;
 }
 
@@ -40,7 +42,6 @@ EsitoTerzine CaricaTerzine(const std::string& percorso) {
     EsitoTerzine esito;
     if (!archives::EsisteFile(percorso)) {
         esito.fileMancante = true;
-        esito.messaggio = {"File terzine ridotte non trovato: " + percorso, "", archives::Icona::Esclamazione};
         return esito;
     }
     std::ifstream in(percorso, std::ios::binary);
@@ -64,16 +65,18 @@ EsitoTerzine CaricaTerzine(const std::string& percorso) {
         if (!riga.empty() && riga.back() == '\r') riga.remove_suffix(1);
         // A line break after the last line leaves nothing behind it: that is no line.
         if (riga.empty() && inizio >= testo.size()) break;
-        if (riga.size() < 5) return NonValido();
+        const int numeroRiga = t.quante() + 1;
+        if (riga.size() < 5) return NonValido(numeroRiga);
         const std::array<int, 3> numeri{CampoTerzina(riga.substr(0, 2)), CampoTerzina(riga.substr(3, 2)),
                                         CampoTerzina(riga.substr(riga.size() - 2))};
         for (int n : numeri)
-            if (n < 1 || n > 90) return NonValido();
-        if (t.quante() == MassimoTerzine) return NonValido();
+            if (n < 1 || n > 90) return NonValido(numeroRiga);
+        if (t.quante() == MassimoTerzine) return NonValido(numeroRiga);
         t.terzine.push_back(numeri);
     }
 
     esito.terzine = std::move(t);
+    esito.caricato = true;
     esito.valido = esito.terzine.disponibili();
     if (esito.terzine.quante() != NumeroTerzineAttese)
         esito.messaggio = {std::to_string(esito.terzine.quante()) + " terzine caricate!\"", "",

@@ -18,9 +18,15 @@ struct TerzineRidotte {
 };
 struct EsitoTerzine {
     TerzineRidotte terzine;
-    bool valido = false;            // false: codes unavailable
-    archives::Messaggio messaggio;  // " File terzine non valido!" or "N terzine caricate!\"" or a missing file
+    bool valido = false;  // false: codes unavailable
+    // What the load tells: " File terzine non valido!", "N terzine caricate!\"" for a count
+    // other than 1002 (the load stands), or an error reading the file; nothing for a
+    // missing file, which the screen asks for and the command line names.
+    archives::Messaggio messaggio;
     bool fileMancante = false;
+    bool nonValido = false;  // a number that is not 1..90 (the system's zero) or a line without three
+    int rigaNonValida = 0;   // the line, counted from 1
+    bool caricato = false;   // read to its end: the load stands, whatever the count
 };
 // Each line: first number in characters 1-2, second in 4-5, third in the last two.
 EsitoTerzine CaricaTerzine(const std::string& percorso);

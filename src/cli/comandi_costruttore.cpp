@@ -9,6 +9,7 @@
 #include "builder/ricerca.h"
 #include "cli/contesto.h"
 #include "cli/parametri_ricerca.h"
+#include "config/impostazioni.h"
 
 namespace gorgo::cli {
 
@@ -84,6 +85,34 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
                                  r.testoPercentuale(), r.testoSpia);
 }
 
+// terzine [FILE]: the load of the reduced triples the codes would do, told without a search.
+void ControllaTerzine(const Contesto& ctx, std::string file) {
+    if (file.empty()) {
+        const config::FileIni ini(ctx.FileImpostazioni().string());
+        file = config::LeggiImpostazione(ini, config::sezioni::Options, "FileTerzine", "");
+        if (file.empty()) file = (ctx.PercorsoProgramma() / "Terzine.txt").string();
+    }
+    const builder::EsitoTerzine t = builder::CaricaTerzine(file);
+    if (t.fileMancante)
+        throw Rifiuta("Manca il file delle terzine ridotte " + file +
+                          " (predefinito: l'impostazione Options FileTerzine, o Terzine.txt nella cartella del "
+                          "programma).",
+                      ErroreInterno);
+    if (!t.caricato) throw Rifiuto{SpiegaTerzine(t, file, t.messaggio), t.nonValido ? InputRifiutato : ErroreInterno};
+    if (ctx.json) {
+        StampaJson({{"file", file},
+                    {"terzine", t.terzine.quante()},
+                    {"attese", builder::NumeroTerzineAttese},
+                    {"messaggio", t.messaggio.testo}});
+        return;
+    }
+    if (!t.messaggio.vuoto()) std::cerr << t.messaggio.testo << "\n";
+    std::cout << fmt::format("{} terzine in {}{}\n", t.terzine.quante(), file,
+                             t.valido && t.terzine.quante() == builder::NumeroTerzineAttese
+                                 ? ""
+                                 : fmt::format(" (ne sono attese {})", builder::NumeroTerzineAttese));
+}
+
 }  // namespace
 
 void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
@@ -97,6 +126,12 @@ void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
     c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
     c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
     c->callback([&ctx, a] { Costruttore(ctx, *a); });
+
+    auto file = std::make_shared<std::string>();
+    auto* t = app.add_subcommand(
+        "terzine", "Controlla il file delle terzine ridotte dei codici (1002 righe \"NN NN NN\"), senza cercare");
+    t->add_option("file", *file, "Il file (predefinito: impostazione FileTerzine o Terzine.txt)");
+    t->callback([&ctx, file] { ControllaTerzine(ctx, *file); });
 }
 
 const GruppoComandi registrazione{30, AggiungiComandiCostruttore};

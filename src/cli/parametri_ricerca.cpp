@@ -6,6 +6,7 @@
 #include <cctype>
 #include <cstdio>
 #include <cstdlib>
+#include <iostream>
 #include <map>
 
 #include "config/impostazioni.h"
@@ -170,14 +171,31 @@ builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const 
     return p;
 }
 
+archives::Messaggio SpiegaTerzine(const builder::EsitoTerzine& t, const std::string& file,
+                                  archives::Messaggio messaggio) {
+    if (t.nonValido)
+        messaggio.testo =
+            fmt::format("File terzine non valido! {}, riga {}: ogni riga dà tre numeri da 1 a 90 (\"NN NN NN\").", file,
+                        t.rigaNonValida);
+    else if (t.fileMancante)
+        messaggio.testo += ". Indicarlo con --terzine FILE oppure con l'impostazione Options FileTerzine.";
+    return messaggio;
+}
+
 builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio, const config::FileIni& ini,
                                              const ArgomentiRicerca& a, const builder::ParametriRicerca& p) {
     builder::ContestoCostruttore cc =
         builder::PreparaCostruttore(archivio.Storia(), ini, archivio.PercorsoProgramma(),
                                     a.terzine.empty() ? std::nullopt : std::optional(a.terzine));
     if (const builder::RicercaValidata v = builder::ValidaRicerca(p, *cc.storia, &cc.terzine, cc.fileTerzine);
-        !v.errore.vuoto())
+        !v.errore.vuoto()) {
+        if (p.tipoRicerca == builder::TipoRicerca::Codici && !cc.terzine.valido)
+            throw Rifiuto{SpiegaTerzine(cc.terzine, cc.fileTerzine, v.errore)};
         throw Rifiuto{v.errore};
+    }
+    // A count other than 1002 only tells, as the screen does, and the codes run.
+    if (p.tipoRicerca == builder::TipoRicerca::Codici && !cc.terzine.messaggio.vuoto())
+        std::cerr << cc.terzine.messaggio.testo << "\n";
     // The search has no word for a search without play wheels (it would find nothing); a
     // command line can ask for one, so it gets a refusal in the same words.
     if (builder::ContaRuoteScelte(p.ruoteGioco) == 0) throw Rifiuta("Scegliere almeno una ruota di gioco !");

@@ -36,6 +36,11 @@ builder::ParametriRicerca ParametriDaArgomenti(const ArgomentiRicerca& a, const 
 // A number typed into a box of digits only, at most `cifre` long: nothing when it is not one.
 std::optional<int> LeggiCasella(const std::string& testo, size_t cifre);
 
+// The refusal of the codes without their triples, `messaggio` being the search's: a missing
+// file is told how to give it, a file that failed where.
+archives::Messaggio SpiegaTerzine(const builder::EsitoTerzine& t, const std::string& file,
+                                  archives::Messaggio messaggio);
+
 // The builder's context for a search, with the parameters validated against it (the codes
 // without their file included, then the play wheels); a refusal is thrown as the search gives it.
 builder::ContestoCostruttore PreparaContesto(const archives::Archivio& archivio, const config::FileIni& ini,

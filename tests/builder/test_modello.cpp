@@ -273,9 +273,10 @@ TEST(ModelloTerzine, FileBuonoConteggioDiversoEMancante) {
     EXPECT_FALSE(vuoto.valido);
     EXPECT_EQ(vuoto.messaggio.testo, "0 terzine caricate!\"");
 
+    // A missing file has no text of its own: the screen asks for it, the command line names it.
     const auto m = CaricaTerzine((dir / "assente.txt").string());
-    EXPECT_TRUE(m.fileMancante && !m.valido);
-    EXPECT_NE(m.messaggio.testo.find("assente.txt"), std::string::npos);
+    EXPECT_TRUE(m.fileMancante && !m.valido && !m.caricato && !m.nonValido);
+    EXPECT_TRUE(m.messaggio.vuoto()) << m.messaggio.testo;
 }
 
 TEST(ModelloTerzine, FileNonValido) {
@@ -286,9 +287,13 @@ TEST(ModelloTerzine, FileNonValido) {
                                      Righe(10, "\n") + "1-2\n",                // too short for three fields
                                      Righe(10, "\n") + "01-02-91\n"}) {
         const auto r = Carica(dir, testo);
-        EXPECT_FALSE(r.valido || r.fileMancante || r.terzine.disponibili());
+        EXPECT_FALSE(r.valido || r.fileMancante || r.caricato || r.terzine.disponibili());
+        EXPECT_TRUE(r.nonValido);
         EXPECT_EQ(r.messaggio.testo, " File terzine non valido!");
     }
+    // The line that ends the load, for a message that can name it.
+    EXPECT_EQ(Carica(dir, Righe(1002, "\n", 500)).rigaNonValida, 500);
+    EXPECT_EQ(Carica(dir, Righe(10, "\n") + "01-02-91\n").rigaNonValida, 11);
 }
 
 }  // namespace

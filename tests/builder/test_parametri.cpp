@@ -141,6 +141,12 @@ TEST(ParametriValidazione, CodiciSenzaTerzine) {
     EsitoTerzine guasto;
     guasto.messaggio = {" File terzine non valido!", "", archives::Icona::Stop};
     EXPECT_EQ(ValidaRicerca(p, s, &guasto, "t.txt").errore.testo, " File terzine non valido!");
+    // A file read whole with no triple in it stands as a load, and the codes have nothing.
+    EsitoTerzine vuoto;
+    vuoto.caricato = true;
+    vuoto.messaggio = {"0 terzine caricate!\"", "", archives::Icona::Informazione};
+    EXPECT_EQ(ValidaRicerca(p, s, &vuoto, "/x/Terzine.txt").errore.testo,
+              "Codici non disponibili: nessuna terzina nel file delle terzine ridotte /x/Terzine.txt");
     EXPECT_EQ(ValidaRicerca(p, s).errore.testo, "Inserire il n. di colpi di gioco !");
     EsitoTerzine buono;
     buono.valido = true;

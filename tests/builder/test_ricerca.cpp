@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <thread>
@@ -81,6 +82,35 @@ TEST(Ricerca, AvanzamentoPerValore) {
     EXPECT_EQ(testi.front(), "Analisi algoritmi  1...");
     EXPECT_TRUE(e.sortite.empty());  // no count with every value
     EXPECT_FALSE(e.parziale);
+}
+
+// The Ambi body tells its emission, "Ordinamento risultati " with the value, over the 55
+// first cells, after the analysis of the value; the other bodies do not.
+TEST(Ricerca, AvanzamentoOrdinamentoRisultatiNegliAmbi) {
+    Demo d;
+    ParametriRicerca p = Tutte(TipoRicerca::Ambi);
+    p.dataDa = d.storia.DataEstrazione(d.storia.NumeroEstrazioni() - 60);
+    std::vector<std::pair<std::string, int>> testi;
+    Avanzamento av;
+    av.progresso = [&](const std::string& testo, int valore, int massimo) {
+        testi.emplace_back(testo, massimo);
+        EXPECT_LE(valore, massimo);
+    };
+    const EsitoRicerca e = CercaAlgoritmi(p, d.contesto, av);
+    ASSERT_FALSE(e.righe.empty());
+    ASSERT_GE(testi.size(), 2u);
+    EXPECT_EQ(testi.front().first, "Analisi algoritmi 27...");
+    const auto ordinamento = std::find_if(testi.begin(), testi.end(),
+                                          [](const auto& t) { return t.first == "Ordinamento risultati 27..."; });
+    ASSERT_NE(ordinamento, testi.end());
+    EXPECT_EQ(ordinamento->second, 55);
+    EXPECT_EQ(testi.back(), (std::pair<std::string, int>{"Ordinamento risultati 27...", 55}));
+
+    for (TipoRicerca tipo : {TipoRicerca::Ambate, TipoRicerca::TerzineAmbo}) {
+        testi.clear();
+        CercaAlgoritmi(Tutte(tipo), d.contesto, av);
+        for (const auto& t : testi) EXPECT_EQ(t.first.rfind("Analisi algoritmi", 0), 0u) << t.first;
+    }
 }
 
 }  // namespace

@@ -234,6 +234,72 @@ TEST_F(Cli, Costruttore) {
     EXPECT_EQ(LeggiFile(report), testo + testo);
 }
 
+// The reduced triples of the codes: a missing file named with the way to give it, a bad one
+// with its line, a count other than 1002 told and used; the check of a file on its own; the
+// demo folder saying how to get one.
+TEST_F(Cli, TerzineRidotte) {
+    auto scrivi = [&](const char* nome, int quante, int zeroAlla = 0) {
+        std::string t;
+        for (int i = 1; i <= quante; ++i)
+            t += fmt::format("{:02d} {:02d} {:02d}\n", i == zeroAlla ? 0 : i % 90 + 1, (i * 7) % 90 + 1,
+                             (i * 11) % 89 + 2);
+        std::ofstream(c_.percorso() / nome, std::ios::binary) << t;
+        return (c_.percorso() / nome).string();
+    };
+    const std::vector<std::string> codici = {"costruttore", "--tipo",          "codici", "--valore",
+                                             "27",          "--ruote-ricerca", "tutte",  "--da",
+                                             "01/09/2025",  "--indice-mese",   "tutti"};
+    const std::string prima = Istantanea(cartella_);
+    Esito r = Su(codici);
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_EQ(r.err, "Codici non disponibili: manca il file delle terzine ridotte " +
+                         (cartella_ / "Terzine.txt").string() +
+                         ". Indicarlo con --terzine FILE oppure con l'impostazione Options FileTerzine.\n");
+    EXPECT_TRUE(r.out.empty());
+
+    const std::string guasto = scrivi("guaste.txt", 1002, 40);
+    std::vector<std::string> a = codici;
+    a.insert(a.end(), {"--terzine", guasto});
+    r = Su(a);
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_EQ(r.err,
+              "File terzine non valido! " + guasto + ", riga 40: ogni riga dà tre numeri da 1 a 90 (\"NN NN NN\").\n");
+
+    const std::string corto = scrivi("corte.txt", 300);
+    a = codici;
+    a.insert(a.end(), {"--terzine", corto});
+    r = Su(a);
+    EXPECT_EQ(r.codice, 0) << r.err;
+    EXPECT_EQ(r.err, "300 terzine caricate!\"\n");
+    EXPECT_NE(r.out.find("(t."), std::string::npos) << r.out;
+    EXPECT_EQ(Istantanea(cartella_), prima);
+
+    // The check alone.
+    r = Su({"terzine", scrivi("buone.txt", 1002)});
+    EXPECT_EQ(r.codice, 0) << r.err;
+    EXPECT_EQ(r.out, "1002 terzine in " + (c_.percorso() / "buone.txt").string() + "\n");
+    EXPECT_TRUE(r.err.empty()) << r.err;
+    r = Su({"terzine", corto});
+    EXPECT_EQ(r.codice, 0);
+    EXPECT_EQ(r.out, "300 terzine in " + corto + " (ne sono attese 1002)\n");
+    EXPECT_EQ(r.err, "300 terzine caricate!\"\n");
+    EXPECT_EQ(json::parse(Su({"--json", "terzine", corto}).out)["terzine"], 300);
+    r = Su({"terzine", guasto});
+    EXPECT_EQ(r.codice, 2);
+    EXPECT_NE(r.err.find("riga 40"), std::string::npos) << r.err;
+    r = Su({"terzine"});
+    EXPECT_EQ(r.codice, 1);
+    EXPECT_EQ(r.err, "Manca il file delle terzine ridotte " + (cartella_ / "Terzine.txt").string() +
+                         " (predefinito: l'impostazione Options FileTerzine, o Terzine.txt nella cartella del "
+                         "programma).\n");
+    EXPECT_EQ(Istantanea(cartella_), prima);
+
+    // The demo folder tells a new user how to have the codes.
+    const std::string leggimi = LeggiFile(cartella_ / "LEGGIMI-DEMO.txt");
+    for (const char* parola : {"Terzine.txt", "FileTerzine", "1002 righe", "\"01 30 60\"", "gorgo-cli terzine"})
+        EXPECT_NE(leggimi.find(parola), std::string::npos) << parola;
+}
+
 TEST(CliReale, ArchivioReale) {
     GORGO_RICHIEDI_ARCHIVI_REALI(reale);
     const json info = json::parse(Esegui({"--cartella", reale.string(), "--json", "info"}).out);

@@ -17,7 +17,9 @@
 #include "screens/builder/satelliti.h"
 #include "screens/common/caselle.h"
 #include "screens/common/elaborazioni.h"
+#include "screens/common/liste.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/scelta_file.h"
 #include "screens/common/stampa.h"
 #include "screens/common/stile.h"
 #include "screens/common/twips.h"
@@ -282,6 +284,11 @@ void FrmCostruttore::CreaRisultati(QVBoxLayout* destra) {
                                 QStringLiteral("C.po"), QString(), QString(), QStringLiteral("Algoritmo")});
     lvListaPrevisioni_->setColumnHidden(11, true);
     lvListaPrevisioni_->setColumnHidden(12, true);
+    // Dates sort in time: the cases by their progressive index, the replay's spy and hit
+    // dates by its hidden column 12.
+    OrdinaColonnaSecondo(lstVListaUscite_, 0, 6);
+    OrdinaColonnaSecondo(lvListaPrevisioni_, 0, 12);
+    OrdinaColonnaSecondo(lvListaPrevisioni_, 8, 12);
     destra->addWidget(divisore, 1);
     connect(ListaRisultati_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* r) { ApriAlgoritmo(r); });
 
@@ -393,6 +400,8 @@ void FrmCostruttore::CollegaSvuotamento() {
     connect(cboTipoRicerca_, &QComboBox::currentIndexChanged, this, [this, svuota] {
         AggiornaPerTipoRicerca();
         svuota();
+        if (Parametri().tipoRicerca == builder::TipoRicerca::Codici && Parametri().tipoSpia != builder::TipoSpia::Ambo)
+            PreparaTerzine();
     });
     connect(cboNumero_, &QComboBox::currentIndexChanged, this, svuota);
     connect(cboSortite_, &QComboBox::currentIndexChanged, this, svuota);
@@ -558,7 +567,11 @@ void FrmCostruttore::SvuotaRisultati() {
 void FrmCostruttore::Calcola() {
     if (elaborazione_) return;
     SvuotaRisultati();
-    const builder::ParametriRicerca p = Parametri();
+    builder::ParametriRicerca p = Parametri();
+    // The codes ask for their file first; a file that fails turns the kind to "Terzine x terno".
+    if (p.tipoRicerca == builder::TipoRicerca::Codici && p.tipoSpia != builder::TipoSpia::Ambo && !PreparaTerzine() &&
+        contesto_->terzine.nonValido)
+        return;
     // Validation first, on this thread: a refusal shows its message and focuses its control.
     const builder::RicercaValidata v =
         builder::ValidaRicerca(p, *contesto_->storia, &contesto_->terzine, contesto_->fileTerzine);
@@ -566,6 +579,12 @@ void FrmCostruttore::Calcola() {
         MostraMessaggio(this, v.errore);
         if (QWidget* w = findChild<QWidget*>(QString::fromStdString(v.focus))) w->setFocus();
         return;
+    }
+    // Step 6 puts the ambo spy in ascending order, and the boxes show it so.
+    if (p.tipoSpia == builder::TipoSpia::Ambo && !p.tuttiGliAmbi && v.amboSpia != p.amboSpia) {
+        txtAmbo_[1]->setText(QString::number(v.amboSpia[0]));
+        txtAmbo_[2]->setText(QString::number(v.amboSpia[1]));
+        p = Parametri();
     }
     elaborazione_ = true;
     auto risultato = std::make_shared<builder::EsitoRicerca>();
@@ -601,7 +620,7 @@ void FrmCostruttore::MostraEsito(const builder::EsitoRicerca& e) {
     ListaRisultati_->sortByColumn(2, Qt::DescendingOrder);
     lstVListaUscite_->setSortingEnabled(false);
     for (const builder::CasoSpia& c : e.casi)
-        new QTreeWidgetItem(
+        new RigaLista(
             lstVListaUscite_,
             {QString::fromStdString(c.data), QString::fromStdString(c.nomeRuota), QString::fromStdString(c.testoSpia),
              QString::fromStdString(c.testoPosizione), QString::fromStdString(c.testoIndiceMese),
@@ -633,17 +652,60 @@ void FrmCostruttore::StampaAlgoritmi() {
         MostraMessaggio(this, {std::string(config::NullaDaStampare), "", archives::Icona::Esclamazione});
         return;
     }
-    const config::ReportTesto r = builder::ReportAlgoritmi(parametriEsito_, esito_, *contesto_->storia);
+    // The boxed table, not the file's lines.
+    const config::ReportTesto r = builder::StampaAlgoritmiRighe(parametriEsito_, EsitoComeLista(), *contesto_->storia);
     OpzioniStampa o;
-    o.titolo1 = QStringLiteral("Gorgo 2 - Ideato da Sergio Tordelli");
-    o.titolo2 = QStringLiteral("Algoritmi rintracciati");
+    o.titolo1 = Q(config::TitoloReport);
+    o.titolo2 = Q(builder::TitoloStampaAlgoritmi);
     StampaReport(this, r.righe(), o);
 }
 
 void FrmCostruttore::FileAlgoritmi() {
     if (esito_.righe.empty()) return;
-    const config::ReportTesto r = builder::ReportAlgoritmi(parametriEsito_, esito_, *contesto_->storia);
+    const config::ReportTesto r = builder::ReportAlgoritmi(parametriEsito_, EsitoComeLista(), *contesto_->storia);
     SalvaReportSuFile(this, sessione_, r.righe(), Q(builder::NomeReportAlgoritmi), DomandaFile::InCalce);
+}
+
+builder::EsitoRicerca FrmCostruttore::EsitoComeLista() const {
+    builder::EsitoRicerca e = esito_;
+    e.righe.clear();
+    for (int i = 0; i < ListaRisultati_->topLevelItemCount(); ++i) {
+        const int k = ListaRisultati_->topLevelItem(i)->data(0, Qt::UserRole + 1).toInt();
+        if (k >= 0 && k < static_cast<int>(esito_.righe.size()))
+            e.righe.push_back(esito_.righe[static_cast<size_t>(k)]);
+    }
+    return e;
+}
+
+bool FrmCostruttore::PreparaTerzine() {
+    builder::EsitoTerzine& t = contesto_->terzine;
+    if (t.valido && terzineAnnunciate_) return true;
+    // Read again: the file may have been mended, or taken away, since the screen opened.
+    if (!t.valido) t = builder::CaricaTerzine(contesto_->fileTerzine);
+    if (t.fileMancante) {
+        // The setting FileTerzine, or Terzine.txt in the program folder, is not there.
+        const QString scelto =
+            ScegliFileManutenzione
+                ? ScegliFileManutenzione(this, ModoSceltaFile::Apri, Q(builder::TitoloApriTerzine),
+                                         Q(builder::FiltroTerzine),
+                                         QString::fromStdString(sessione_.PercorsoProgramma.string()))
+                : QString();
+        if (scelto.isEmpty()) return false;
+        contesto_->fileTerzine = scelto.toStdString();
+        t = builder::CaricaTerzine(contesto_->fileTerzine);
+        if (t.caricato)
+            config::ScriviImpostazione(sessione_.ini, config::sezioni::Options, "FileTerzine", contesto_->fileTerzine);
+    }
+    terzineAnnunciate_ = true;
+    if (!t.messaggio.vuoto()) MostraMessaggio(this, t.messaggio);
+    if (t.nonValido) {
+        // The setting is cleared: the next load tries Terzine.txt in the program folder.
+        config::ScriviImpostazione(sessione_.ini, config::sezioni::Options, "FileTerzine", "");
+        contesto_->fileTerzine = (sessione_.PercorsoProgramma / "Terzine.txt").string();
+        cboTipoRicerca_->setCurrentIndex(static_cast<int>(builder::TipoRicerca::TerzineTerno));
+        return false;
+    }
+    return t.valido;
 }
 
 namespace {
@@ -676,7 +738,7 @@ void FrmCostruttore::ApriAlgoritmo(QTreeWidgetItem* item) {
         QStringList colonne;
         for (const std::string& c : r.colonne) colonne << QString::fromStdString(c);
         colonne << QString::fromStdString(r.chiave);
-        auto* item2 = new QTreeWidgetItem(lvListaPrevisioni_, colonne);
+        auto* item2 = new RigaLista(lvListaPrevisioni_, colonne);
         if (r.inCorso)
             for (int c : {7, 8, 10}) {
                 item2->setForeground(c, ColoreVb(builder::ColoreInCorso));

@@ -70,6 +70,11 @@ private:
     void ListaSortite();
     void StampaAlgoritmi();
     void FileAlgoritmi();
+    // The results in the order the list shows them now: the reports walk the current list.
+    builder::EsitoRicerca EsitoComeLista() const;
+    // The reduced triples for the codes: a missing file is asked for; the load's
+    // outcome is told once. False when the codes cannot run.
+    bool PreparaTerzine();
     void StampaVerifica();
     void FileVerifica();
     QString TestaSpia() const;
@@ -82,6 +87,7 @@ private:
     int rigaAperta_ = -1;                       // its place in esito_.righe
     bool caricamento_ = false;                  // the boxes' own handlers do not save while they are being set
     bool elaborazione_ = false;
+    bool terzineAnnunciate_ = false;  // the load of the triples has been told to the user
 
     std::array<QRadioButton*, 4> optSpia_{};
     std::array<QRadioButton*, 3> optTipo_{};

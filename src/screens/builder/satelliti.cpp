@@ -7,6 +7,7 @@
 
 #include "builder/report.h"
 #include "config/ini.h"
+#include "screens/common/liste.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
 #include "screens/common/stile.h"
@@ -126,8 +127,9 @@ FrmListaSortite::FrmListaSortite(const config::FileIni& ini, QWidget* parent,
     for (const builder::CasoSpia& c : casi) {
         QStringList colonne;
         for (const std::string& t : builder::ColonneListaSortite(c)) colonne << QString::fromStdString(t);
-        new QTreeWidgetItem(lista, colonne);
+        new RigaLista(lista, colonne);
     }
+    OrdinaColonnaSecondo(lista, 0, 6);  // the date by the progressive index
     lista->sortByColumn(6, Qt::DescendingOrder);
     l->addWidget(lista);
     QPushButton* esci = Pulsante(this, "cmdEsci", QStringLiteral("Esci"));

@@ -90,9 +90,17 @@ std::size_t RigheMassime(const std::vector<std::vector<config::RigaTesto>>& pagi
     return n;
 }
 
+bool ConDialogoDiStampa(QWidget* parent, QPrinter& stampante) {
+    QPrintDialog dialogo(&stampante, parent);
+    dialogo.setObjectName(QStringLiteral("frmStampa"));
+    return dialogo.exec() == QDialog::Accepted;
+}
+
 }  // namespace
 
 SceltaFileReport SceltaFileReportPredefinita() { return SalvaConDialogo; }
+DialogoStampa DialogoStampaPredefinito() { return ConDialogoDiStampa; }
+DialogoStampa ApriDialogoStampa = ConDialogoDiStampa;
 DomandaReport DomandaReportPredefinita() { return Chiedi; }
 
 SceltaFileReport ScegliFileReport = SalvaConDialogo;
@@ -231,9 +239,7 @@ bool StampaReport(QWidget* parent, std::span<const config::RigaTesto> righe, con
         return anteprima.exec() == QDialog::Accepted;
     }
 
-    QPrintDialog dialogo(&stampante, parent);
-    dialogo.setObjectName(QStringLiteral("frmStampa"));
-    if (dialogo.exec() != QDialog::Accepted) return false;
+    if (!(ApriDialogoStampa ? ApriDialogoStampa : DialogoStampa(ConDialogoDiStampa))(parent, stampante)) return false;
     if (!DisegnaReport(stampante, righe, opzioni)) {
         MostraMessaggio(parent, {"Impossibile stampare: la stampante non risponde.", "Errore", archives::Icona::Stop});
         return false;

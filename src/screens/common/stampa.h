@@ -54,6 +54,12 @@ extern DomandaReport ChiediReport;
 SceltaFileReport SceltaFileReportPredefinita();
 DomandaReport DomandaReportPredefinita();
 
+// The print dialog of StampaReport, replaceable: it gets the printer to set up and says
+// whether to print. Tests point the printer at a PDF file and accept, without a window.
+using DialogoStampa = std::function<bool(QWidget* parent, QPrinter& stampante)>;
+extern DialogoStampa ApriDialogoStampa;
+DialogoStampa DialogoStampaPredefinito();
+
 // "File di testo (*.Txt)|*.Txt" (the pairs of the host's dialogs) or a Qt filter, as a Qt filter.
 QString FiltroQt(const QString& filtro);
 
