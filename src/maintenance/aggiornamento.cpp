@@ -439,7 +439,8 @@ EsitoRiparazione RiparaCartellaArchivi(const fs::path& cartella, bool soloVerifi
         parti.push_back(
             fmt::format("tolta un'estrazione incompleta in coda a SuperEnalotto.ind ({} byte)", r.byteTroncatiSuper));
     if (r.byteTroncatiAnni) parti.push_back(fmt::format("tolti {} byte in coda ad anni.ind", r.byteTroncatiAnni));
-    if (r.anniAggiunti) parti.push_back(fmt::format("aggiunti {} anni ad anni.ind", r.anniAggiunti));
+    if (r.anniAggiunti == 1) parti.push_back("aggiunto 1 anno ad anni.ind");
+    if (r.anniAggiunti > 1) parti.push_back(fmt::format("aggiunti {} anni ad anni.ind", r.anniAggiunti));
     if (!parti.empty()) {
         r.descrizione = "Archivio riparato dopo un'interruzione: ";
         for (size_t i = 0; i < parti.size(); ++i) r.descrizione += (i ? "; " : "") + parti[i];

@@ -521,7 +521,7 @@ TEST_F(CliManutenzione, UnArchivioInterrottoSiRiparaAllaLetturaEPrimaDiScrivere)
     const Esito info = Su({"--json", "info"});
     ASSERT_EQ(info.codice, 0) << info.err;
     EXPECT_NE(info.err.find("Archivio riparato dopo un'interruzione"), std::string::npos) << info.err;
-    EXPECT_NE(info.err.find("aggiunti 1 anni ad anni.ind"), std::string::npos) << info.err;
+    EXPECT_NE(info.err.find("aggiunto 1 anno ad anni.ind"), std::string::npos) << info.err;
     EXPECT_EQ(fs::file_size(estrazioni), (10779u + 10u) * 66u);
     const Esito pulito = Su({"info"});
     EXPECT_EQ(pulito.codice, 0);
