@@ -16,6 +16,25 @@ using nlohmann::json;
 using test::Esegui;
 using test::Esito;
 
+struct Caso {
+    std::vector<std::string> argomenti;
+    std::string messaggio;
+};
+
+// A command, then the given groups of arguments in order.
+std::vector<std::string> Con(const std::string& comando, std::initializer_list<std::vector<std::string>> gruppi) {
+    std::vector<std::string> a{comando};
+    for (const auto& g : gruppi) a.insert(a.end(), g.begin(), g.end());
+    return a;
+}
+std::vector<std::string> Con(const std::string& comando, const std::vector<std::string>& argomenti) {
+    return Con(comando, {argomenti});
+}
+std::vector<std::string> Con(const std::string& comando, const std::vector<std::string>& prima,
+                             const std::vector<std::string>& argomenti) {
+    return Con(comando, {prima, argomenti});
+}
+
 class ChiaviELimiti : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -35,15 +54,18 @@ protected:
         EXPECT_FALSE(j["righe"].empty());
         return j["righe"].empty() ? std::string() : j["righe"][0]["chiave"].get<std::string>();
     }
+    // A refusal: the message alone on stderr, exit 2, nothing printed.
+    void Rifiutato(const std::vector<std::string>& argomenti, const std::string& messaggio) const {
+        const Esito e = Su(argomenti);
+        EXPECT_EQ(e.codice, 2) << argomenti[0] << " " << argomenti[1];
+        EXPECT_EQ(e.err, messaggio + "\n") << argomenti[0] << " " << argomenti[1];
+        EXPECT_TRUE(e.out.empty());
+    }
     test::CartellaTemporanea c_;
     std::filesystem::path cartella_;
 };
 
 TEST_F(ChiaviELimiti, IValoriCheIlControlloNonContieneSonoRifiutati) {
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
     const std::vector<Caso> casi = {
         {{"--ultime", "0"}, "Inserire il n. di sortite da ricercare!"},
         {{"--ultime", "-1"}, "Inserire il n. di sortite da ricercare!"},
@@ -65,27 +87,15 @@ TEST_F(ChiaviELimiti, IValoriCheIlControlloNonContieneSonoRifiutati) {
          "Con l'ambo spia il tipo di ricerca è ambate oppure ambi."},
     };
     for (const Caso& c : casi) {
-        for (const char* comando : {"costruttore", "previsioni"}) {
-            std::vector<std::string> a{comando};
-            if (std::string(comando) == "previsioni") a.insert(a.end(), {"--chiave", "101x00010_01111115"});
-            a.insert(a.end(), c.argomenti.begin(), c.argomenti.end());
-            const Esito e = Su(a);
-            // previsioni reads the spy from its key: the spy's own options contradict it first.
-            if (std::string(comando) == "previsioni" && (c.argomenti[0] == "--valore" || c.argomenti[0] == "--spia"))
-                continue;
-            EXPECT_EQ(e.codice, 2) << comando << " " << c.argomenti[0];
-            EXPECT_EQ(e.err, c.messaggio + "\n") << comando << " " << c.argomenti[0];
-            EXPECT_TRUE(e.out.empty());
-        }
+        Rifiutato(Con("costruttore", c.argomenti), c.messaggio);
+        // previsioni reads the spy from its key: the spy's own options contradict it first.
+        if (c.argomenti[0] != "--valore" && c.argomenti[0] != "--spia")
+            Rifiutato(Con("previsioni", {"--chiave", "101x00010_01111115"}, c.argomenti), c.messaggio);
     }
 }
 
 TEST_F(ChiaviELimiti, UnaChiaveMalformataOContraddettaERifiutata) {
     const std::string ambata = "204x00010_27111115";
-    struct Caso {
-        std::vector<std::string> argomenti;
-        std::string messaggio;
-    };
     const std::vector<Caso> casi = {
         {{"--chiave", "204x00010"}, "Calcolo impossibile: algoritmo mancante."},
         {{"--chiave", "204x00010_2711"}, "Calcolo impossibile: algoritmo mancante."},
@@ -109,19 +119,12 @@ TEST_F(ChiaviELimiti, UnaChiaveMalformataOContraddettaERifiutata) {
          "La chiave \"101x00010_28111115\" è di un'altra ricerca: le chiavi di un calcolo devono avere lo stesso "
          "tipo, la stessa spia e le stesse posizioni."},
     };
-    for (const Caso& c : casi)
-        for (const char* comando : {"verifica", "previsioni"}) {
-            // verifica replays one key.
-            if (std::string(comando) == "verifica" &&
-                std::count(c.argomenti.begin(), c.argomenti.end(), std::string("--chiave")) > 1)
-                continue;
-            std::vector<std::string> a{comando};
-            a.insert(a.end(), c.argomenti.begin(), c.argomenti.end());
-            const Esito e = Su(a);
-            EXPECT_EQ(e.codice, 2) << comando << " " << c.argomenti[1];
-            EXPECT_EQ(e.err, c.messaggio + "\n") << comando << " " << c.argomenti[1];
-            EXPECT_TRUE(e.out.empty());
-        }
+    for (const Caso& c : casi) {
+        // verifica replays one key.
+        if (std::count(c.argomenti.begin(), c.argomenti.end(), std::string("--chiave")) == 1)
+            Rifiutato(Con("verifica", c.argomenti), c.messaggio);
+        Rifiutato(Con("previsioni", c.argomenti), c.messaggio);
+    }
 }
 
 // The kind, the spy and its positions travel in the key: the replay without options is the
