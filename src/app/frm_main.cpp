@@ -225,21 +225,23 @@ void FrmMain::CreaPannello() {
     auto* pulsanti = new QGroupBox(centro);
     pulsanti->setObjectName("fraPulsanti");
     auto* p = new QGridLayout(pulsanti);
+    // One line a procedure; an entry without a window to open is shown disabled.
     struct Voce {
         const char* nome;
         const char* testo;
+        void (FrmMain::*apri)();
     };
-    const Voce voci[] = {{"cmdGorgo", "The Gorgo 2"},
-                         {"cmdPrecursori", "La scia inversa dei precursori"},
-                         {"cmdAmboEnucleato", "L'ambo enucleato"},
-                         {"cmdNuovaProcedura", "Precursori 10elotto"},
-                         {"Command1", "Precursori Superenalotto"},
-                         {"cmdProcedura", "Procedura"}};
+    const Voce voci[] = {{"cmdGorgo", "The Gorgo 2", &FrmMain::ApriCostruttore},
+                         {"cmdPrecursori", "La scia inversa dei precursori", nullptr},
+                         {"cmdAmboEnucleato", "L'ambo enucleato", nullptr},
+                         {"cmdNuovaProcedura", "Precursori 10elotto", nullptr},
+                         {"Command1", "Precursori Superenalotto", nullptr},
+                         {"cmdProcedura", "Procedura", nullptr}};
     int i = 0;
     for (const Voce& vc : voci) {
         QPushButton* b = Pulsante(vc.nome, QString::fromUtf8(vc.testo));
-        if (std::string_view(vc.nome) == "cmdGorgo") {
-            connect(b, &QPushButton::clicked, this, [this] { ApriCostruttore(); });
+        if (vc.apri) {
+            connect(b, &QPushButton::clicked, this, vc.apri);
         } else {
             b->setEnabled(false);
             b->setToolTip(QString::fromUtf8(TestoInArrivo));
@@ -247,8 +249,8 @@ void FrmMain::CreaPannello() {
         p->addWidget(b, i / 3, i % 3);
         ++i;
     }
-    const Voce scarica[] = {{"cmdScarica_0", "Scarica aggiornamento archivi Lotto/10eLotto da internet..."},
-                            {"cmdScarica_1", "Scarica aggiornamento archivio Superenalotto da internet..."}};
+    const Voce scarica[] = {{"cmdScarica_0", "Scarica aggiornamento archivi Lotto/10eLotto da internet...", nullptr},
+                            {"cmdScarica_1", "Scarica aggiornamento archivio Superenalotto da internet...", nullptr}};
     for (int k = 0; k < 2; ++k) {
         QPushButton* b = Pulsante(scarica[k].nome, QStringLiteral("..."));
         b->setMaximumWidth(48);
