@@ -7,6 +7,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,6 +21,7 @@
 #include "builder/convergenze.h"
 #include "screens/builder/frm_costruttore.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
@@ -126,6 +128,46 @@ TEST(FrameCostruttore, ConvergenzeLunghettaECapogioco) {
     Trova<QComboBox>(f, "cboIndice")->setCurrentIndex(17);
     EXPECT_TRUE(Trova<QLineEdit>(pannello, "txtAlgoritmoCapogioco")->text().isEmpty());
     Cattura(f, "frmCostruttore");
+
+    // Index 17 passes every draw in this panel: the capogioco of the last draw and twelve numbers.
+    QSignalSpy ancora(f, &FrmCostruttore::ricercaTerminata);
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
+    ASSERT_TRUE(ancora.wait(60000));
+    riga = lista->topLevelItem(0);
+    emit lista->itemClicked(riga, 0);
+    EXPECT_EQ(Trova<QLineEdit>(pannello, "txtDataAbbinamenti")->text(), "30/12/2025");
+    EXPECT_FALSE(Trova<QLabel>(pannello, "lblCapoAbbinamenti")->text().isEmpty());
+    QTest::mouseClick(Trova<QPushButton>(pannello, "cmdNumAbbinati"), Qt::LeftButton);
+    QListWidget* abbinati = Trova<QListWidget>(pannello, "lstNumeriAbbinati");
+    ASSERT_EQ(abbinati->count(), 12);
+    EXPECT_EQ(abbinati->item(0)->text().mid(5, 6), "%  n. ");
+    Cattura(pannello, "FrameAbbinamentiPieno");
+    QTest::mouseClick(Trova<QPushButton>(pannello, "cmdPrecedente"), Qt::LeftButton);
+    EXPECT_EQ(Trova<QLineEdit>(pannello, "txtDataAbbinamenti")->text(), "29/12/2025");
+
+    // The report file and the numbers to play, answered without dialogs.
+    const SceltaFileReport sceltaPrima = ScegliFileReport;
+    QString proposto;
+    ScegliFileReport = [&](QWidget*, const QString&, const QString& nome, const QString&) {
+        proposto = QFileInfo(nome).completeBaseName();
+        return QString::fromStdString((c / (proposto.toStdString() + ".Txt")).string());
+    };
+    QTest::mouseClick(Trova<QPushButton>(pannello, "cmdPrintTofileAbbinamenti"), Qt::LeftButton);
+    EXPECT_EQ(proposto, "ReportAbbinamentiNumerici");
+    EXPECT_NE(test::LeggiFile(c / "ReportAbbinamentiNumerici.Txt").find("Capogioco al 30/12/2025 : "),
+              std::string::npos);
+    QTest::mouseClick(Trova<QPushButton>(pannello, "cmdNumeriDaGiocare"), Qt::LeftButton);
+    QWidget* numeri = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->objectName() == "frmCapoAbbinamentiCostruttore") numeri = w;
+    ASSERT_NE(numeri, nullptr);
+    EXPECT_EQ(Trova<QLineEdit>(numeri, "txtRuote")->text(), "Milano  dopo il 30/12/2025");
+    EXPECT_FALSE(Trova<QLineEdit>(numeri, "txtAbbinamentiCapogioco")->text().isEmpty());
+    Cattura(numeri, "frmCapoAbbinamentiCostruttore");
+    QTest::mouseClick(Trova<QPushButton>(numeri, "cmdPrintToFile"), Qt::LeftButton);
+    EXPECT_EQ(proposto, "NumeriGorgo");
+    EXPECT_EQ(test::LeggiFile(c / "NumeriGorgo.Txt").rfind("Numeri da giocare su : Milano  dopo il 30/12/2025", 0), 0u);
+    ScegliFileReport = sceltaPrima;
     principale.reset();
     ImpostaGestoreMessaggi(prima);
 }

@@ -170,6 +170,7 @@ FrameAbbinamenti::FrameAbbinamenti(QWidget* parent, Sessione& sessione, const ar
     txtAlgoritmoCapogioco_->setFont(FontFisso());
     lblTag_ = new QLabel(this);
     lblTag_->setObjectName("lblTag");
+    lblTag_->setMinimumWidth(28);
     algoritmo->addWidget(txtAlgoritmoCapogioco_, 1);
     algoritmo->addWidget(lblTag_);
     l->addLayout(algoritmo);
@@ -259,6 +260,7 @@ void FrameAbbinamenti::Svuota() {
     descrizione_.clear();
     chiave_.clear();
     capo_ = {};
+    capoAbbinati_ = {};
     abbinati_ = {};
     txtAlgoritmoCapogioco_->clear();
     lblTag_->clear();
@@ -303,6 +305,7 @@ void FrameAbbinamenti::CalcolaAbbinati() {
     abbinati_ = builder::CalcolaAbbinamenti(d.parametri, d.contesto, chiave_, data.IndiceTrovato, capo_.numero,
                                             cboNumAbbinati_->currentIndex() + 1);
     parametriAbbinati_ = d.parametri;
+    capoAbbinati_ = capo_;
     lstNumeriAbbinati_->clear();
     if (!abbinati_.errore.vuoto()) {
         MostraMessaggio(this, abbinati_.errore);
@@ -317,17 +320,19 @@ void FrameAbbinamenti::CalcolaAbbinati() {
 
 void FrameAbbinamenti::SuFile() {
     if (abbinati_.righe.empty()) return;
-    const config::ReportTesto r =
-        builder::ReportAbbinamenti(parametriAbbinati_, storia_, descrizione_, capo_.data, capo_.numero, abbinati_);
+    const config::ReportTesto r = builder::ReportAbbinamenti(parametriAbbinati_, storia_, descrizione_,
+                                                             capoAbbinati_.data, capoAbbinati_.numero, abbinati_);
     SalvaReportSuFile(this, sessione_, r.righe(), Q(builder::NomeReportAbbinamenti), DomandaFile::InCalce);
 }
 
 void FrameAbbinamenti::NumeriDaGiocare() {
-    if (capo_.indice == 0) return;
+    // The list and the capogioco it was computed for; without a list, the capogioco shown.
+    const builder::Capogioco& capo = abbinati_.righe.empty() ? capo_ : capoAbbinati_;
+    if (capo.indice == 0) return;
     const builder::ParametriRicerca p = fonte_().parametri;
     auto* f = new FrmCapoAbbinamentiCostruttore(
         sessione_, parentWidget(),
-        builder::ComponiNumeriDaGiocare(p.ruoteGioco, capo_.data, capo_.numero, lunghetta_(), abbinati_));
+        builder::ComponiNumeriDaGiocare(p.ruoteGioco, capo.data, capo.numero, lunghetta_(), abbinati_));
     f->show();
 }
 

@@ -95,6 +95,7 @@ private:
     std::function<std::vector<int>()> lunghetta_;
     std::string chiave_, descrizione_;
     builder::Capogioco capo_;
+    builder::Capogioco capoAbbinati_;  // the capogioco the list was computed for
     builder::EsitoAbbinamenti abbinati_;
     builder::ParametriRicerca parametriAbbinati_;
     QLineEdit* txtAlgoritmoCapogioco_ = nullptr;
