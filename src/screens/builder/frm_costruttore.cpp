@@ -801,6 +801,10 @@ void FrmCostruttore::CreaFrame() {
         lblDescrizioneRisultatiOttenuti_->clear();
         lvListaPrevisioni_->clear();
         lblCapo_->clear();
+        // The replay is gone from the screen: its recap and reports go with it.
+        verifica_ = {};
+        rigaAperta_ = -1;
+        cmdReport_[0]->setEnabled(false);
     });
     connect(fraLunghette_, &FraLunghette::sceltaCambiata, this,
             [this] { lblDescrizioneRisultatiOttenuti_->setText(Q(builder::RisultatiOttenuti)); });
