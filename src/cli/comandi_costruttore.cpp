@@ -7,6 +7,7 @@
 #include "builder/contesto.h"
 #include "builder/report.h"
 #include "builder/ricerca.h"
+#include "cli/comandi_convergenze.h"
 #include "cli/contesto.h"
 #include "cli/parametri_ricerca.h"
 #include "config/impostazioni.h"
@@ -18,6 +19,7 @@ namespace {
 struct ArgomentiCostruttore {
     ArgomentiRicerca ricerca;
     bool seleziona = false;
+    ArgomentiConvergenze convergenze;
     std::string report;
     bool accoda = false, sovrascrivi = false;
 };
@@ -26,6 +28,7 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
     const archives::Archivio archivio = ctx.ApriArchivi();
     const config::FileIni ini(ctx.FileImpostazioni().string());
     const builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
+    ControllaConvergenze(a.convergenze, a.report);
     const builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
     // The file is settled before the search, so that a refusal costs nothing.
     if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
@@ -33,6 +36,10 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
                        "Conferma", archives::Icona::Domanda}};
     const builder::EsitoRicerca e = builder::CercaAlgoritmi(p, cc.Contesto(), {}, a.seleziona);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
+    if (a.convergenze.richiesti()) {
+        MostraConvergenze(ctx, p, cc, e, a.convergenze);
+        return;
+    }
 
     if (!a.report.empty()) {
         if (e.righe.empty()) {
@@ -121,6 +128,7 @@ void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
                                  "Ricerca degli algoritmi (il costruttore): casi della spia e algoritmi migliori");
     AggiungiOpzioniRicerca(c, a->ricerca);
     c->add_flag("--seleziona", a->seleziona, "Righe già selezionate");
+    AggiungiOpzioniConvergenze(c, a->convergenze);
     c->add_option("--report", a->report,
                   "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
     c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");

@@ -14,6 +14,7 @@
 #include "archives/archivio.h"
 #include "builder/report.h"
 #include "config/impostazioni.h"
+#include "screens/builder/fra_convergenze.h"
 #include "screens/builder/satelliti.h"
 #include "screens/common/caselle.h"
 #include "screens/common/elaborazioni.h"
@@ -115,6 +116,7 @@ void FrmCostruttore::CreaControlli() {
     principale->addLayout(destra, 1);
     CreaRisultati(destra);
     destra->addLayout(CreaComandi());
+    CreaFrame();
     CollegaSvuotamento();
 }
 
@@ -356,6 +358,21 @@ QGridLayout* FrmCostruttore::CreaComandi() {
         cmdCopertura_[static_cast<size_t>(i)]->setToolTip(QString::fromUtf8("Disponibile in una prossima versione"));
     }
 
+    auto* convergenze = pulsante("cmdConvergenze", QStringLiteral("Convergenze"), nullptr);
+    auto* lunghette = pulsante("cmdLunghette", QStringLiteral("Lunghetta..."), nullptr);
+    cmdAbbinamentiAmbate_ = pulsante("cmdAbbinamentiAmbate", QStringLiteral("Abbinamenti..."), nullptr);
+    connect(convergenze, &QPushButton::clicked, this, [this] {
+        if (!elaborazione_) fraConvergenze_->Calcola();
+    });
+    connect(lunghette, &QPushButton::clicked, this, [this] {
+        fraLunghette_->show();
+        fraLunghette_->raise();
+    });
+    connect(cmdAbbinamentiAmbate_, &QPushButton::clicked, this, [this] {
+        FrameAbbinamenti_->show();
+        FrameAbbinamenti_->raise();
+    });
+
     auto* comandi = new QGridLayout;
     auto* rigaSelezione = new QHBoxLayout;
     rigaSelezione->addWidget(chkSeleziona_);
@@ -376,6 +393,9 @@ QGridLayout* FrmCostruttore::CreaComandi() {
     comandi->addWidget(fileVerifica, 2, 3);
     comandi->addWidget(listaSortite, 3, 0, 1, 2);
     for (int i = 0; i < 4; ++i) comandi->addWidget(cmdCopertura_[static_cast<size_t>(i)], 3, 2);
+    comandi->addWidget(convergenze, 4, 0);
+    comandi->addWidget(lunghette, 4, 1);
+    comandi->addWidget(cmdAbbinamentiAmbate_, 4, 2);
     return comandi;
 }
 
@@ -488,6 +508,8 @@ void FrmCostruttore::AggiornaPerTipoRicerca() {
     for (auto* b : cmdCopertura_) b->setEnabled(false);  // coverage comes in a later version
     (void)tuttiValori;
     fraValidita_->setVisible(ambate);
+    cmdAbbinamentiAmbate_->setVisible(ambate);
+    if (!ambate && FrameAbbinamenti_) FrameAbbinamenti_->hide();
     if (!ambate)
         for (int i = 1; i <= 5; ++i) chkPosizioneA_[static_cast<size_t>(i)]->setChecked(true);
     chkPosizionale_->setVisible(!codici);
@@ -562,6 +584,8 @@ void FrmCostruttore::SvuotaRisultati() {
     esito_ = {};
     verifica_ = {};
     rigaAperta_ = -1;
+    if (FrameAbbinamenti_) FrameAbbinamenti_->Svuota();
+    if (fraLunghette_) fraLunghette_->Svuota();
 }
 
 void FrmCostruttore::Calcola() {
@@ -759,7 +783,49 @@ void FrmCostruttore::ApriAlgoritmo(QTreeWidgetItem* item) {
     lblDataPrevisione_->setText(QString::fromStdString(verifica_.lblDataPrevisione));
     lblDescrizioneRisultatiOttenuti_->setText(QString::fromStdString(verifica_.lblDescrizioneRisultatiOttenuti));
     cmdReport_[0]->setEnabled(true);
+    if (parametriEsito_.tipoRicerca == builder::TipoRicerca::Ambate)
+        FrameAbbinamenti_->ImpostaAlgoritmo(riga.descrizione, riga.chiave,
+                                            DTPickerA_->date().toString("dd/MM/yyyy").toStdString());
     if (chkRiepilogo_->isChecked()) Riepilogo();
+}
+
+void FrmCostruttore::CreaFrame() {
+    const FonteCostruttore fonte = [this] { return DatiPerFrame(); };
+    fraConvergenze_ = new FraConvergenze(this, fonte);
+    fraLunghette_ = new FraLunghette(this, fonte);
+    FrameAbbinamenti_ = new FrameAbbinamenti(this, sessione_, *contesto_->storia, contesto_->indici, fonte,
+                                             [this] { return fraLunghette_->Numeri(); });
+    for (QWidget* f : std::initializer_list<QWidget*>{fraConvergenze_, fraLunghette_, FrameAbbinamenti_}) f->hide();
+    // The convergences clear the replay; a new length of the lunghetta the caption.
+    connect(fraConvergenze_, &FraConvergenze::convergenzeMostrate, this, [this] {
+        lblDescrizioneRisultatiOttenuti_->clear();
+        lvListaPrevisioni_->clear();
+        lblCapo_->clear();
+        // The replay is gone from the screen: its recap and reports go with it.
+        verifica_ = {};
+        rigaAperta_ = -1;
+        cmdReport_[0]->setEnabled(false);
+    });
+    connect(fraLunghette_, &FraLunghette::sceltaCambiata, this,
+            [this] { lblDescrizioneRisultatiOttenuti_->setText(Q(builder::RisultatiOttenuti)); });
+}
+
+DatiCostruttore FrmCostruttore::DatiPerFrame() const {
+    DatiCostruttore d;
+    d.parametri = esito_.righe.empty() ? Parametri() : parametriEsito_;
+    d.parametri.colpi = txtColpi_->text().toInt();
+    d.parametri.colpiDaGiocare = txtColpiDaGiocare_->text().toInt();
+    d.contesto = contesto_->Contesto();
+    // The rows as the list shows them, with the user's checks.
+    for (int i = 0; i < ListaRisultati_->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* item = ListaRisultati_->topLevelItem(i);
+        const int k = item->data(0, Qt::UserRole + 1).toInt();
+        if (k < 0 || k >= static_cast<int>(esito_.righe.size())) continue;
+        builder::RigaAlgoritmo r = esito_.righe[static_cast<size_t>(k)];
+        r.selezionata = item->checkState(0) == Qt::Checked;
+        d.righe.push_back(std::move(r));
+    }
+    return d;
 }
 
 void FrmCostruttore::SelezionaInCorso() {

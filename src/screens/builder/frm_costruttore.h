@@ -30,6 +30,11 @@ class Archivio;
 
 namespace gorgo::screens {
 
+class FraConvergenze;
+class FraLunghette;
+class FrameAbbinamenti;
+struct DatiCostruttore;
+
 class FrmCostruttore : public QWidget {
     Q_OBJECT
 public:
@@ -78,6 +83,9 @@ private:
     void StampaVerifica();
     void FileVerifica();
     QString TestaSpia() const;
+    // The frames of convergences, lunghetta and abbinamenti, and what they read of the rows.
+    void CreaFrame();
+    DatiCostruttore DatiPerFrame() const;
 
     Sessione& sessione_;
     std::unique_ptr<builder::ContestoCostruttore> contesto_;
@@ -130,6 +138,10 @@ private:
     QPushButton* cmdCalcola_ = nullptr;
     std::array<QPushButton*, 3> cmdReport_{};
     std::array<QPushButton*, 4> cmdCopertura_{};
+    QPushButton* cmdAbbinamentiAmbate_ = nullptr;
+    FraConvergenze* fraConvergenze_ = nullptr;
+    FraLunghette* fraLunghette_ = nullptr;
+    FrameAbbinamenti* FrameAbbinamenti_ = nullptr;
 };
 
 }  // namespace gorgo::screens
