@@ -74,18 +74,18 @@ void Abbinamenti(benchmark::State& state) {
         benchmark::DoNotOptimize(CalcolaAbbinamenti(p, R().contesto, R().righe.front().chiave, n, 0, 12));
 }
 
-BENCHMARK(Convergenze)->Name("Veloce/C1_convergenze")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(Convergenze)->Name("Veloce/B4_convergenze")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(ConvergenzeLetterale)
-    ->Name("Letterale/C1_convergenze")
+    ->Name("Letterale/B4_convergenze")
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->UseRealTime();
-BENCHMARK(Lunghetta)->Name("Veloce/C2_lunghetta")->Unit(benchmark::kMillisecond)->UseRealTime();
+BENCHMARK(Lunghetta)->Name("Veloce/B5_lunghetta")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(LunghettaLetterale)
-    ->Name("Letterale/C2_lunghetta")
+    ->Name("Letterale/B5_lunghetta")
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->UseRealTime();
-BENCHMARK(Abbinamenti)->Name("Veloce/C3_abbinamenti")->Unit(benchmark::kMicrosecond)->UseRealTime();
+BENCHMARK(Abbinamenti)->Name("Veloce/B6_abbinamenti")->Unit(benchmark::kMicrosecond)->UseRealTime();
 
 }  // namespace

@@ -42,10 +42,10 @@ misura S4-terno "${BASE[@]}" --tipo terzine-terno
 misura S5 "${BASE[@]}" --tipo codici --sorte 2 --operazioni +-x --terzine "$TERZINE"
 misura S6 "${BASE[@]/30\/12\/2015/30/12/2020}" --spia ambo --tutti-gli-ambi
 
-echo "== Costruttore C1-C3: convergenze, lunghetta, abbinamenti come processo intero (tempo, memoria di picco)"
+echo "== Costruttore B4-B6: convergenze, lunghetta, abbinamenti come processo intero (tempo, memoria di picco)"
 CONV=(--cartella "$DATI" costruttore --valore 27 --ruote-ricerca tutte --ruote-gioco MI --colpi 9
       --indice-mese tutti --da 30/12/2015 --a 30/12/2025 --seleziona)
-misura C1 "${CONV[@]}" --convergenze
-misura C2 "${CONV[@]}" --lunghetta 10
+misura B4 "${CONV[@]}" --convergenze
+misura B5 "${CONV[@]}" --lunghetta 10
 CHIAVE=$("$BUILD/gorgo-cli" --json "${CONV[@]:2}" --cartella "$DATI" | python3 -c 'import json,sys; print(json.load(sys.stdin)["righe"][0]["chiave"])')
-misura C3 --cartella "$DATI" abbinamenti --chiave "$CHIAVE" --ruote-ricerca tutte --ruote-gioco MI --indice-mese 17
+misura B6 --cartella "$DATI" abbinamenti --chiave "$CHIAVE" --ruote-ricerca tutte --ruote-gioco MI --indice-mese 17
