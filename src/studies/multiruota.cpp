@@ -49,21 +49,27 @@ void ColonneNumeri(Riga& r, const archives::RecordEstrazione& e, int w, const In
     }
 }
 
-// The walk of one formation: each cycle calls `ciclo(i, hits)` with the hits (draw, wheel).
+// The walk of one formation: each cycle calls `ciclo(i, hits, counts)` with the hits (draw, wheel).
 template <typename F>
 int Cammina(const archives::StoriaLotto& st, const ParametriMultiruota& p, const std::vector<int>& f, F&& ciclo) {
-    const Insieme fs = DiFormazione(f);
+    // A wheel holds the formation when enough of its five numbers are in this table.
+    std::array<uint8_t, 256> inF{};
+    for (int n : f) inF[static_cast<size_t>(n)] = 1;
+    const auto presenti = [&](const archives::RecordEstrazione& r, int w) {
+        const uint8_t* c = r.Ruota[w - 1];
+        return inF[c[0]] + inF[c[1]] + inF[c[2]] + inF[c[3]] + inF[c[4]];
+    };
     const int richiesti = NumeriRichiesti(p.TipoRicerca);
     const int32_t n = st.NumeroEstrazioni();
     int cicli = 0;
     std::vector<std::pair<int32_t, int>> colpi;
     for (int32_t i = p.Base; i >= 1 && cicli < p.Volte; --i) {
-        if (DellaRuota(st[i], p.RuotaRicerca).comuni(fs) < richiesti) continue;
+        if (presenti(st[i], p.RuotaRicerca) < richiesti) continue;
         colpi.clear();
         for (int32_t j = i + 1, colpo = 1; j <= n && (p.Estrazioni == 0 || colpo <= p.Estrazioni); ++j, ++colpo) {
             bool colpito = false;
             for (int w = 1; w <= archives::NumeroRuote; ++w)
-                if (DellaRuota(st[j], w).comuni(fs) >= richiesti) {
+                if (presenti(st[j], w) >= richiesti) {
                     colpi.emplace_back(j, w);
                     colpito = true;
                 }

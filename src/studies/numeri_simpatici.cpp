@@ -1,11 +1,8 @@
 #include "studies/numeri_simpatici.h"
 
 #include <fmt/format.h>
-#include <tbb/parallel_for.h>
 
 #include <algorithm>
-#include <atomic>
-#include <mutex>
 
 #include "config/formato.h"
 
@@ -55,12 +52,6 @@ const Binomiali& B() {
     return b;
 }
 constexpr uint32_t Quaterne = 2555190;
-
-uint32_t RangoOrdinato(int p, int q, int r, int s) {
-    std::array<int, 4> v = {p, q, r, s};
-    std::sort(v.begin(), v.end());
-    return B().Rango(v[0], v[1], v[2], v[3]);
-}
 
 }  // namespace
 
@@ -211,6 +202,7 @@ EsitoGenerale StatisticaGenerale(const archives::StoriaLotto& st, const Parametr
     // ambi do not depend on the searched ambo, so they are counted once for all.
     std::vector<uint16_t> quaterne(Quaterne);
     std::vector<int32_t> ultimaQuaterna(Quaterne);
+    std::vector<std::array<uint8_t, 4>> uscite;  // the quaterne that came out, once each
     std::vector<std::array<int, 12>> freqRuota(Ambi);
     std::vector<int> freq(Ambi), ultima(Ambi, p.Dal), rit(Ambi), ritMax(Ambi);
     int analizzate = 0;
@@ -229,11 +221,11 @@ EsitoGenerale StatisticaGenerale(const archives::StoriaLotto& st, const Parametr
             std::sort(c.begin(), c.end());
             if (ammessa && piena)
                 for (int fuori = 0; fuori < 5; ++fuori) {
-                    std::array<int, 4> q{};
+                    std::array<uint8_t, 4> q{};
                     for (int k = 0, h = 0; k < 5; ++k)
-                        if (k != fuori) q[static_cast<size_t>(h++)] = c[static_cast<size_t>(k)];
+                        if (k != fuori) q[static_cast<size_t>(h++)] = static_cast<uint8_t>(c[static_cast<size_t>(k)]);
                     const uint32_t rq = B().Rango(q[0], q[1], q[2], q[3]);
-                    ++quaterne[rq];
+                    if (quaterne[rq]++ == 0) uscite.push_back(q);
                     ultimaQuaterna[rq] = i;
                 }
             for (int u = 0; u < 5; ++u)
@@ -254,62 +246,68 @@ EsitoGenerale StatisticaGenerale(const archives::StoriaLotto& st, const Parametr
         rit[k] = p.Al - ultima[k];
         ritMax[k] = std::max(ritMax[k], rit[k]);
     }
-    // The ambi in their order, a block at a time, so that a stop keeps whole blocks.
-    std::vector<std::pair<int, int>> ordine;
-    for (int x = 1; x <= 89; ++x)
-        for (int y = x + 1; y <= 90; ++y) ordine.emplace_back(x, y);
-    std::vector<std::vector<Riga>> righe(ordine.size());
-    constexpr size_t Blocco = 200;
-    size_t fatti = 0;
-    for (size_t inizio = 0; inizio < ordine.size(); inizio += Blocco) {
+    // Each quaterna is an ambo with its companion in six ways: the greatest count of each ambo,
+    // then the companions at that count.
+    static constexpr int Divisioni[6][4] = {{0, 1, 2, 3}, {0, 2, 1, 3}, {0, 3, 1, 2},
+                                            {1, 2, 0, 3}, {1, 3, 0, 2}, {2, 3, 0, 1}};
+    std::vector<uint16_t> massimo(Ambi);
+    for (const auto& q : uscite) {
+        const uint16_t c = quaterne[B().Rango(q[0], q[1], q[2], q[3])];
+        for (const auto& d : Divisioni) {
+            uint16_t& m = massimo[IndiceAmbo(q[static_cast<size_t>(d[0])], q[static_cast<size_t>(d[1])])];
+            m = std::max(m, c);
+        }
+    }
+    struct Compagno {
+        uint32_t ambo, compagno, rango;
+    };
+    std::vector<Compagno> compagni;
+    // The order of the ambi: x then y, as the rows of the literal walk.
+    const auto ordine = [](int a, int b) { return static_cast<uint32_t>(a * 91 + b); };
+    for (const auto& q : uscite) {
+        const uint32_t rq = B().Rango(q[0], q[1], q[2], q[3]);
+        for (const auto& d : Divisioni) {
+            const int x = q[static_cast<size_t>(d[0])], y = q[static_cast<size_t>(d[1])];
+            if (quaterne[rq] != massimo[IndiceAmbo(x, y)]) continue;
+            const int a = q[static_cast<size_t>(d[2])], b = q[static_cast<size_t>(d[3])];
+            compagni.push_back({ordine(x, y), ordine(a, b), rq});
+        }
+    }
+    std::sort(compagni.begin(), compagni.end(), [](const Compagno& u, const Compagno& v) {
+        return u.ambo != v.ambo ? u.ambo < v.ambo : u.compagno < v.compagno;
+    });
+    // The rows, a block of ambi at a time so that a stop keeps whole ambi in order.
+    int fatti = 0, numero = 0;
+    size_t k = 0;
+    for (int x = 1; x <= 89 && !e.fermato; ++x) {
         if (avanzamento.stop.stop_requested()) {
             e.fermato = true;
             break;
         }
-        const size_t fine = std::min(ordine.size(), inizio + Blocco);
-        tbb::parallel_for(inizio, fine, [&](size_t n) {
-            const auto [x, y] = ordine[n];
-            int massimo = 0;
-            for (int a = 1; a <= 89; ++a) {
-                if (a == x || a == y) continue;
-                for (int b = a + 1; b <= 90; ++b) {
-                    if (b == x || b == y) continue;
-                    massimo = std::max<int>(massimo, quaterne[RangoOrdinato(x, y, a, b)]);
-                }
+        for (int y = x + 1; y <= 90; ++y) {
+            ++fatti;
+            bool prima = true;
+            for (; k < compagni.size() && compagni[k].ambo == ordine(x, y); ++k) {
+                const int a = static_cast<int>(compagni[k].compagno / 91),
+                          b = static_cast<int>(compagni[k].compagno % 91);
+                const size_t ka = IndiceAmbo(a, b);
+                StatisticaAmbo s{a, b, quaterne[compagni[k].rango], rit[ka], ritMax[ka], freq[ka]};
+                s.IC = IndiceConvenienza(s.Frequenza, analizzate, s.Ritardo);
+                std::tie(s.RuotaMigliore, s.FrequenzaMigliore) = RuotaMigliore(freqRuota[ka]);
+                s.RitardoSimultaneo = p.Al - ultimaQuaterna[compagni[k].rango];
+                Riga r;
+                r.testo(prima ? TestoAmbo(x, y) : "", colori::Rosso, true);
+                r.testo(TestoAmbo(a, b), colori::Blu, true);
+                ColonneStatistica(r, s, true);
+                r.valore("x", x).valore("y", y);
+                r.chiave = Formato(++numero, "00000");
+                e.righe.push_back(std::move(r));
+                prima = false;
             }
-            if (massimo == 0) return;
-            for (int a = 1; a <= 89; ++a) {
-                if (a == x || a == y) continue;
-                for (int b = a + 1; b <= 90; ++b) {
-                    if (b == x || b == y) continue;
-                    const uint32_t rq = RangoOrdinato(x, y, a, b);
-                    if (quaterne[rq] != massimo) continue;
-                    const size_t k = IndiceAmbo(a, b);
-                    StatisticaAmbo s{a, b, massimo, rit[k], ritMax[k], freq[k]};
-                    s.IC = IndiceConvenienza(s.Frequenza, analizzate, s.Ritardo);
-                    std::tie(s.RuotaMigliore, s.FrequenzaMigliore) = RuotaMigliore(freqRuota[k]);
-                    s.RitardoSimultaneo = p.Al - ultimaQuaterna[rq];
-                    Riga r;
-                    const bool prima = righe[n].empty();
-                    r.testo(prima ? TestoAmbo(x, y) : "", colori::Rosso, true);
-                    r.testo(TestoAmbo(a, b), colori::Blu, true);
-                    ColonneStatistica(r, s, true);
-                    r.valore("x", x).valore("y", y);
-                    righe[n].push_back(std::move(r));
-                }
-            }
-        });
-        fatti = fine;
-        if (avanzamento.progresso)
-            avanzamento.progresso(TestoAnalizzati(static_cast<int>(fatti)), static_cast<int>(fatti), 4005);
-    }
-    int numero = 0;
-    for (size_t n = 0; n < fatti; ++n)
-        for (Riga& r : righe[n]) {
-            r.chiave = Formato(++numero, "00000");
-            e.righe.push_back(std::move(r));
         }
-    e.AmbiAnalizzati = static_cast<int>(fatti);
+        if (avanzamento.progresso) avanzamento.progresso(TestoAnalizzati(fatti), fatti, 4005);
+    }
+    e.AmbiAnalizzati = fatti;
     e.analizzati = TestoAnalizzati(e.AmbiAnalizzati);
     return e;
 }
