@@ -41,3 +41,9 @@ misura S4-ambo "${BASE[@]}" --tipo terzine-ambo
 misura S4-terno "${BASE[@]}" --tipo terzine-terno
 misura S5 "${BASE[@]}" --tipo codici --sorte 2 --operazioni +-x --terzine "$TERZINE"
 misura S6 "${BASE[@]/30\/12\/2015/30/12/2020}" --spia ambo --tutti-gli-ambi
+
+echo "== Utilità di studio U1-U4: gorgo-cli come processo intero (tempo, memoria di picco)"
+misura U1 --cartella "$DATI" punti-incogniti 10779 --ruota BA --storica --da 01/01/1946 --tutte-le-vincite --riepilogo
+misura U2 --cartella "$DATI" quaterna --statistica-generale --ruote tutte+nz --da 01/01/1946
+misura U3 --cartella "$DATI" multiruota 10779 --ruota BA --tipo terni --volte 18 --estrazioni 10
+misura U4 --cartella "$DATI" somma-cinquine 10779 --tutte

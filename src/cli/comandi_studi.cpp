@@ -115,8 +115,8 @@ nlohmann::json RigheJson(const std::vector<Riga>& righe) {
     for (const Riga& r : righe) {
         nlohmann::json o{{"testo", r.testi()}};
         for (const auto& [nome, v] : r.valori)
-            o[nome] = std::floor(v) == v && std::abs(v) < 1e15 ? nlohmann::json(static_cast<long long>(v))
-                                                               : nlohmann::json(v);
+            o[std::string(nome)] = std::floor(v) == v && std::abs(v) < 1e15 ? nlohmann::json(static_cast<long long>(v))
+                                                                            : nlohmann::json(v);
         a.push_back(std::move(o));
     }
     return a;

@@ -147,7 +147,7 @@ void ClassificaMultiruota(EsitoMultiruota& e, int classifica) {
         }
         r.valore("cicli", e.cicli[f]);
         for (int w = 1; w <= 11; ++w)
-            r.valore(std::string(archives::SigleRuota[static_cast<size_t>(w)]), valori[f][static_cast<size_t>(w)]);
+            r.valore(archives::SigleRuota[static_cast<size_t>(w)], valori[f][static_cast<size_t>(w)]);
         e.righe.push_back(std::move(r));
     }
 }

@@ -7,6 +7,7 @@
 #include <functional>
 #include <stop_token>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -35,14 +36,15 @@ struct Riga {
     uint32_t colore = colori::Nessuno;
     bool grassetto = false;
     std::string chiave;  // hidden sort key, empty when the list has none
-    std::vector<std::pair<std::string, double>> valori;
+    // Names are literals: a row keeps only a view of them.
+    std::vector<std::pair<std::string_view, double>> valori;
 
     Riga& testo(std::string t, uint32_t colore = colori::Nessuno, bool grassetto = false) {
         celle.push_back({std::move(t), colore, grassetto});
         return *this;
     }
-    Riga& valore(std::string nome, double v) {
-        valori.emplace_back(std::move(nome), v);
+    Riga& valore(std::string_view nome, double v) {
+        valori.emplace_back(nome, v);
         return *this;
     }
     std::vector<std::string> testi() const {
