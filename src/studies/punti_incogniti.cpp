@@ -428,7 +428,17 @@ EsitoRiepilogo RiepilogoRuote(const archives::StoriaLotto& s, const ParametriVer
     return r;
 }
 
-config::ReportTesto ReportColpi(const archives::StoriaLotto& st, int32_t indice, int ruota, const EsitoColpi& e) {
+// Opens a page with the heading again once a page holds more than `limite` lines.
+static void RigaPaginata(config::ReportTesto& rep, int& righe, int limite, bool stampa, const std::string& regola,
+                         const std::string& testa) {
+    if (stampa && ++righe > limite) {
+        rep.nuovaPagina().riga(regola).riga(testa).riga(regola);
+        righe = 4;
+    }
+}
+
+config::ReportTesto ReportColpi(const archives::StoriaLotto& st, int32_t indice, int ruota, const EsitoColpi& e,
+                                bool stampa) {
     config::ReportTesto rep;
     const SerieIncognita& s = e.serie;
     rep.riga(fmt::format("I punti incogniti ruota {} estrazione del {}", NomeRuota(ruota), st.DataEstrazione(indice)));
@@ -436,9 +446,12 @@ config::ReportTesto ReportColpi(const archives::StoriaLotto& st, int32_t indice,
     rep.riga(fmt::format("Cinquina estratta: {} - Somma: {}", TestoCinquina(c), s[6]));
     rep.riga(fmt::format("Serie calcolata  : {} - Somma: {} - Punto di proiezione: {}", TestoSerie(s), s[7], s[0]));
     const std::string regola = "*-------*----*----*----*----*----*-----*-----*-----*-----*-----*";
-    rep.riga(regola).riga("| Colpo | 1' | 2' | 3' | 4' | 5' |   E |   A |   T |  Es |  As |").riga(regola);
+    const std::string testa = "| Colpo | 1' | 2' | 3' | 4' | 5' |   E |   A |   T |  Es |  As |";
+    rep.riga(regola).riga(testa).riga(regola);
     static constexpr int col[11] = {3, 11, 16, 21, 26, 31, 36, 42, 48, 54, 60};
+    int righe = 6;
     for (const Riga& r : e.righe) {
+        RigaPaginata(rep, righe, 60, stampa, regola, testa);
         config::RigaReport rr(static_cast<int>(regola.size()));
         for (size_t k = 0; k < r.celle.size() && k < 11; ++k)
             rr.metti(col[k], k >= 6 ? Formato(r.celle[k].testo, "@@@") : r.celle[k].testo);
@@ -448,7 +461,8 @@ config::ReportTesto ReportColpi(const archives::StoriaLotto& st, int32_t indice,
     return rep;
 }
 
-config::ReportTesto ReportStorica(const archives::StoriaLotto& st, const ParametriVerifica& p, const EsitoStorica& e) {
+config::ReportTesto ReportStorica(const archives::StoriaLotto& st, const ParametriVerifica& p, const EsitoStorica& e,
+                                  bool stampa) {
     config::ReportTesto rep;
     rep.riga(fmt::format(" I punti incogniti ruota {} - Verifica storica dal {} al {}", NomeRuota(p.Ruota),
                          st.DataEstrazione(p.Dal), st.DataEstrazione(p.Al)));
@@ -462,7 +476,9 @@ config::ReportTesto ReportStorica(const archives::StoriaLotto& st, const Paramet
     if (p.Sorte == 4) testa.replace(68, 5, "Ruota");
     rep.riga(regola).riga(testa).riga(regola);
     static constexpr int col[11] = {2, 14, 34, 39, 57, 63, 69, 75, 81, 87, 93};
+    int righe = 5;
     for (const Riga& r : e.righe) {
+        RigaPaginata(rep, righe, 75, stampa, regola, testa);
         config::RigaReport rr(static_cast<int>(regola.size()));
         for (size_t k = 0; k < r.celle.size() && k < 11; ++k) {
             const std::string& t = r.celle[k].testo;

@@ -75,8 +75,11 @@ void ScriviDescrizione(EsitoStorica& e, const ParametriVerifica& p);
 // The percentage a tag holds ("012,5" or "012.5"), 0 for none.
 double LeggiTag(const std::string& tag);
 
-// The file forms of the two tables.
-config::ReportTesto ReportColpi(const archives::StoriaLotto& s, int32_t indice, int ruota, const EsitoColpi& e);
-config::ReportTesto ReportStorica(const archives::StoriaLotto& s, const ParametriVerifica& p, const EsitoStorica& e);
+// The two tables; on paper (`stampa`) a page holds 60 lines of the first and 75 of the second,
+// and each new page starts with the table's heading.
+config::ReportTesto ReportColpi(const archives::StoriaLotto& s, int32_t indice, int ruota, const EsitoColpi& e,
+                                bool stampa = false);
+config::ReportTesto ReportStorica(const archives::StoriaLotto& s, const ParametriVerifica& p, const EsitoStorica& e,
+                                  bool stampa = false);
 
 }  // namespace gorgo::studies

@@ -179,6 +179,21 @@ TEST(PuntiIncogniti, ArchivioRealeComeLaLetterale) {
     p.Colpi = 10;
     p.SoloPrima = false;
     Confronta(*s, p, "", "U1");
+    // On paper every page after the first opens with the table's heading, 75 lines at most.
+    const EsitoStorica e = VerificaStorica(*s, p);
+    const auto righe = ReportStorica(*s, p, e, true).righe();
+    int pagine = 0, suPagina = 0;
+    for (size_t k = 0; k < righe.size(); ++k) {
+        if (righe[k].nuovaPagina) {
+            ++pagine;
+            EXPECT_LE(suPagina, 75);
+            suPagina = 0;
+            EXPECT_EQ(righe[k + 1].testo.substr(0, 12), "|   Data   |");
+        }
+        ++suPagina;
+    }
+    EXPECT_GT(pagine, 10);
+    EXPECT_EQ(ReportStorica(*s, p, e).righe().size(), e.righe.size() + 6);
     p.Sorte = 4;
     p.Ruota = 11;
     p.Dal = n - 2000;

@@ -314,9 +314,9 @@ void FrmPuntiIncogniti::Report(int quale, bool stampa) {
     OpzioniStampa o;
     o.titolo1 = QStringLiteral("I punti incogniti");
     o.punti = quale == 0 ? 12 : 10;
-    o.righePerPagina = quale == 0 ? 60 : 75;
-    const config::ReportTesto r = quale == 0 ? ReportColpi(*storia_, indice_, ruota_, colpi_)
-                                             : ReportStorica(*storia_, parametriStorica_, storica_);
+    o.righePerPagina = 0;  // the report opens its own pages, with the table's heading
+    const config::ReportTesto r = quale == 0 ? ReportColpi(*storia_, indice_, ruota_, colpi_, stampa)
+                                             : ReportStorica(*storia_, parametriStorica_, storica_, stampa);
     const bool vuoto = quale == 0 ? colpi_.righe.empty() : storica_.righe.empty();
     if (stampa)
         StampaStudio(this, r, vuoto, o);
