@@ -167,7 +167,9 @@ void PuntiIncogniti(const Contesto& ctx, const ArgomentiPunti& a) {
     if (a.storica || a.riepilogo) {
         storica = VerificaStorica(s, p);
         if (!storica.errore.vuoto()) throw Rifiuto{storica.errore};
-        if (a.riepilogo) riepilogo = RiepilogoRuote(s, p, storica.tag);
+        // The summary starts from the label's tag as the historic check of the shown wheel left it,
+        // or from none when that check was not asked for.
+        if (a.riepilogo) riepilogo = RiepilogoRuote(s, p, a.storica ? storica.tag : "");
     }
     if (a.report.Scrivi(a.storica ? ReportStorica(s, p, storica) : ReportColpi(s, mostrata, p.Ruota, colpi),
                         a.storica ? storica.righe.empty() : colpi.righe.empty()) &&

@@ -6,6 +6,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QMouseEvent>
+#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -154,6 +155,12 @@ void FrmNumeriSimpatici::CreaControlli() {
     ProgressBar1_ = new QProgressBar(this);
     ProgressBar1_->setObjectName("ProgressBar1");
     destra->addWidget(ProgressBar1_);
+    // Esc stops the 4005 ambi, keeping the rows of the ambi already done.
+    auto* esc = new QShortcut(QKeySequence(Qt::Key_Escape), this);
+    esc->setContext(Qt::ApplicationShortcut);
+    connect(esc, &QShortcut::activated, this, [this] {
+        if (elaborazione_) elaborazione_->Ferma();
+    });
     auto* pulsanti = new QHBoxLayout;
     const auto pulsante = [&](const char* nome, const QString& testo, int lista, bool stampa) {
         auto* b = new QPushButton(testo, this);
@@ -250,7 +257,7 @@ void FrmNumeriSimpatici::Tutti() {
     ProgressBar1_->setRange(0, 4005);
     auto esito = std::make_shared<EsitoGenerale>();
     const auto storia = storia_;
-    Elaborazione::Avvia(
+    elaborazione_ = Elaborazione::Avvia(
         this, sessione_, QStringLiteral("Statistica generale dei 4005 ambi..."),
         [storia, p, esito](std::stop_token stop, const Progresso& progresso) {
             *esito = StatisticaGenerale(*storia, p, {stop, progresso});

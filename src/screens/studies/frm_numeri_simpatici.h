@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QDateEdit>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QTreeWidget>
@@ -12,6 +13,7 @@
 #include <array>
 
 #include "archives/archivio.h"
+#include "screens/common/elaborazioni.h"
 #include "screens/common/sessione.h"
 #include "studies/numeri_simpatici.h"
 
@@ -51,6 +53,7 @@ private:
     QDateEdit *DTPickerDa_, *DTPickerA_;
     QTreeWidget *ListView1_, *ListView2_, *ListViewTutti_;
     QProgressBar* ProgressBar1_;
+    QPointer<Elaborazione> elaborazione_;
 };
 
 }  // namespace gorgo::screens
