@@ -106,6 +106,16 @@ TEST(Quaterna, ControlliEValoriLimite) {
     const EsitoGenerale e = StatisticaGenerale(s, p, {fermo.get_token(), {}});
     EXPECT_TRUE(e.fermato);
     EXPECT_EQ(e.analizzati, "0 ambi analizzati su 4005");
+    // Stopped after the ambi of 1: their rows, exactly the first rows of the whole run.
+    std::stop_source dopo;
+    const EsitoGenerale intero = StatisticaGenerale(s, p);
+    const EsitoGenerale parte =
+        StatisticaGenerale(s, p, {dopo.get_token(), [&](const std::string&, int, int) { dopo.request_stop(); }});
+    EXPECT_TRUE(parte.fermato);
+    EXPECT_EQ(parte.analizzati, "89 ambi analizzati su 4005");
+    ASSERT_LT(parte.righe.size(), intero.righe.size());
+    for (size_t k = 0; k < parte.righe.size(); ++k) ASSERT_EQ(parte.righe[k], intero.righe[k]);
+    EXPECT_NE(intero.righe[parte.righe.size()].testi()[0].substr(0, 3), "01-");
 }
 
 TEST(Quaterna, ArchivioRealeComeLaLetterale) {
