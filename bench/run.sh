@@ -49,3 +49,9 @@ misura B4 "${CONV[@]}" --convergenze
 misura B5 "${CONV[@]}" --lunghetta 10
 CHIAVE=$("$BUILD/gorgo-cli" --json "${CONV[@]:2}" --cartella "$DATI" | python3 -c 'import json,sys; print(json.load(sys.stdin)["righe"][0]["chiave"])')
 misura B6 --cartella "$DATI" abbinamenti --chiave "$CHIAVE" --ruote-ricerca tutte --ruote-gioco MI --indice-mese 17
+
+echo "== Utilità di studio U1-U4: gorgo-cli come processo intero (tempo, memoria di picco)"
+misura U1 --cartella "$DATI" punti-incogniti 10779 --ruota BA --storica --da 01/01/1946 --tutte-le-vincite --riepilogo
+misura U2 --cartella "$DATI" quaterna --statistica-generale --ruote tutte+nz --da 01/01/1946
+misura U3 --cartella "$DATI" multiruota 10779 --ruota BA --tipo terni --volte 18 --estrazioni 10
+misura U4 --cartella "$DATI" somma-cinquine 10779 --tutte

@@ -32,6 +32,10 @@
 #include "screens/maintenance/frm_esportazione.h"
 #include "screens/maintenance/frm_input_estrazioni.h"
 #include "screens/maintenance/frm_stampa_estrazioni.h"
+#include "screens/studies/frm_ambate_ambi_terni_multi.h"
+#include "screens/studies/frm_numeri_simpatici.h"
+#include "screens/studies/frm_punti_incogniti.h"
+#include "screens/studies/frm_utility.h"
 
 namespace gorgo::screens {
 
@@ -151,10 +155,12 @@ void FrmMain::CreaMenu() {
          [this] { RipristinaPannelli(); });
 
     QMenu* utility = mb->addMenu(QStringLiteral("&Utility"));
-    voce(utility, "mnuUtilitySommaCinquine", QStringLiteral("Utility somma cinquine"), nullptr);
-    voce(utility, "mnuUtilityPuntiIncogniti", QStringLiteral("I Punti incogniti"), nullptr);
-    voce(utility, "mnuRicercaQuaterna", QStringLiteral("Ricerca simultanea per il gioco della quaterna"), nullptr);
-    voce(utility, "mnuAmbateAmbiTerniMulti", QStringLiteral("Ambate ambi e terni multiruota"), nullptr);
+    voce(utility, "mnuUtilitySommaCinquine", QStringLiteral("Utility somma cinquine"), [this] { ApriUtility(); });
+    voce(utility, "mnuUtilityPuntiIncogniti", QStringLiteral("I Punti incogniti"), [this] { ApriPuntiIncogniti(); });
+    voce(utility, "mnuRicercaQuaterna", QStringLiteral("Ricerca simultanea per il gioco della quaterna"),
+         [this] { ApriNumeriSimpatici(); });
+    voce(utility, "mnuAmbateAmbiTerniMulti", QStringLiteral("Ambate ambi e terni multiruota"),
+         [this] { ApriAmbateAmbiTerniMulti(); });
 
     QMenu* aiuto = mb->addMenu(QStringLiteral("&?"));
     voce(aiuto, "mnuHelpAbout", QStringLiteral("&Informazioni su "), [this] { ApriInformazioni(); });
@@ -236,7 +242,7 @@ void FrmMain::CreaPannello() {
                          {"cmdAmboEnucleato", "L'ambo enucleato", nullptr},
                          {"cmdNuovaProcedura", "Precursori 10elotto", nullptr},
                          {"Command1", "Precursori Superenalotto", nullptr},
-                         {"cmdProcedura", "Procedura", nullptr}};
+                         {"cmdProcedura", "Procedura", &FrmMain::ApriPuntiIncogniti}};
     int i = 0;
     for (const Voce& vc : voci) {
         QPushButton* b = Pulsante(vc.nome, QString::fromUtf8(vc.testo));
@@ -362,6 +368,25 @@ void FrmMain::ApriCostruttore() {
     costruttore_ = f;
     f->show();
 }
+
+template <typename Finestra>
+void FrmMain::ApriStudio(QPointer<QWidget>& aperta) {
+    // A window already open comes forward instead of opening twice.
+    if (aperta) {
+        aperta->showNormal();
+        aperta->raise();
+        aperta->activateWindow();
+        return;
+    }
+    auto* f = new Finestra(sessione_, archivio_, this);
+    aperta = f;
+    f->show();
+}
+
+void FrmMain::ApriPuntiIncogniti() { ApriStudio<FrmPuntiIncogniti>(puntiIncogniti_); }
+void FrmMain::ApriNumeriSimpatici() { ApriStudio<FrmNumeriSimpatici>(numeriSimpatici_); }
+void FrmMain::ApriAmbateAmbiTerniMulti() { ApriStudio<FrmAmbateAmbiTerniMulti>(multiruota_); }
+void FrmMain::ApriUtility() { ApriStudio<FrmUtility>(utility_); }
 
 void FrmMain::ApriAggiornaInternet(bool super) {
     QPointer<QWidget>& aperta = super ? aggiornaSuperInternet_ : aggiornaInternet_;

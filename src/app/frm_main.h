@@ -54,6 +54,12 @@ private:
     void ApriCostruttore();
     void ApriAggiornaInternet(bool super);
     void ApriScaricaStorico();
+    void ApriPuntiIncogniti();
+    void ApriNumeriSimpatici();
+    void ApriAmbateAmbiTerniMulti();
+    void ApriUtility();
+    template <typename Finestra>
+    void ApriStudio(QPointer<QWidget>& aperta);
 
     std::unique_ptr<Programma> programma_;
     Sessione& sessione_;
@@ -62,6 +68,7 @@ private:
     QPointer<QWidget> costruttore_;
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
     QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
+    QPointer<QWidget> puntiIncogniti_, numeriSimpatici_, multiruota_, utility_;
     QLabel* lblNessuna_ = nullptr;
     std::array<QLabel*, 4> lblRestrizioni_{};
 };
