@@ -41,3 +41,10 @@ misura S4-ambo "${BASE[@]}" --tipo terzine-ambo
 misura S4-terno "${BASE[@]}" --tipo terzine-terno
 misura S5 "${BASE[@]}" --tipo codici --sorte 2 --operazioni +-x --terzine "$TERZINE"
 misura S6 "${BASE[@]/30\/12\/2015/30/12/2020}" --spia ambo --tutti-gli-ambi
+
+echo "== Costruttore B1-B3: copertura e ricerca automatica, gorgo-cli come processo intero"
+TUTTE=(--cartella "$DATI" costruttore --valore 27 --ruote-ricerca tutte+nz --ruote-gioco tutte+nz --colpi 9
+       --indice-mese tutti --da 30/12/2015 --a 30/12/2025)
+misura B1-righe-S1 "${BASE[@]}" --copertura ambata --righe 100
+misura B2 "${TUTTE[@]}" --automatica 1:1
+misura B3 "${TUTTE[@]}" --automatica 2:5

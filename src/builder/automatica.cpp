@@ -145,7 +145,8 @@ void CorseAmbate(const ParametriRicerca& p, const ContestoRicerca& ctx, const st
     const bool soloPosizione = p.soloPosizione;
     const Avanzamento nessuno{av.stop, {}};
 
-    for (size_t s = 0; s < ricerca.size(); ++s) {
+    // Sets of search wheels in parallel too: with few cases each one alone leaves cores idle.
+    tbb::parallel_for(size_t{0}, ricerca.size(), size_t{1}, [&](size_t s) {
         if (av.stop.stop_requested()) return;
         const ParametriRicerca q = ParametriCorsa(p, ricerca[s], ruoteGioco);
         const Preparata r = Prepara(q, ctx, nessuno, ValidaRicerca(q, *ctx.storia));
@@ -154,7 +155,7 @@ void CorseAmbate(const ParametriRicerca& p, const ContestoRicerca& ctx, const st
         const size_t base = s * gioco.size();
         if (casi.empty()) {
             for (size_t g = 0; g < gioco.size(); ++g) uscita.Consegna(base + g, std::nullopt);
-            continue;
+            return;
         }
 
         // The algorithms that can be emitted: those of the oldest case, in emission order.
@@ -279,7 +280,7 @@ void CorseAmbate(const ParametriRicerca& p, const ContestoRicerca& ctx, const st
                            ricerca[s], gioco[g]);
             uscita.Consegna(base + g, std::move(out));
         });
-    }
+    });
 }
 
 }  // namespace

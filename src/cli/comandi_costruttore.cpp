@@ -8,6 +8,7 @@
 #include "builder/report.h"
 #include "builder/ricerca.h"
 #include "cli/contesto.h"
+#include "cli/costruttore_copertura.h"
 #include "cli/parametri_ricerca.h"
 #include "config/impostazioni.h"
 
@@ -20,6 +21,7 @@ struct ArgomentiCostruttore {
     bool seleziona = false;
     std::string report;
     bool accoda = false, sovrascrivi = false;
+    ArgomentiCopertura copertura;
 };
 
 void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
@@ -31,8 +33,11 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
     if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
         throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
                        "Conferma", archives::Icona::Domanda}};
+    const UscitaReport uscita{a.report, a.accoda, a.sovrascrivi};
+    if (!a.copertura.automatica.empty()) return EseguiAutomatica(ctx, a.copertura, p, cc, uscita);
     const builder::EsitoRicerca e = builder::CercaAlgoritmi(p, cc.Contesto(), {}, a.seleziona);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
+    if (!a.copertura.copertura.empty()) return EseguiCopertura(ctx, a.copertura, p, cc, e, uscita);
 
     if (!a.report.empty()) {
         if (e.righe.empty()) {
@@ -125,6 +130,7 @@ void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
                   "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
     c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
     c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
+    AggiungiOpzioniCopertura(c, a->copertura);
     c->callback([&ctx, a] { Costruttore(ctx, *a); });
 
     auto file = std::make_shared<std::string>();
