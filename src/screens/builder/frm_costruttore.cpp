@@ -347,14 +347,6 @@ QGridLayout* FrmCostruttore::CreaComandi() {
         pulsante("cmdStampaRisultati_1", QStringLiteral("Stampa verifica"), &FrmCostruttore::StampaVerifica);
     auto* fileVerifica =
         pulsante("cmdPrintToFileRisultati", QStringLiteral("Verifica su file"), &FrmCostruttore::FileVerifica);
-    const char* coperture[] = {"cmdCoperturaTotale", "cmdCoperturaTotaleAmbo", "cmdCoperturaTotaleTerzine",
-                               "cmdCoperturaTotaleCodici"};
-    for (int i = 0; i < 4; ++i) {
-        cmdCopertura_[static_cast<size_t>(i)] =
-            pulsante(QString::fromLatin1(coperture[i]), QStringLiteral("Copertura..."), nullptr);
-        cmdCopertura_[static_cast<size_t>(i)]->setEnabled(false);
-        cmdCopertura_[static_cast<size_t>(i)]->setToolTip(QString::fromUtf8("Disponibile in una prossima versione"));
-    }
 
     auto* comandi = new QGridLayout;
     auto* rigaSelezione = new QHBoxLayout;
@@ -375,7 +367,7 @@ QGridLayout* FrmCostruttore::CreaComandi() {
     comandi->addWidget(stampaVerifica, 2, 2);
     comandi->addWidget(fileVerifica, 2, 3);
     comandi->addWidget(listaSortite, 3, 0, 1, 2);
-    for (int i = 0; i < 4; ++i) comandi->addWidget(cmdCopertura_[static_cast<size_t>(i)], 3, 2);
+    CreaStrumenti(comandi);
     return comandi;
 }
 
@@ -481,12 +473,7 @@ void FrmCostruttore::AggiornaPerTipoRicerca() {
     const int k = cboTipoRicerca_->currentIndex();
     const bool ambate = k == 0, ambi = !ambo && k == 1, terzine = !ambo && (k == 2 || k == 3), codici = !ambo && k == 4;
     const bool tuttiValori = !ambo ? p.modoSpia == builder::ModoSpia::Tutti : p.tuttiGliAmbi;
-    cmdCopertura_[0]->setVisible(ambate);
-    cmdCopertura_[1]->setVisible(ambi || (ambo && k == 1));
-    cmdCopertura_[2]->setVisible(terzine);
-    cmdCopertura_[3]->setVisible(codici);
-    for (auto* b : cmdCopertura_) b->setEnabled(false);  // coverage comes in a later version
-    (void)tuttiValori;
+    AbilitaStrumenti(ambate, ambi || (ambo && k == 1), terzine, codici, !tuttiValori);
     fraValidita_->setVisible(ambate);
     if (!ambate)
         for (int i = 1; i <= 5; ++i) chkPosizioneA_[static_cast<size_t>(i)]->setChecked(true);
