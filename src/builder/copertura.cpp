@@ -164,7 +164,21 @@ void MiglioriCinque(const Coperture& c, GruppoCopertura& g, std::stop_token stop
         bool valido = false;
     };
     std::vector<Migliore> perPrimo(static_cast<size_t>(n));
-    std::atomic<int> pieno{n};  // lowest first index that reached every case
+    // No group covers more than all the columns together: a group that reaches it can no
+    // longer be beaten, and the walk ends there as it does at a full cover.
+    int tetto = 0;
+    {
+        std::vector<uint64_t> tutte(P, 0);
+        for (int a = 0; a < n; ++a)
+            for (size_t w = 0; w < P; ++w) tutte[w] |= c.riga(a)[w];
+        for (uint64_t x : tutte) tetto += __builtin_popcountll(x);
+    }
+    // The most cases one column covers from index i on: bounds for the members still to come.
+    std::vector<int> dopo(static_cast<size_t>(n) + 1, 0);
+    for (int a = n - 1; a >= 0; --a)
+        dopo[static_cast<size_t>(a)] = std::max(dopo[static_cast<size_t>(a) + 1], c.conta[static_cast<size_t>(a)]);
+    auto resto = [&](int da) { return dopo[static_cast<size_t>(da)]; };
+    std::atomic<int> pieno{n};  // lowest first index whose best reached the ceiling
     std::atomic<bool> ferma{false};
     tbb::parallel_for(0, n - 4, [&](int i1) {
         if (i1 > pieno.load() || ferma.load()) return;
@@ -175,19 +189,25 @@ void MiglioriCinque(const Coperture& c, GruppoCopertura& g, std::stop_token stop
         Migliore& m = perPrimo[static_cast<size_t>(i1)];
         std::vector<uint64_t> a2(P), a3(P), a4(P);
         const uint64_t* r1 = c.riga(i1);
+        // Only a strictly better count replaces the best, which starts at none; a branch
+        // whose bound cannot beat it is skipped.
         for (int i2 = i1 + 1; i2 < n - 3; ++i2) {
-            Unisci<W>(r1, c.riga(i2), a2.data(), P);
+            const int k2 = Unisci<W>(r1, c.riga(i2), a2.data(), P);
+            if (k2 + 3 * resto(i2 + 1) <= m.conta) continue;
             for (int i3 = i2 + 1; i3 < n - 2; ++i3) {
-                Unisci<W>(a2.data(), c.riga(i3), a3.data(), P);
+                if (k2 + c.conta[static_cast<size_t>(i3)] + 2 * resto(i3 + 1) <= m.conta) continue;
+                const int k3 = Unisci<W>(a2.data(), c.riga(i3), a3.data(), P);
+                if (k3 + 2 * resto(i3 + 1) <= m.conta) continue;
                 for (int i4 = i3 + 1; i4 < n - 1; ++i4) {
+                    if (k3 + c.conta[static_cast<size_t>(i4)] + resto(i4 + 1) <= m.conta) continue;
                     const int k4 = Unisci<W>(a3.data(), c.riga(i4), a4.data(), P);
-                    // Only a strictly better count replaces the best, which starts at none.
+                    if (k4 + resto(i4 + 1) <= m.conta) continue;
                     for (int i5 = i4 + 1; i5 < n; ++i5) {
                         if (k4 + c.conta[static_cast<size_t>(i5)] <= m.conta) continue;
                         const int k = ContaUnione<W>(a4.data(), c.riga(i5), P);
                         if (k > m.conta) {
                             m = {k, {i1, i2, i3, i4, i5}, true};
-                            if (k == c.casi) {
+                            if (k == tetto) {
                                 int atteso = pieno.load();
                                 while (i1 < atteso && !pieno.compare_exchange_weak(atteso, i1)) {}
                                 return;
