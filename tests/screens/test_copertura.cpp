@@ -8,6 +8,8 @@
 #include <QComboBox>
 #include <QDateEdit>
 #include <QLabel>
+#include <QPrinter>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalSpy>
@@ -18,6 +20,7 @@
 #include "screens/builder/frm_costruttore.h"
 #include "screens/builder/frm_multi_ruota.h"
 #include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
@@ -108,6 +111,24 @@ TEST_F(Strumenti, CoperturaPerDueAmbate) {
     EXPECT_GT(Trova<QTreeWidget>(w, "lvRiepilogoCoperture")->topLevelItemCount(), 0);
     w->resize(1100, 700);
     Salva(w, "copertura");
+
+    // The printed form goes through the print path into a PDF: the boxed table, two groups.
+    const char* d = std::getenv("GORGO_SCREENSHOT_DIR");
+    const QString pdf = d ? QString("%1/copertura.pdf").arg(d) : QString::fromStdString((c_ / "c.pdf").string());
+    ApriDialogoStampa = [&](QWidget*, QPrinter& stampante) {
+        stampante.setOutputFormat(QPrinter::PdfFormat);
+        stampante.setOutputFileName(pdf);
+        return true;
+    };
+    QTest::mouseClick(Trova<QPushButton>(w, "cmdStampa"), Qt::LeftButton);
+    ApriDialogoStampa = DialogoStampaPredefinito();
+    QProcess p;
+    p.start("pdftotext", {"-layout", pdf, "-"});
+    ASSERT_TRUE(p.waitForFinished(20000));
+    const QString testo = QString::fromUtf8(p.readAllStandardOutput()).simplified();
+    EXPECT_TRUE(testo.contains("Dettaglio copertura per doppia ambata"));
+    EXPECT_TRUE(testo.contains("| Data spia | Descrizione algor. | Pr.| C.| Descrizione algor. | Pr.| C.|"));
+    EXPECT_TRUE(testo.contains("Riepilogo presenze degli algoritmi"));
 }
 
 TEST_F(Strumenti, RicercaAutomaticaBariNapoli) {
