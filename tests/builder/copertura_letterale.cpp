@@ -1,6 +1,9 @@
 #include "copertura_letterale.h"
 
+#include <fmt/format.h>
 #include <vector>
+
+#include "config/formato.h"
 
 #include "builder/chiavi.h"
 
@@ -126,6 +129,103 @@ GruppoCopertura CercaGruppoLetterale(const MatriceCopertura& m) {
     return g;
 }
 
+namespace {
+
+std::string Numeri(const std::vector<int>& x) {
+    std::string s;
+    for (size_t i = 0; i < x.size(); ++i) {
+        if (i > 0) s += "-";
+        s += fmt::format("{:>2}", x[i]);
+    }
+    return s;
+}
+
+std::string Cento(int parte, int tutto) {
+    return config::AllineaDestra(config::Formato(parte * 100.0 / tutto, "0.0"), 5);
+}
+
+// Steps 5 to 11 as written: attribution to the group, the rows without a member, the second
+// pass, the further columns of two and three ambate, the recap, the totals.
+EsitoCopertura Attribuisci(const MatriceCopertura& m, std::span<const CasoSpia> casi,
+                           std::span<const RigaAlgoritmo> alg, TipoCopertura tipo, const std::vector<int>& gruppo) {
+    EsitoCopertura e;
+    e.tipo = tipo;
+    e.titolo = TitoloCopertura(tipo);
+    e.gruppo = gruppo;
+    e.casi = m.casi;
+    e.gruppiColonne = tipo == TipoCopertura::DueAmbate ? 2 : tipo == TipoCopertura::TreAmbate ? 3 : 1;
+    if (m.casi == 0) return e;
+    std::vector<int> sortite(static_cast<size_t>(m.algoritmi), 0);
+    auto numeri = [&](int k, int a) { return m.numeri[static_cast<size_t>(k * m.algoritmi + a)]; };
+    for (int k = 0; k < m.casi; ++k) {
+        RigaCopertura r;
+        r.caso = k;
+        r.data = casi[static_cast<size_t>(k)].data;
+        r.testoRiga = fmt::format("{:>5}", k + 1);
+        bool preso = false;
+        for (size_t g = 0; g < gruppo.size() && !preso; ++g) {
+            const int a = gruppo[g];
+            if (m.colpo(k, a) > 0) {
+                r.gruppi[0] = {a, alg[static_cast<size_t>(a)].descrizione, Numeri(numeri(k, a)),
+                               fmt::format("{:>2}", m.colpo(k, a))};
+                r.colpo = m.colpo(k, a);
+                sortite[static_cast<size_t>(a)]++;
+                e.coperti++;
+                preso = true;
+            }
+        }
+        if (!preso) r.gruppi[0] = {-1, "--", "--", "-"};
+        e.righe.push_back(r);
+    }
+    if (e.coperti < m.casi)
+        for (RigaCopertura& r : e.righe) {
+            if (r.gruppi[0].descrizione != "--") continue;
+            for (int a = 0; a < m.algoritmi; ++a) {
+                bool nelGruppo = false;
+                for (int g : gruppo) nelGruppo = nelGruppo || g == a;
+                if (nelGruppo || m.colpo(r.caso, a) == 0) continue;
+                r.gruppi[0] = {a, alg[static_cast<size_t>(a)].descrizione, Numeri(numeri(r.caso, a)),
+                               fmt::format("{:>2}", m.colpo(r.caso, a))};
+                r.colpo = m.colpo(r.caso, a);
+                sortite[static_cast<size_t>(a)]++;
+                break;
+            }
+        }
+    for (int g = 1; g < e.gruppiColonne; ++g)
+        for (RigaCopertura& r : e.righe)
+            for (int a = 0; a < m.algoritmi; ++a) {
+                bool usata = false;
+                for (int h = 0; h < g; ++h)
+                    usata = usata ||
+                            r.gruppi[static_cast<size_t>(h)].descrizione == alg[static_cast<size_t>(a)].descrizione;
+                if (usata || m.colpo(r.caso, a) == 0) continue;
+                r.gruppi[static_cast<size_t>(g)] = {a, alg[static_cast<size_t>(a)].descrizione,
+                                                    Numeri(numeri(r.caso, a)),
+                                                    fmt::format("{:>2}", m.colpo(r.caso, a))};
+                break;
+            }
+    for (int a = 0; a < m.algoritmi; ++a)
+        if (sortite[static_cast<size_t>(a)] > 0) {
+            RiepilogoCopertura x;
+            x.algoritmo = a;
+            x.descrizione = alg[static_cast<size_t>(a)].descrizione;
+            x.sortite = sortite[static_cast<size_t>(a)];
+            x.testoSortite = fmt::format("{:>4}", x.sortite);
+            x.testoPercentuale = Cento(x.sortite, m.casi) + " %";
+            x.previsione = Numeri(numeri(0, a));
+            e.riepilogo.push_back(x);
+        }
+    e.totale = "Copertura: " + std::to_string(e.coperti) + " casi su " + std::to_string(m.casi) + "  (" +
+               Cento(e.coperti, m.casi) + " %)";
+    int somma = 0, quanti = 0;
+    for (const RigaCopertura& r : e.righe)
+        if (r.colpo > 0) somma += r.colpo, quanti++;
+    if (quanti > 0) e.attesaMedia = config::Formato(static_cast<double>(somma) / quanti, "0.0") + " colpi";
+    return e;
+}
+
+}  // namespace
+
 EsitoCopertura CalcolaCoperturaLetterale(const ParametriRicerca& p, const ContestoRicerca& ctx,
                                          std::span<const CasoSpia> casi, std::span<const RigaAlgoritmo> righe,
                                          TipoCopertura tipo) {
@@ -138,7 +238,7 @@ EsitoCopertura CalcolaCoperturaLetterale(const ParametriRicerca& p, const Contes
         return e;
     }
     const MatriceCopertura m = CalcolaMatriceLetterale(p, ctx, casi, scelte, tipo);
-    return CompletaCopertura(m, casi, scelte, tipo, CercaGruppoLetterale(m).membri);
+    return Attribuisci(m, casi, scelte, tipo, CercaGruppoLetterale(m).membri);
 }
 
 }  // namespace gorgo::builder

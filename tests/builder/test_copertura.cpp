@@ -25,13 +25,17 @@ void Confronta(const EsitoCopertura& x, const EsitoCopertura& y, const std::stri
     ASSERT_EQ(x.totale, y.totale) << dove;
     ASSERT_EQ(x.attesaMedia, y.attesaMedia) << dove;
     ASSERT_EQ(x.righe.size(), y.righe.size()) << dove;
-    for (size_t i = 0; i < x.righe.size(); ++i)
+    for (size_t i = 0; i < x.righe.size(); ++i) {
+        ASSERT_EQ(std::tie(x.righe[i].data, x.righe[i].testoRiga, x.righe[i].colpo),
+                  std::tie(y.righe[i].data, y.righe[i].testoRiga, y.righe[i].colpo))
+            << dove << " riga " << i;
         for (size_t g = 0; g < 3; ++g) {
             const ColonneCopertura &a = x.righe[i].gruppi[g], &b = y.righe[i].gruppi[g];
             ASSERT_EQ(std::tie(a.algoritmo, a.descrizione, a.previsione, a.colpo),
                       std::tie(b.algoritmo, b.descrizione, b.previsione, b.colpo))
                 << dove << " riga " << i << " gruppo " << g;
         }
+    }
     ASSERT_EQ(x.riepilogo.size(), y.riepilogo.size()) << dove;
     for (size_t i = 0; i < x.riepilogo.size(); ++i)
         ASSERT_EQ(std::tie(x.riepilogo[i].descrizione, x.riepilogo[i].testoSortite, x.riepilogo[i].testoPercentuale,
