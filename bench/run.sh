@@ -55,3 +55,10 @@ misura U1 --cartella "$DATI" punti-incogniti 10779 --ruota BA --storica --da 01/
 misura U2 --cartella "$DATI" quaterna --statistica-generale --ruote tutte+nz --da 01/01/1946
 misura U3 --cartella "$DATI" multiruota 10779 --ruota BA --tipo terni --volte 18 --estrazioni 10
 misura U4 --cartella "$DATI" somma-cinquine 10779 --tutte
+
+echo "== Costruttore B1-B3: copertura e ricerca automatica, gorgo-cli come processo intero"
+TUTTE=(--cartella "$DATI" costruttore --valore 27 --ruote-ricerca tutte+nz --ruote-gioco tutte+nz --colpi 9
+       --indice-mese tutti --da 30/12/2015 --a 30/12/2025)
+misura B1-righe-S1 "${BASE[@]}" --copertura ambata --righe 100
+misura B2 "${TUTTE[@]}" --automatica 1:1
+misura B3 "${TUTTE[@]}" --automatica 2:5

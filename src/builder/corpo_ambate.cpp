@@ -28,13 +28,20 @@ void RiempiFinestraNumeri(const Preparata& r, const Caso& c, FinestraNumeri& f) 
     }
 }
 
-namespace {
+RigaAlgoritmo RigaAmbata(const FormaAmbata& f, const CodaChiave& coda, const std::string& testoSpia, int sortite,
+                         int presenze, int quantita) {
+    RigaAlgoritmo riga;
+    const Operazione op = kOperazioni[f.op];
+    riga.descrizione = DescrizioneAmbata(f.c1, op, f.c2, f.k, f.tipo == 2);
+    riga.chiave = ChiaveAmbata(f.c1, op, f.c2, f.k, coda);
+    riga.sortite = sortite;
+    riga.presenze = presenze;
+    riga.quantita = quantita;
+    riga.testoSpia = testoSpia;
+    return riga;
+}
 
-constexpr int kOp = 3;
-constexpr Operazione kOperazioni[kOp] = {Operazione::Piu, Operazione::Meno, Operazione::Per};
-// Constants tried with each operation of one cell.
-constexpr int kDa[kOp] = {0, 1, 2};
-constexpr int kA[kOp] = {45, 44, 45};
+namespace {
 
 // Hits and quantity of every ambata algorithm of one spy value.
 struct Tabelle {
@@ -54,39 +61,6 @@ struct Tabelle {
         for (size_t i = 0; i < solaH.size(); ++i) solaH[i] += o.solaH[i], solaQ[i] += o.solaQ[i];
     }
 };
-
-// Walks the algorithms of a draw in scoring (and emission) order.
-template <typename Uno, typename Due, typename Sola>
-void PerOgniAlgoritmo(const Caso& c, bool soloPosizione, Uno uno, Due due, Sola sola) {
-    if (soloPosizione) {
-        for (int cella = 1; cella <= 55; ++cella) sola(cella, c.numero(cella));
-        return;
-    }
-    for (int cella = 1; cella <= 55; ++cella) {
-        const int n = c.numero(cella);
-        if (n > 0) uno(cella, n);
-    }
-    // Cells on different wheels: the first from wheels 1..10, the second on a later wheel.
-    for (int w1 = 1; w1 <= 10; ++w1)
-        for (int p1 = 1; p1 <= 5; ++p1) {
-            const int c1 = (w1 - 1) * 5 + p1, x1 = c.numero(c1);
-            if (x1 == 0) continue;
-            for (int c2 = w1 * 5 + 1; c2 <= 55; ++c2) {
-                const int x2 = c.numero(c2);
-                if (x2 > 0) due(c1, c2, x1, x2);
-            }
-        }
-    // Two cells of one wheel: the second is not tested.
-    for (int w = 1; w <= 11; ++w)
-        for (int p1 = 1; p1 <= 4; ++p1) {
-            const int c1 = (w - 1) * 5 + p1, x1 = c.numero(c1);
-            if (x1 == 0) continue;
-            for (int p2 = p1 + 1; p2 <= 5; ++p2) {
-                const int c2 = (w - 1) * 5 + p2;
-                due(c1, c2, x1, c.numero(c2));
-            }
-        }
-}
 
 void Segna(Tabelle& t, const Caso& c, bool soloPosizione, const FinestraNumeri& f) {
     PerOgniAlgoritmo(
@@ -117,12 +91,6 @@ void Segna(Tabelle& t, const Caso& c, bool soloPosizione, const FinestraNumeri& 
         });
 }
 
-// What a candidate row stands for, to turn into text once selected.
-struct Forma {
-    int tipo;  // 0 one cell, 1 two cells, 2 the cell alone
-    int op, c1, c2, k;
-};
-
 }  // namespace
 
 RisultatoValore CorpoAmbate(const Preparata& r, const Spia& spia, const std::vector<Caso>& casi, bool parallelo) {
@@ -150,8 +118,8 @@ RisultatoValore CorpoAmbate(const Preparata& r, const Spia& spia, const std::vec
 
     // Emission: in scoring order, on the cells of the oldest case, rows with a quantity.
     std::vector<Candidato> lista;
-    std::vector<Forma> forme;
-    auto aggiungi = [&](int32_t h, int32_t q, Forma f) {
+    std::vector<FormaAmbata> forme;
+    auto aggiungi = [&](int32_t h, int32_t q, FormaAmbata f) {
         if (q <= 0) return;
         lista.push_back({h, q, lista.size()});
         forme.push_back(f);
@@ -185,16 +153,8 @@ RisultatoValore CorpoAmbate(const Preparata& r, const Spia& spia, const std::vec
     const CodaChiave coda = CodaPer(r, spia, casi);
     const std::string testoSpia = TestoSpia(r, spia);
     for (size_t i = 0; i < scelte; ++i) {
-        const Forma& f = forme[ordine[i]];
-        RigaAlgoritmo riga;
-        const Operazione op = kOperazioni[f.op];
-        riga.descrizione = DescrizioneAmbata(f.c1, op, f.c2, f.k, f.tipo == 2);
-        riga.chiave = ChiaveAmbata(f.c1, op, f.c2, f.k, coda);
-        riga.sortite = static_cast<int>(casi.size());
-        riga.presenze = lista[ordine[i]].presenze;
-        riga.quantita = lista[ordine[i]].quantita;
-        riga.testoSpia = testoSpia;
-        out.righe.push_back(std::move(riga));
+        out.righe.push_back(RigaAmbata(forme[ordine[i]], coda, testoSpia, static_cast<int>(casi.size()),
+                                       lista[ordine[i]].presenze, lista[ordine[i]].quantita));
     }
     return out;
 }

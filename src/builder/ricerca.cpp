@@ -169,6 +169,10 @@ CasoSpia TestiCaso(const Preparata& r, const Spia& spia, const Caso& c) {
     return cs;
 }
 
+}  // namespace
+
+namespace interno {
+
 std::vector<Spia> ValoriSpia(const Preparata& r) {
     const ParametriRicerca& p = *r.p;
     std::vector<Spia> v;
@@ -214,7 +218,7 @@ Preparata Prepara(const ParametriRicerca& p, const ContestoRicerca& ctx, const A
     return r;
 }
 
-}  // namespace
+}  // namespace interno
 
 EsitoRicerca CercaAlgoritmi(const ParametriRicerca& p, const ContestoRicerca& ctx, const Avanzamento& av,
                             bool seleziona) {

@@ -43,6 +43,11 @@ struct Preparata {
     bool fermata() const { return avanzamento && avanzamento->stop.stop_requested(); }
 };
 
+// The preparation of a validated search: wheels, day and month filter of every draw.
+Preparata Prepara(const ParametriRicerca& p, const ContestoRicerca& ctx, const Avanzamento& av, RicercaValidata v);
+// The spy values a search walks, from the lowest.
+std::vector<Spia> ValoriSpia(const Preparata& r);
+
 // The cases of one spy value, newest first, as the walk finds them.
 std::vector<Caso> TrovaCasi(const Preparata& r, const Spia& spia);
 

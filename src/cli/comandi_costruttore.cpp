@@ -9,6 +9,7 @@
 #include "builder/ricerca.h"
 #include "cli/comandi_convergenze.h"
 #include "cli/contesto.h"
+#include "cli/costruttore_copertura.h"
 #include "cli/parametri_ricerca.h"
 #include "config/impostazioni.h"
 
@@ -22,6 +23,7 @@ struct ArgomentiCostruttore {
     ArgomentiConvergenze convergenze;
     std::string report;
     bool accoda = false, sovrascrivi = false;
+    ArgomentiCopertura copertura;
 };
 
 void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
@@ -34,8 +36,11 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
     if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
         throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
                        "Conferma", archives::Icona::Domanda}};
+    const UscitaReport uscita{a.report, a.accoda, a.sovrascrivi};
+    if (!a.copertura.automatica.empty()) return EseguiAutomatica(ctx, a.copertura, p, cc, uscita);
     const builder::EsitoRicerca e = builder::CercaAlgoritmi(p, cc.Contesto(), {}, a.seleziona);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
+    if (!a.copertura.copertura.empty()) return EseguiCopertura(ctx, a.copertura, p, cc, e, uscita);
     if (a.convergenze.richiesti()) {
         MostraConvergenze(ctx, p, cc, e, a.convergenze);
         return;
@@ -133,6 +138,7 @@ void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
                   "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
     c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
     c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
+    AggiungiOpzioniCopertura(c, a->copertura);
     c->callback([&ctx, a] { Costruttore(ctx, *a); });
 
     auto file = std::make_shared<std::string>();

@@ -349,14 +349,6 @@ QGridLayout* FrmCostruttore::CreaComandi() {
         pulsante("cmdStampaRisultati_1", QStringLiteral("Stampa verifica"), &FrmCostruttore::StampaVerifica);
     auto* fileVerifica =
         pulsante("cmdPrintToFileRisultati", QStringLiteral("Verifica su file"), &FrmCostruttore::FileVerifica);
-    const char* coperture[] = {"cmdCoperturaTotale", "cmdCoperturaTotaleAmbo", "cmdCoperturaTotaleTerzine",
-                               "cmdCoperturaTotaleCodici"};
-    for (int i = 0; i < 4; ++i) {
-        cmdCopertura_[static_cast<size_t>(i)] =
-            pulsante(QString::fromLatin1(coperture[i]), QStringLiteral("Copertura..."), nullptr);
-        cmdCopertura_[static_cast<size_t>(i)]->setEnabled(false);
-        cmdCopertura_[static_cast<size_t>(i)]->setToolTip(QString::fromUtf8("Disponibile in una prossima versione"));
-    }
 
     auto* convergenze = pulsante("cmdConvergenze", QStringLiteral("Convergenze"), nullptr);
     auto* lunghette = pulsante("cmdLunghette", QStringLiteral("Lunghetta..."), nullptr);
@@ -392,10 +384,10 @@ QGridLayout* FrmCostruttore::CreaComandi() {
     comandi->addWidget(stampaVerifica, 2, 2);
     comandi->addWidget(fileVerifica, 2, 3);
     comandi->addWidget(listaSortite, 3, 0, 1, 2);
-    for (int i = 0; i < 4; ++i) comandi->addWidget(cmdCopertura_[static_cast<size_t>(i)], 3, 2);
-    comandi->addWidget(convergenze, 4, 0);
-    comandi->addWidget(lunghette, 4, 1);
-    comandi->addWidget(cmdAbbinamentiAmbate_, 4, 2);
+    CreaStrumenti(comandi);
+    comandi->addWidget(convergenze, 6, 0);
+    comandi->addWidget(lunghette, 6, 1);
+    comandi->addWidget(cmdAbbinamentiAmbate_, 6, 2);
     return comandi;
 }
 
@@ -501,12 +493,7 @@ void FrmCostruttore::AggiornaPerTipoRicerca() {
     const int k = cboTipoRicerca_->currentIndex();
     const bool ambate = k == 0, ambi = !ambo && k == 1, terzine = !ambo && (k == 2 || k == 3), codici = !ambo && k == 4;
     const bool tuttiValori = !ambo ? p.modoSpia == builder::ModoSpia::Tutti : p.tuttiGliAmbi;
-    cmdCopertura_[0]->setVisible(ambate);
-    cmdCopertura_[1]->setVisible(ambi || (ambo && k == 1));
-    cmdCopertura_[2]->setVisible(terzine);
-    cmdCopertura_[3]->setVisible(codici);
-    for (auto* b : cmdCopertura_) b->setEnabled(false);  // coverage comes in a later version
-    (void)tuttiValori;
+    AbilitaStrumenti(ambate, ambi || (ambo && k == 1), terzine, codici, !tuttiValori);
     fraValidita_->setVisible(ambate);
     cmdAbbinamentiAmbate_->setVisible(ambate);
     if (!ambate && FrameAbbinamenti_) FrameAbbinamenti_->hide();

@@ -8,6 +8,7 @@
 #include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTreeWidget>
@@ -16,6 +17,7 @@
 #include <memory>
 
 #include "builder/contesto.h"
+#include "builder/copertura.h"
 #include "builder/ricerca.h"
 #include "builder/verifica.h"
 #include "screens/common/sessione.h"
@@ -34,6 +36,9 @@ class FraConvergenze;
 class FraLunghette;
 class FrameAbbinamenti;
 struct DatiCostruttore;
+class Elaborazione;
+class FraRicercaAutomatica;
+class FrmMultiRuota;
 
 class FrmCostruttore : public QWidget {
     Q_OBJECT
@@ -86,6 +91,13 @@ private:
     // The frames of convergences, lunghetta and abbinamenti, and what they read of the rows.
     void CreaFrame();
     DatiCostruttore DatiPerFrame() const;
+    // Coverage and the automatic search of wheels (frm_costruttore_strumenti.cpp).
+    void CreaStrumenti(QGridLayout* comandi);
+    void AbilitaStrumenti(bool mostraAmbate, bool mostraAmbo, bool mostraTerzine, bool mostraCodici, bool fissa);
+    void Copertura(builder::TipoCopertura tipo);
+    void ApriRicercaAutomatica();
+    void AvviaRicercaAutomatica();
+    void AggiornaRicercaAutomatica();
 
     Sessione& sessione_;
     std::unique_ptr<builder::ContestoCostruttore> contesto_;
@@ -137,11 +149,15 @@ private:
     QTreeWidget* lvListaPrevisioni_ = nullptr;
     QPushButton* cmdCalcola_ = nullptr;
     std::array<QPushButton*, 3> cmdReport_{};
-    std::array<QPushButton*, 4> cmdCopertura_{};
     QPushButton* cmdAbbinamentiAmbate_ = nullptr;
     FraConvergenze* fraConvergenze_ = nullptr;
     FraLunghette* fraLunghette_ = nullptr;
     FrameAbbinamenti* FrameAbbinamenti_ = nullptr;
+    std::array<QPushButton*, 6> cmdCopertura_{};  // per ambata, 2 and 3 ambate, ambo, terzine, codes
+    QPushButton* cmdRicercaAutomatica_ = nullptr;
+    FraRicercaAutomatica* fraRicercaAutomatica_ = nullptr;
+    QPointer<FrmMultiRuota> frmMultiRuota_;
+    Elaborazione* automatica_ = nullptr;
 };
 
 }  // namespace gorgo::screens

@@ -1,0 +1,36 @@
+#pragma once
+// gorgo-cli costruttore --copertura and --automatica: the coverage of the checked rows and
+// the automatic search of wheels, as the builder's windows show them.
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+#include "builder/contesto.h"
+#include "builder/ricerca.h"
+#include "cli/contesto.h"
+
+namespace gorgo::cli {
+
+struct ArgomentiCopertura {
+    std::string copertura;  // ambata, 2-ambate, 3-ambate, ambo, terzine, codici
+    int righe = 0;          // the first N rows checked
+    std::vector<std::string> chiavi;
+    std::string automatica;  // "R:G"
+};
+
+void AggiungiOpzioniCopertura(CLI::App* comando, ArgomentiCopertura& a);
+
+struct UscitaReport {
+    std::string file;
+    bool accoda = false, sovrascrivi = false;
+};
+
+// The coverage after a search `e` (rows checked by --righe, --chiave or --seleziona).
+void EseguiCopertura(const Contesto& ctx, const ArgomentiCopertura& a, const builder::ParametriRicerca& p,
+                     const builder::ContestoCostruttore& cc, builder::EsitoRicerca e, const UscitaReport& report);
+// The automatic search, in place of the search.
+void EseguiAutomatica(const Contesto& ctx, const ArgomentiCopertura& a, const builder::ParametriRicerca& p,
+                      const builder::ContestoCostruttore& cc, const UscitaReport& report);
+
+}  // namespace gorgo::cli
