@@ -41,3 +41,11 @@ misura S4-ambo "${BASE[@]}" --tipo terzine-ambo
 misura S4-terno "${BASE[@]}" --tipo terzine-terno
 misura S5 "${BASE[@]}" --tipo codici --sorte 2 --operazioni +-x --terzine "$TERZINE"
 misura S6 "${BASE[@]/30\/12\/2015/30/12/2020}" --spia ambo --tutti-gli-ambi
+
+echo "== Ambo enucleato E1-E3: gorgo-cli come processo intero (tempo, memoria di picco)"
+ULTIMA=$("$BUILD/gorgo-cli" --cartella "$DATI" --json estrazione "$("$BUILD/gorgo-cli" --cartella "$DATI" --json info |
+    python3 -c 'import json,sys; print(json.load(sys.stdin)["lotto"]["estrazioni"])')" |
+    python3 -c 'import json,sys; print(json.load(sys.stdin)["data"])')
+misura E1 --cartella "$DATI" statistica-somme --ruota BA --da 01/01/1946 --a "$ULTIMA"
+misura E2 --cartella "$DATI" statistica-somme --ruota BA --da 01/01/1946 --a "$ULTIMA" --terni
+misura E3 --cartella "$DATI" ambi-matematici --ruota tutte --da 07/01/1871 --a "$ULTIMA"
