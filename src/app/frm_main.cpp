@@ -27,6 +27,7 @@
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
+#include "screens/enucleated/frm_ambo_enucleato.h"
 #include "screens/maintenance/frm_aggiorna_internet.h"
 #include "screens/maintenance/frm_aggiornamenti.h"
 #include "screens/maintenance/frm_esportazione.h"
@@ -233,7 +234,7 @@ void FrmMain::CreaPannello() {
     };
     const Voce voci[] = {{"cmdGorgo", "The Gorgo 2", &FrmMain::ApriCostruttore},
                          {"cmdPrecursori", "La scia inversa dei precursori", nullptr},
-                         {"cmdAmboEnucleato", "L'ambo enucleato", nullptr},
+                         {"cmdAmboEnucleato", "L'ambo enucleato", &FrmMain::ApriAmboEnucleato},
                          {"cmdNuovaProcedura", "Precursori 10elotto", nullptr},
                          {"Command1", "Precursori Superenalotto", nullptr},
                          {"cmdProcedura", "Procedura", nullptr}};
@@ -360,6 +361,18 @@ void FrmMain::ApriCostruttore() {
     }
     auto* f = new FrmCostruttore(sessione_, archivio_, this);
     costruttore_ = f;
+    f->show();
+}
+
+void FrmMain::ApriAmboEnucleato() {
+    if (amboEnucleato_) {
+        amboEnucleato_->showNormal();
+        amboEnucleato_->raise();
+        amboEnucleato_->activateWindow();
+        return;
+    }
+    auto* f = new FrmAmboEnucleato(sessione_, archivio_, this);
+    amboEnucleato_ = f;
     f->show();
 }
 

@@ -52,6 +52,7 @@ private:
     void ApriSitoWeb();
     void ApriInformazioni();
     void ApriCostruttore();
+    void ApriAmboEnucleato();
     void ApriAggiornaInternet(bool super);
     void ApriScaricaStorico();
 
@@ -60,6 +61,7 @@ private:
     archives::Archivio& archivio_;
     std::array<QLabel*, 2> lblUltimaEstrazione_{};
     QPointer<QWidget> costruttore_;
+    QPointer<QWidget> amboEnucleato_;
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
     QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
     QLabel* lblNessuna_ = nullptr;

@@ -1,0 +1,22 @@
+#pragma once
+// frmCoppie: the pairs with a delay sum today, and the way to its delay detail.
+
+#include <QPointer>
+
+#include "screens/enucleated/frm_lista_somma.h"
+
+namespace gorgo::screens {
+
+class FrmDettaglioRitardi;
+
+class FrmCoppie : public FrmListaSomma {
+    Q_OBJECT
+public:
+    FrmCoppie(FrmAmboEnucleato& padre, QWidget* parent);
+
+private:
+    void ApriDettaglio();
+    QPointer<FrmDettaglioRitardi> dettaglio_;
+};
+
+}  // namespace gorgo::screens

@@ -1,0 +1,105 @@
+#include "screens/enucleated/frm_statistica_ambi_matematici.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "config/report_testo.h"
+#include "screens/common/elaborazioni.h"
+#include "screens/common/liste.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
+#include "screens/common/stile.h"
+#include "screens/enucleated/comune.h"
+#include "screens/enucleated/frm_ambo_enucleato.h"
+
+namespace gorgo::screens {
+
+using namespace enucleato;
+using namespace gorgo::enucleated;
+
+FrmStatisticaAmbiMatematici::FrmStatisticaAmbiMatematici(FrmAmboEnucleato& padre)
+    : QWidget(&padre, Qt::Window), padre_(padre) {
+    setObjectName("frmStatisticaAmbiMatematici");
+    setWindowTitle(QStringLiteral("Ambo enucleato - Statistica gruppo ambi matematici"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    auto* v = new QVBoxLayout(this);
+    auto* alto = new QHBoxLayout;
+    const QString testi[2] = {QStringLiteral("Verifica ruota singola"), QStringLiteral("Verifica tutte le ruote")};
+    for (int k = 0; k < 2; ++k) {
+        auto* b = new QPushButton(testi[k], this);
+        b->setObjectName(QStringLiteral("cmdStatistica_%1").arg(k));
+        connect(b, &QPushButton::clicked, this, [this, k] { StatisticaGruppo(k); });
+        alto->addWidget(b);
+    }
+    lblRuota_ = new QLabel(this);
+    lblRuota_->setObjectName("lblRuota");
+    alto->addWidget(lblRuota_);
+    alto->addStretch();
+    v->addLayout(alto);
+    txtResult_ = new QPlainTextEdit(this);
+    txtResult_->setObjectName("txtResult");
+    txtResult_->setReadOnly(true);
+    QFont f(QStringLiteral("Courier New"));
+    f.setStyleHint(QFont::Monospace);
+    txtResult_->setFont(f);
+    txtResult_->setMaximumHeight(200);
+    v->addWidget(txtResult_);
+    v->addWidget(new QLabel(QStringLiteral("Comportamento dei ritardi del gruppo"), this));
+    ListView1_ = NuovaLista(this, "ListView1",
+                            {QStringLiteral("Ritardo"), QStringLiteral("Frequenza"), QStringLiteral("Ritardo att."),
+                             QStringLiteral("Ritardo max"), QStringLiteral(" I.C.")});
+    ListView1_->setMinimumSize(520, 260);
+    v->addWidget(ListView1_, 1);
+    auto* fondo = new QHBoxLayout;
+    fondo->addStretch();
+    auto* cmdStampa = new QPushButton(QStringLiteral("Stampa"), this);
+    cmdStampa->setObjectName("cmdStampa");
+    auto* cmdPrintToFile = new QPushButton(QStringLiteral("Salva su file"), this);
+    cmdPrintToFile->setObjectName("cmdPrintToFile");
+    connect(cmdStampa, &QPushButton::clicked, this, &FrmStatisticaAmbiMatematici::Stampa);
+    connect(cmdPrintToFile, &QPushButton::clicked, this, &FrmStatisticaAmbiMatematici::FileReport);
+    fondo->addWidget(cmdStampa);
+    fondo->addWidget(cmdPrintToFile);
+    v->addLayout(fondo);
+    ApplicaStile(this, padre_.sessione().ini);
+}
+
+void FrmStatisticaAmbiMatematici::StatisticaGruppo(int indice) {
+    txtResult_->clear();
+    ListView1_->clear();
+    const EsitoPeriodo ep = ControllaPeriodo(padre_.storia(), padre_.DataDa(), padre_.DataA());
+    if (!ep.valido()) {
+        MostraMessaggio(this, ep.errore);
+        return;
+    }
+    tutte_ = indice == 1;
+    ruota_ = std::max(1, padre_.RuotaScelta());
+    lblRuota_->setText(tutte_ ? QStringLiteral("Tutte") : QString::fromStdString(NomeRuota(ruota_)));
+    // The whole archive on all wheels takes milliseconds: no computing window.
+    CMouse attesa;
+    esito_ = enucleated::StatisticaGruppo(padre_.storia(), ep.periodo, tutte_, ruota_);
+    QStringList righe;
+    for (const std::string& r : esito_.riepilogo) righe << QString::fromStdString(r);
+    txtResult_->setPlainText(righe.join('\n'));
+    ListView1_->setSortingEnabled(false);
+    for (const RigaGruppo& r : esito_.righe) new RigaLista(ListView1_, Colonne(r.testo));
+    ListView1_->setSortingEnabled(true);
+    ListView1_->header()->setSortIndicatorShown(false);
+}
+
+void FrmStatisticaAmbiMatematici::Stampa() {
+    if (esito_.riepilogo.empty()) return;
+    OpzioniStampa o;
+    o.punti = 12;
+    o.righePerPagina = 0;
+    StampaReport(this, RigheTesto(ReportGruppo(esito_)), o);
+}
+
+void FrmStatisticaAmbiMatematici::FileReport() {
+    if (esito_.riepilogo.empty()) return;
+    SalvaReportSuFile(this, padre_.sessione(), RigheTesto(ReportGruppo(esito_)), Q(NomeFileGruppo(tutte_, ruota_)),
+                      DomandaFile::Sovrascrivi, QStringLiteral("File di testo (*.txt)"));
+}
+
+}  // namespace gorgo::screens
