@@ -35,6 +35,16 @@ inline QTreeWidget* NuovaLista(QWidget* parent, const char* nome, const QStringL
     return l;
 }
 
+// Fills a list in the engine's order: no column sorts it until a head is clicked.
+template <typename Riempi>
+void RiempiLista(QTreeWidget* l, Riempi riempi) {
+    l->setSortingEnabled(false);
+    l->clear();
+    l->header()->setSortIndicator(-1, Qt::AscendingOrder);
+    riempi();
+    l->setSortingEnabled(true);
+}
+
 inline std::vector<config::RigaTesto> RigheTesto(const std::vector<std::string>& righe) {
     std::vector<config::RigaTesto> r;
     for (const std::string& s : righe) r.push_back({s});

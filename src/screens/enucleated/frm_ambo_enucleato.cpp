@@ -290,15 +290,13 @@ void FrmAmboEnucleato::RicercaEnucleato() {
 }
 
 void FrmAmboEnucleato::MostraLista() {
-    ListView1_->setSortingEnabled(false);
-    ListView1_->clear();
-    for (const RigaEnucleato& r : lista_.righe())
-        new RigaLista(ListView1_, {QString::fromStdString(r.descrizione), QString::fromStdString(r.prog),
-                                   QString::fromStdString(r.data), QString::fromStdString(r.somma),
-                                   QString::fromStdString(r.chiave), QString::fromStdString(r.ruota),
-                                   QString::fromStdString(r.nota)});
-    ListView1_->setSortingEnabled(true);
-    ListView1_->header()->setSortIndicatorShown(false);
+    RiempiLista(ListView1_, [&] {
+        for (const RigaEnucleato& r : lista_.righe())
+            new RigaLista(ListView1_, {QString::fromStdString(r.descrizione), QString::fromStdString(r.prog),
+                                       QString::fromStdString(r.data), QString::fromStdString(r.somma),
+                                       QString::fromStdString(r.chiave), QString::fromStdString(r.ruota),
+                                       QString::fromStdString(r.nota)});
+    });
 }
 
 void FrmAmboEnucleato::Stampa() {

@@ -92,20 +92,16 @@ void FrmDettaglioRitardi::Ricerca() {
     }
     CMouse attesa;
     esito_ = DettaglioRitardi(padre_.storia(), ep.periodo, ruota_, somma_, padre_.SoloMatematici());
-    ListView1_->setSortingEnabled(false);
-    ListView2_->setSortingEnabled(false);
-    ListView1_->clear();
-    ListView2_->clear();
-    for (const RigaRitardo& r : esito_.ritardi) new RigaLista(ListView1_, Colonne(r.testo));
-    for (const RigaCoppiaRitardi& c : esito_.coppie) {
-        QStringList col = Colonne(c.testo);
-        col << QString::fromStdString(c.daGiocare);
-        new RigaLista(ListView2_, col);
-    }
-    ListView1_->setSortingEnabled(true);
-    ListView2_->setSortingEnabled(true);
-    ListView1_->header()->setSortIndicatorShown(false);
-    ListView2_->header()->setSortIndicatorShown(false);
+    RiempiLista(ListView1_, [&] {
+        for (const RigaRitardo& r : esito_.ritardi) new RigaLista(ListView1_, Colonne(r.testo));
+    });
+    RiempiLista(ListView2_, [&] {
+        for (const RigaCoppiaRitardi& c : esito_.coppie) {
+            QStringList col = Colonne(c.testo);
+            col << QString::fromStdString(c.daGiocare);
+            new RigaLista(ListView2_, col);
+        }
+    });
 }
 
 void FrmDettaglioRitardi::Stampa() {

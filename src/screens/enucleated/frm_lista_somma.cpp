@@ -61,12 +61,10 @@ void FrmListaSomma::Mostra(int ruota, int somma) {
                                         : st.Terzine(ruota, somma, padre_.SoloMatematici());
     lblDescrizione_->setText(QString::fromStdString(lista_.descrizione));
     lblTotCoppie_->setText(QString::fromStdString(lista_.totale));
-    ListView1_->setSortingEnabled(false);
-    ListView1_->clear();
     // Rows come by I.C., highest first; a click on a head sorts by that column.
-    for (const RigaCoppia& r : lista_.righe) new RigaLista(ListView1_, Colonne(r.testo));
-    ListView1_->setSortingEnabled(true);
-    ListView1_->header()->setSortIndicatorShown(false);
+    RiempiLista(ListView1_, [&] {
+        for (const RigaCoppia& r : lista_.righe) new RigaLista(ListView1_, Colonne(r.testo));
+    });
     showNormal();
     raise();
     activateWindow();

@@ -82,10 +82,9 @@ void FrmStatisticaAmbiMatematici::StatisticaGruppo(int indice) {
     QStringList righe;
     for (const std::string& r : esito_.riepilogo) righe << QString::fromStdString(r);
     txtResult_->setPlainText(righe.join('\n'));
-    ListView1_->setSortingEnabled(false);
-    for (const RigaGruppo& r : esito_.righe) new RigaLista(ListView1_, Colonne(r.testo));
-    ListView1_->setSortingEnabled(true);
-    ListView1_->header()->setSortIndicatorShown(false);
+    RiempiLista(ListView1_, [&] {
+        for (const RigaGruppo& r : esito_.righe) new RigaLista(ListView1_, Colonne(r.testo));
+    });
 }
 
 void FrmStatisticaAmbiMatematici::Stampa() {

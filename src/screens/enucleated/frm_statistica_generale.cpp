@@ -101,10 +101,9 @@ void FrmStatisticaGenerale::Verifica(int tipo) {
                           righe_ = e->righe;
                           periodo_ = e->periodo;
                           ruota_ = ruota;
-                          ListView2_->setSortingEnabled(false);
-                          for (const RigaStatistica& r : righe_) new RigaLista(ListView2_, Colonne(r.testo));
-                          ListView2_->setSortingEnabled(true);
-                          ListView2_->header()->setSortIndicatorShown(false);
+                          RiempiLista(ListView2_, [&] {
+                              for (const RigaStatistica& r : righe_) new RigaLista(ListView2_, Colonne(r.testo));
+                          });
                       });
 }
 
