@@ -110,6 +110,7 @@ TEST(AmboEnucleato, DallaListaAlDettaglio) {
     const QString somma = primaRiga->text(1).trimmed();
     EXPECT_TRUE(Trova<QLabel>(coppie, "lblDescrizione")->text().startsWith("Coppie su TO con rit." + somma + " al "));
     EXPECT_TRUE(Trova<QLabel>(coppie, "lblTotCoppie")->text().endsWith(" coppie in lista"));
+    EXPECT_EQ(Trova<QLabel>(coppie, "lblSommaCercata")->text(), somma);
     Cattura(coppie, "frmCoppie");
     QTest::mouseClick(Trova<QPushButton>(coppie, "Command1"), Qt::LeftButton);
     QWidget* det = Finestra("frmDettaglioRitardi");

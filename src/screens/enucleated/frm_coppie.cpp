@@ -14,6 +14,14 @@ FrmCoppie::FrmCoppie(FrmAmboEnucleato& padre, QWidget* parent)
     Command1->setObjectName("Command1");
     connect(Command1, &QPushButton::clicked, this, &FrmCoppie::ApriDettaglio);
     comandi()->insertWidget(0, Command1);
+    lblSommaCercata_ = new QLabel(this);
+    lblSommaCercata_->setObjectName("lblSommaCercata");
+    comandi()->insertWidget(0, lblSommaCercata_);
+}
+
+void FrmCoppie::Mostra(int ruota, int somma) {
+    lblSommaCercata_->setText(QString::number(somma));
+    FrmListaSomma::Mostra(ruota, somma);
 }
 
 void FrmCoppie::ApriDettaglio() {
