@@ -67,11 +67,20 @@ EsitoGruppo StatisticaGruppo(const archives::StoriaLotto& storia, std::string_vi
     return StatisticaGruppo(storia, ep.periodo, tutte, ruota);
 }
 
-EsitoGruppo StatisticaGruppo(const archives::StoriaLotto& storia, const Periodo& periodo, bool tutte, int ruota) {
+EsitoGruppo StatisticaGruppo(const archives::StoriaLotto& storia, const Periodo& periodo, bool tutte, int ruota,
+                             const Avanzamento& avanzamento) {
     EsitoGruppo e;
     e.periodo = periodo;
     std::vector<Contatori> ruote;
     for (int w = tutte ? 1 : ruota; w <= (tutte ? archives::NumeroRuote : ruota); ++w) {
+        // A wheel is a few milliseconds: the stop and the progress are looked at between wheels.
+        if (avanzamento.stop.stop_requested()) {
+            EsitoGruppo fermo;
+            fermo.periodo = periodo;
+            fermo.interrotta = true;
+            return fermo;
+        }
+        if (avanzamento.progresso) avanzamento.progresso(NomeRuota(w), tutte ? w - 1 : 0, tutte ? 11 : 1);
         ruote.push_back(Percorri(storia, periodo, w));
         const Contatori& c = ruote.back();
         e.riepilogo.push_back(

@@ -21,6 +21,7 @@ struct EsitoGruppo {
     Periodo periodo;
     std::vector<std::string> riepilogo;  // txtResult, one line a wheel (and " TUTTE" for all)
     std::vector<RigaGruppo> righe;       // by I.C. descending, ties by delay
+    bool interrotta = false;             // stopped: nothing to show
 };
 
 // The I.C. of a summary line when the group never came out: there is no mean gap.
@@ -28,7 +29,8 @@ inline constexpr std::string_view ICNonDefinito = " n.d.";
 
 // tutte false (cmdStatistica 0): wheel `ruota` alone; true (index 1): the 11 wheels each in
 // turn from a fresh start, then all together.
-EsitoGruppo StatisticaGruppo(const archives::StoriaLotto& storia, const Periodo& periodo, bool tutte, int ruota);
+EsitoGruppo StatisticaGruppo(const archives::StoriaLotto& storia, const Periodo& periodo, bool tutte, int ruota,
+                             const Avanzamento& avanzamento = {});
 EsitoGruppo StatisticaGruppo(const archives::StoriaLotto& storia, std::string_view da, std::string_view a, bool tutte,
                              int ruota);
 

@@ -288,6 +288,11 @@ TEST(GruppoAmbiMatematici, DueAmbiInUnaEstrazioneEUnaRuotaSenzaGruppo) {
     const EsitoGruppo tutte = StatisticaGruppo(s, p, true, 0);
     ASSERT_EQ(tutte.riepilogo.size(), 12u);
     EXPECT_EQ(tutte.riepilogo.back().substr(0, 19), " TUTTE -->  Freq.: ");
+    std::stop_source fermo;
+    fermo.request_stop();
+    const EsitoGruppo fermato = StatisticaGruppo(s, p, true, 0, Avanzamento{fermo.get_token(), {}});
+    EXPECT_TRUE(fermato.interrotta);
+    EXPECT_TRUE(fermato.riepilogo.empty() && fermato.righe.empty());
 }
 
 }  // namespace

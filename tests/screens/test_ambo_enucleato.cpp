@@ -135,6 +135,7 @@ TEST(AmboEnucleato, DallaListaAlDettaglio) {
     QWidget* g = Finestra("frmStatisticaAmbiMatematici");
     ASSERT_NE(g, nullptr);
     QTest::mouseClick(Trova<QPushButton>(g, "cmdStatistica_1"), Qt::LeftButton);
+    ASSERT_TRUE(Attendi([&] { return !Trova<QPlainTextEdit>(g, "txtResult")->toPlainText().isEmpty(); }));
     const QString riepilogo = Trova<QPlainTextEdit>(g, "txtResult")->toPlainText();
     EXPECT_TRUE(riepilogo.startsWith("BA  -->  Freq.: "));
     EXPECT_TRUE(riepilogo.contains("\n TUTTE -->  Freq.: "));

@@ -45,6 +45,7 @@ public:
                     std::function<void(const enucleated::EsitoStatistica*)> fine);
 
     const archives::StoriaLotto& storia() const { return *storia_; }
+    const archives::StoriaCondivisa& storiaCondivisa() const { return storia_; }
     const enucleated::StatisticheEnucleato& statistiche() const { return statistiche_; }
     int RuotaScelta() const;
     bool SoloMatematici() const;

@@ -1,5 +1,6 @@
 #include "screens/enucleated/frm_statistica_ambi_matematici.h"
 
+#include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -66,6 +67,7 @@ FrmStatisticaAmbiMatematici::FrmStatisticaAmbiMatematici(FrmAmboEnucleato& padre
 }
 
 void FrmStatisticaAmbiMatematici::StatisticaGruppo(int indice) {
+    if (elaborazione_) return;
     txtResult_->clear();
     ListView1_->clear();
     const EsitoPeriodo ep = ControllaPeriodo(padre_.storia(), padre_.DataDa(), padre_.DataA());
@@ -76,15 +78,38 @@ void FrmStatisticaAmbiMatematici::StatisticaGruppo(int indice) {
     tutte_ = indice == 1;
     ruota_ = std::max(1, padre_.RuotaScelta());
     lblRuota_->setText(tutte_ ? QStringLiteral("Tutte") : QString::fromStdString(NomeRuota(ruota_)));
-    // The whole archive on all wheels takes milliseconds: no computing window.
-    CMouse attesa;
-    esito_ = enucleated::StatisticaGruppo(padre_.storia(), ep.periodo, tutte_, ruota_);
-    QStringList righe;
-    for (const std::string& r : esito_.riepilogo) righe << QString::fromStdString(r);
-    txtResult_->setPlainText(righe.join('\n'));
-    RiempiLista(ListView1_, [&] {
-        for (const RigaGruppo& r : esito_.righe) new RigaLista(ListView1_, Colonne(r.testo));
-    });
+    // On the computing window's worker, with its stop; a stopped run shows nothing.
+    auto esito = std::make_shared<EsitoGruppo>();
+    const Periodo periodo = ep.periodo;
+    const bool tutte = tutte_;
+    const int ruota = ruota_;
+    const archives::StoriaCondivisa storia = padre_.storiaCondivisa();
+    elaborazione_ = true;
+    esito_ = {};
+    Elaborazione::Avvia(
+        this, padre_.sessione(), QStringLiteral("Statistica gruppo ambi matematici..."),
+        [storia, periodo, tutte, ruota, esito](std::stop_token stop, const Progresso& progresso) {
+            *esito = enucleated::StatisticaGruppo(*storia, periodo, tutte, ruota, Avanzamento{stop, progresso});
+        },
+        [this, esito](bool fermato) {
+            elaborazione_ = false;
+            if (fermato || esito->interrotta) return;
+            esito_ = *esito;
+            QStringList righe;
+            for (const std::string& r : esito_.riepilogo) righe << QString::fromStdString(r);
+            txtResult_->setPlainText(righe.join('\n'));
+            RiempiLista(ListView1_, [&] {
+                for (const RigaGruppo& r : esito_.righe) new RigaLista(ListView1_, Colonne(r.testo));
+            });
+            emit statisticaTerminata();
+        });
+}
+
+void FrmStatisticaAmbiMatematici::closeEvent(QCloseEvent* e) {
+    if (elaborazione_)
+        e->ignore();
+    else
+        e->accept();
 }
 
 void FrmStatisticaAmbiMatematici::Stampa() {

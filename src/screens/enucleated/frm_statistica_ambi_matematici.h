@@ -19,6 +19,12 @@ public:
     explicit FrmStatisticaAmbiMatematici(FrmAmboEnucleato& padre);
     void StatisticaGruppo(int indice);  // cmdStatistica: 0 the chosen wheel, 1 all wheels
 
+signals:
+    void statisticaTerminata();
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
 private:
     void Stampa();
     void FileReport();
@@ -26,6 +32,7 @@ private:
     FrmAmboEnucleato& padre_;
     enucleated::EsitoGruppo esito_;
     bool tutte_ = false;
+    bool elaborazione_ = false;
     int ruota_ = 1;
     QPlainTextEdit* txtResult_ = nullptr;
     QLabel* lblRuota_ = nullptr;
