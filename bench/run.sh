@@ -62,3 +62,11 @@ TUTTE=(--cartella "$DATI" costruttore --valore 27 --ruote-ricerca tutte+nz --ruo
 misura B1-righe-S1 "${BASE[@]}" --copertura ambata --righe 100
 misura B2 "${TUTTE[@]}" --automatica 1:1
 misura B3 "${TUTTE[@]}" --automatica 2:5
+
+echo "== Ambo enucleato E1-E3: gorgo-cli come processo intero (tempo, memoria di picco)"
+ULTIMA=$("$BUILD/gorgo-cli" --cartella "$DATI" --json estrazione "$("$BUILD/gorgo-cli" --cartella "$DATI" --json info |
+    python3 -c 'import json,sys; print(json.load(sys.stdin)["lotto"]["estrazioni"])')" |
+    python3 -c 'import json,sys; print(json.load(sys.stdin)["data"])')
+misura E1 --cartella "$DATI" statistica-somme --ruota BA --da 01/01/1946 --a "$ULTIMA"
+misura E2 --cartella "$DATI" statistica-somme --ruota BA --da 01/01/1946 --a "$ULTIMA" --terni
+misura E3 --cartella "$DATI" ambi-matematici --ruota tutte --da 07/01/1871 --a "$ULTIMA"

@@ -27,6 +27,7 @@
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
+#include "screens/enucleated/frm_ambo_enucleato.h"
 #include "screens/maintenance/frm_aggiorna_internet.h"
 #include "screens/maintenance/frm_aggiornamenti.h"
 #include "screens/maintenance/frm_esportazione.h"
@@ -239,7 +240,7 @@ void FrmMain::CreaPannello() {
     };
     const Voce voci[] = {{"cmdGorgo", "The Gorgo 2", &FrmMain::ApriCostruttore},
                          {"cmdPrecursori", "La scia inversa dei precursori", nullptr},
-                         {"cmdAmboEnucleato", "L'ambo enucleato", nullptr},
+                         {"cmdAmboEnucleato", "L'ambo enucleato", &FrmMain::ApriAmboEnucleato},
                          {"cmdNuovaProcedura", "Precursori 10elotto", nullptr},
                          {"Command1", "Precursori Superenalotto", nullptr},
                          {"cmdProcedura", "Procedura", &FrmMain::ApriPuntiIncogniti}};
@@ -356,21 +357,8 @@ void FrmMain::ApriSitoWeb() {
         sessione_.ini, config::sezioni::Options, "Url", config::Predefinito(config::sezioni::Options, "Url"))));
 }
 
-void FrmMain::ApriCostruttore() {
-    // A window already open comes forward instead of opening twice.
-    if (costruttore_) {
-        costruttore_->showNormal();
-        costruttore_->raise();
-        costruttore_->activateWindow();
-        return;
-    }
-    auto* f = new FrmCostruttore(sessione_, archivio_, this);
-    costruttore_ = f;
-    f->show();
-}
-
 template <typename Finestra>
-void FrmMain::ApriStudio(QPointer<QWidget>& aperta) {
+void FrmMain::ApriUnica(QPointer<QWidget>& aperta) {
     // A window already open comes forward instead of opening twice.
     if (aperta) {
         aperta->showNormal();
@@ -383,10 +371,13 @@ void FrmMain::ApriStudio(QPointer<QWidget>& aperta) {
     f->show();
 }
 
-void FrmMain::ApriPuntiIncogniti() { ApriStudio<FrmPuntiIncogniti>(puntiIncogniti_); }
-void FrmMain::ApriNumeriSimpatici() { ApriStudio<FrmNumeriSimpatici>(numeriSimpatici_); }
-void FrmMain::ApriAmbateAmbiTerniMulti() { ApriStudio<FrmAmbateAmbiTerniMulti>(multiruota_); }
-void FrmMain::ApriUtility() { ApriStudio<FrmUtility>(utility_); }
+void FrmMain::ApriCostruttore() { ApriUnica<FrmCostruttore>(costruttore_); }
+
+void FrmMain::ApriPuntiIncogniti() { ApriUnica<FrmPuntiIncogniti>(puntiIncogniti_); }
+void FrmMain::ApriNumeriSimpatici() { ApriUnica<FrmNumeriSimpatici>(numeriSimpatici_); }
+void FrmMain::ApriAmbateAmbiTerniMulti() { ApriUnica<FrmAmbateAmbiTerniMulti>(multiruota_); }
+void FrmMain::ApriUtility() { ApriUnica<FrmUtility>(utility_); }
+void FrmMain::ApriAmboEnucleato() { ApriUnica<FrmAmboEnucleato>(amboEnucleato_); }
 
 void FrmMain::ApriAggiornaInternet(bool super) {
     QPointer<QWidget>& aperta = super ? aggiornaSuperInternet_ : aggiornaInternet_;

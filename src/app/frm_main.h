@@ -52,20 +52,23 @@ private:
     void ApriSitoWeb();
     void ApriInformazioni();
     void ApriCostruttore();
+    void ApriAmboEnucleato();
     void ApriAggiornaInternet(bool super);
     void ApriScaricaStorico();
     void ApriPuntiIncogniti();
     void ApriNumeriSimpatici();
     void ApriAmbateAmbiTerniMulti();
     void ApriUtility();
+    // Opens the window of its kind once; a window already open comes forward.
     template <typename Finestra>
-    void ApriStudio(QPointer<QWidget>& aperta);
+    void ApriUnica(QPointer<QWidget>& aperta);
 
     std::unique_ptr<Programma> programma_;
     Sessione& sessione_;
     archives::Archivio& archivio_;
     std::array<QLabel*, 2> lblUltimaEstrazione_{};
     QPointer<QWidget> costruttore_;
+    QPointer<QWidget> amboEnucleato_;
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
     QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
     QPointer<QWidget> puntiIncogniti_, numeriSimpatici_, multiruota_, utility_;
