@@ -5,6 +5,7 @@
 
 #include "builder/automatica.h"
 
+#include <bit>
 #include <fmt/format.h>
 #include <tbb/enumerable_thread_specific.h>
 #include <tbb/parallel_for.h>
@@ -16,10 +17,6 @@
 #include "builder/corpo_ambate.h"
 #include "builder/parametri.h"
 #include "builder/ricerca_interna.h"
-
-#if defined(__x86_64__)
-#pragma GCC target("popcnt")
-#endif
 
 namespace gorgo::builder {
 
@@ -59,8 +56,10 @@ ParametriRicerca ParametriCorsa(const ParametriRicerca& p, const std::vector<int
 
 std::string TestoRuote(const std::vector<int>& ruote) {
     std::string s;
-    for (size_t i = 0; i < ruote.size(); ++i)
-        s += (i ? "-" : "") + std::string(archives::SigleRuota[static_cast<size_t>(ruote[i])]);
+    for (size_t i = 0; i < ruote.size(); ++i) {
+        if (i) s += '-';
+        s += archives::SigleRuota[static_cast<size_t>(ruote[i])];
+    }
     return s;
 }
 
@@ -246,7 +245,7 @@ void CorseAmbate(const ParametriRicerca& p, const ContestoRicerca& ctx, const st
         // The cases each algorithm hit on a play wheel: a bound for the union.
         std::vector<int32_t> conta(righe, 0);
         for (size_t i = 0; i < righe; ++i)
-            for (size_t w = 0; w < P; ++w) conta[i] += __builtin_popcountll(colpiti[i * P + w]);
+            for (size_t w = 0; w < P; ++w) conta[i] += std::popcount(colpiti[i * P + w]);
 
         const CodaChiave coda = CodaPer(r, spia, casi);
         const std::string testoSpia = TestoSpia(r, spia);
@@ -270,7 +269,7 @@ void CorseAmbate(const ParametriRicerca& p, const ContestoRicerca& ctx, const st
                     for (size_t w = 0; w < P; ++w) unione[w] |= altro[w];
                 }
                 int pa = 0;
-                for (size_t w = 0; w < P; ++w) pa += __builtin_popcountll(unione[w]);
+                for (size_t w = 0; w < P; ++w) pa += std::popcount(unione[w]);
                 if (migliore.prima(pa, qa, static_cast<int>(a))) migliore = {pa, qa, static_cast<int>(a)};
             }
             std::optional<RigaAutomatica> out;

@@ -3,6 +3,7 @@
 
 #include "builder/copertura.h"
 
+#include <bit>
 #include <fmt/format.h>
 #include <tbb/parallel_for.h>
 #include <algorithm>
@@ -12,10 +13,6 @@
 #include "builder/chiavi.h"
 #include "builder/parametri.h"
 #include "config/formato.h"
-
-#if defined(__x86_64__)
-#pragma GCC target("popcnt")
-#endif
 
 namespace gorgo::builder {
 
@@ -43,7 +40,10 @@ int Soglia(TipoCopertura tipo, const ParametriRicerca& p) {
 
 std::string TestoNumeri(const std::vector<int>& numeri) {
     std::string s;
-    for (size_t i = 0; i < numeri.size(); ++i) s += (i ? "-" : "") + fmt::format("{:>2}", numeri[i]);
+    for (size_t i = 0; i < numeri.size(); ++i) {
+        if (i) s += '-';
+        s += fmt::format("{:>2}", numeri[i]);
+    }
     return s;
 }
 
@@ -73,7 +73,7 @@ Coperture FaiCoperture(const MatriceCopertura& m, int algoritmi) {
         uint64_t* r = c.bit.data() + static_cast<size_t>(a) * c.parole;
         for (int k = 0; k < m.casi; ++k)
             if (m.colpo(k, a) > 0) r[k / 64] |= uint64_t{1} << (k % 64);
-        for (size_t w = 0; w < c.parole; ++w) c.conta[static_cast<size_t>(a)] += __builtin_popcountll(r[w]);
+        for (size_t w = 0; w < c.parole; ++w) c.conta[static_cast<size_t>(a)] += std::popcount(r[w]);
     }
     return c;
 }
@@ -84,7 +84,7 @@ int Unisci(const uint64_t* a, const uint64_t* b, uint64_t* out, size_t parole) {
     int k = 0;
     for (size_t i = 0; i < n; ++i) {
         out[i] = a[i] | b[i];
-        k += __builtin_popcountll(out[i]);
+        k += std::popcount(out[i]);
     }
     return k;
 }
@@ -92,7 +92,7 @@ template <size_t W>
 int ContaUnione(const uint64_t* a, const uint64_t* b, size_t parole) {
     const size_t n = W ? W : parole;
     int k = 0;
-    for (size_t i = 0; i < n; ++i) k += __builtin_popcountll(a[i] | b[i]);
+    for (size_t i = 0; i < n; ++i) k += std::popcount(a[i] | b[i]);
     return k;
 }
 
@@ -118,6 +118,7 @@ bool PrimaCoperturaPiena(const Coperture& c, int dimensione, std::vector<int>& g
         int idx[5] = {i1, 0, 0, 0, 0};
         // Depth-first walk in index order; level l holds the union of the first l + 1 members.
         auto cerca = [&](auto&& self, int livello, int da, int contati) -> bool {
+            if (livello > 4) return false;  // never reached: a group has at most five members
             const uint64_t* prima = acc.data() + static_cast<size_t>(livello - 1) * P;
             const int resto = dimensione - livello;  // members still to choose, this one included
             for (int j = da; j <= n - resto; ++j) {
@@ -171,7 +172,7 @@ void MiglioriCinque(const Coperture& c, GruppoCopertura& g, std::stop_token stop
         std::vector<uint64_t> tutte(P, 0);
         for (int a = 0; a < n; ++a)
             for (size_t w = 0; w < P; ++w) tutte[w] |= c.riga(a)[w];
-        for (uint64_t x : tutte) tetto += __builtin_popcountll(x);
+        for (uint64_t x : tutte) tetto += std::popcount(x);
     }
     // The most cases one column covers from index i on: bounds for the members still to come.
     std::vector<int> dopo(static_cast<size_t>(n) + 1, 0);
