@@ -9,6 +9,7 @@
 #include "archives/regole.h"
 #include "archives/superenalotto.h"
 #include "cli/contesto.h"
+#include "cli/opzioni_comuni.h"
 #include "cli/restrizioni_info.h"
 
 namespace gorgo::cli {
@@ -21,23 +22,6 @@ std::string TestoUltima(int numeroAnno, const std::string& data) {
 }
 
 std::string NumeroODash(int n) { return n == 0 ? "--" : fmt::format("{:02}", n); }
-
-// A date has separators; a leading minus is a (bad) index.
-bool SembraData(const std::string& s) { return s.find_first_of("/-.", 1) != std::string::npos; }
-
-int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view archivio) {
-    int32_t indice = 0;
-    const auto [p, ec] = std::from_chars(testo.data(), testo.data() + testo.size(), indice);
-    if (ec != std::errc{} || p != testo.data() + testo.size())
-        throw Rifiuta(
-            fmt::format("\"{}\" non è un indice valido: indicare un numero progressivo "
-                        "oppure una data GG/MM/AAAA.",
-                        testo));
-    if (indice < 1 || indice > massimo)
-        throw Rifiuta(fmt::format("L'indice {} è fuori dall'archivio {}: le estrazioni memorizzate vanno da 1 a {}.",
-                                  indice, archivio, massimo));
-    return indice;
-}
 
 int32_t IndiceDaData(const archives::RisultatoData& r) {
     if (r.ErroreData) throw Rifiuto{r.messaggio};

@@ -1,6 +1,7 @@
 // Convergences and lunghetta after a search, and the abbinamenti of a capogioco.
 
 #include "cli/comandi_convergenze.h"
+#include "cli/opzioni_comuni.h"
 
 #include <fmt/format.h>
 #include <filesystem>
@@ -97,8 +98,7 @@ struct ArgomentiAbbinamenti {
     std::string chiave, data, quanti = "12";
     bool sincronizza = false;
     int sposta = 0;
-    std::string report;
-    bool accoda = false, sovrascrivi = false;
+    OpzioniReport report;
 };
 
 void Abbinamenti(const Contesto& ctx, const ArgomentiAbbinamenti& a) {
@@ -114,9 +114,7 @@ void Abbinamenti(const Contesto& ctx, const ArgomentiAbbinamenti& a) {
     const std::string data = !a.data.empty() ? a.data : !p.dataA.empty() ? p.dataA : builder::DataAPredefinita(s);
     const archives::RisultatoData d = archives::ControllaData(data, s, true);
     if (d.ErroreData) throw Rifiuto{d.messaggio};
-    if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
-        throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
-                       "Conferma", archives::Icona::Domanda}};
+    a.report.Controlla();
 
     // The panel: the draw by its month test, then the moves asked, each followed by the recompute.
     builder::Capogioco c = builder::RicalcolaCapogioco(s, cc.indici, p.indiceMese, a.chiave, d.IndiceTrovato);
@@ -134,20 +132,14 @@ void Abbinamenti(const Contesto& ctx, const ArgomentiAbbinamenti& a) {
     const std::string descrizione = builder::DescrizioneDaChiave(a.chiave, p, nullptr);
     const std::string dataCapo = c.indice > 0 ? c.data : s.DataEstrazione(indice);
 
-    if (!a.report.empty()) {
+    if (!a.report.file.empty()) {
         if (e.righe.empty()) {
             std::cerr << config::NullaDaEsportare << "\n";
             return;
         }
-        const auto modo = a.accoda        ? config::ModoScrittura::Accoda
-                          : a.sovrascrivi ? config::ModoScrittura::Sovrascrivi
-                                          : config::ModoScrittura::Nuovo;
-        if (archives::Messaggio m = config::ScriviReportSuFile(
-                a.report, builder::ReportAbbinamenti(p, s, descrizione, dataCapo, c.numero, e), modo);
-            !m.vuoto())
-            throw Rifiuto{m, ErroreInterno};
+        a.report.ScriviSuFile(builder::ReportAbbinamenti(p, s, descrizione, dataCapo, c.numero, e));
         if (!ctx.json) {
-            std::cout << fmt::format("{} numeri abbinati scritti in {}\n", e.righe.size(), a.report);
+            std::cout << fmt::format("{} numeri abbinati scritti in {}\n", e.righe.size(), a.report.file);
             return;
         }
     }
@@ -189,10 +181,8 @@ void AggiungiComandiAbbinamenti(CLI::App& app, Contesto& ctx) {
     c->add_option("--sposta", a->sposta,
                   "Sposta l'estrazione di N estrazioni (negativo: indietro), come i pulsanti del pannello");
     AggiungiOpzioniRicerca(c, a->ricerca);
-    c->add_option("--report", a->report,
-                  "Scrive capogioco e abbinamenti in un file di testo (nome proposto ReportAbbinamentiNumerici.Txt)");
-    c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
-    c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
+    a->report.Aggiungi(
+        c, "Scrive capogioco e abbinamenti in un file di testo (nome proposto ReportAbbinamentiNumerici.Txt)");
     c->footer(
         "La spia e le sue posizioni si leggono dalla chiave; --spia somma|differenza|ambo serve per le chiavi "
         "di quelle spie. --indice-mese usa la regola del pannello: U, da 1 a 16, 17 (tutte le estrazioni); "

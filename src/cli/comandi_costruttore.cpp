@@ -10,6 +10,7 @@
 #include "cli/comandi_convergenze.h"
 #include "cli/contesto.h"
 #include "cli/costruttore_copertura.h"
+#include "cli/opzioni_comuni.h"
 #include "cli/parametri_ricerca.h"
 #include "config/impostazioni.h"
 
@@ -21,8 +22,7 @@ struct ArgomentiCostruttore {
     ArgomentiRicerca ricerca;
     bool seleziona = false;
     ArgomentiConvergenze convergenze;
-    std::string report;
-    bool accoda = false, sovrascrivi = false;
+    OpzioniReport report;
     ArgomentiCopertura copertura;
 };
 
@@ -30,36 +30,27 @@ void Costruttore(const Contesto& ctx, const ArgomentiCostruttore& a) {
     const archives::Archivio archivio = ctx.ApriArchivi();
     const config::FileIni ini(ctx.FileImpostazioni().string());
     const builder::ParametriRicerca p = ParametriDaArgomenti(a.ricerca, ini);
-    ControllaConvergenze(a.convergenze, a.report);
+    ControllaConvergenze(a.convergenze, a.report.file);
     const builder::ContestoCostruttore cc = PreparaContesto(archivio, ini, a.ricerca, p);
     // The file is settled before the search, so that a refusal costs nothing.
-    if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
-        throw Rifiuto{{config::DomandaInCalce(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
-                       "Conferma", archives::Icona::Domanda}};
-    const UscitaReport uscita{a.report, a.accoda, a.sovrascrivi};
-    if (!a.copertura.automatica.empty()) return EseguiAutomatica(ctx, a.copertura, p, cc, uscita);
+    a.report.Controlla();
+    if (!a.copertura.automatica.empty()) return EseguiAutomatica(ctx, a.copertura, p, cc, a.report);
     const builder::EsitoRicerca e = builder::CercaAlgoritmi(p, cc.Contesto(), {}, a.seleziona);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
-    if (!a.copertura.copertura.empty()) return EseguiCopertura(ctx, a.copertura, p, cc, e, uscita);
+    if (!a.copertura.copertura.empty()) return EseguiCopertura(ctx, a.copertura, p, cc, e, a.report);
     if (a.convergenze.richiesti()) {
         MostraConvergenze(ctx, p, cc, e, a.convergenze);
         return;
     }
 
-    if (!a.report.empty()) {
+    if (!a.report.file.empty()) {
         if (e.righe.empty()) {
             std::cerr << config::NullaDaEsportare << "\n";
             return;
         }
-        const auto modo = a.accoda        ? config::ModoScrittura::Accoda
-                          : a.sovrascrivi ? config::ModoScrittura::Sovrascrivi
-                                          : config::ModoScrittura::Nuovo;
-        if (archives::Messaggio m =
-                config::ScriviReportSuFile(a.report, builder::ReportAlgoritmi(p, e, *cc.storia), modo);
-            !m.vuoto())
-            throw Rifiuto{m, ErroreInterno};
+        a.report.ScriviSuFile(builder::ReportAlgoritmi(p, e, *cc.storia));
         if (!ctx.json) {
-            std::cout << fmt::format("{} algoritmi scritti in {}\n", e.righe.size(), a.report);
+            std::cout << fmt::format("{} algoritmi scritti in {}\n", e.righe.size(), a.report.file);
             return;
         }
     }
@@ -134,10 +125,7 @@ void AggiungiComandiCostruttore(CLI::App& app, Contesto& ctx) {
     AggiungiOpzioniRicerca(c, a->ricerca);
     c->add_flag("--seleziona", a->seleziona, "Righe già selezionate");
     AggiungiOpzioniConvergenze(c, a->convergenze);
-    c->add_option("--report", a->report,
-                  "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
-    c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
-    c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
+    a->report.Aggiungi(c, "Scrive l'elenco degli algoritmi in un file di testo (nome proposto ReportAlgoritmi.Txt)");
     AggiungiOpzioniCopertura(c, a->copertura);
     c->callback([&ctx, a] { Costruttore(ctx, *a); });
 

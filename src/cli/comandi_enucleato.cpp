@@ -8,6 +8,7 @@
 
 #include "archives/regole.h"
 #include "cli/contesto.h"
+#include "cli/opzioni_comuni.h"
 #include "cli/parametri_ricerca.h"
 #include "config/impostazioni.h"
 #include "enucleated/enucleato.h"
@@ -20,61 +21,6 @@ namespace gorgo::cli {
 namespace {
 
 using namespace gorgo::enucleated;
-
-struct Report {
-    std::string file;
-    bool accoda = false, sovrascrivi = false;
-
-    void Opzioni(CLI::App* c, const char* nome) {
-        c->add_option("--report", file, fmt::format("Scrive il report in un file di testo (nome proposto {})", nome));
-        c->add_flag("--accoda", accoda, "Se il file del report esiste, aggiunge in calce");
-        c->add_flag("--sovrascrivi", sovrascrivi, "Se il file del report esiste, lo sostituisce");
-    }
-    // Settled before the run, so that a refusal costs nothing.
-    void Controlla() const {
-        if (!file.empty() && std::filesystem::exists(file) && !accoda && !sovrascrivi)
-            throw Rifiuto{{config::DomandaInCalce(file).testo + " (rispondere con --accoda oppure --sovrascrivi)",
-                           "Conferma", archives::Icona::Domanda}};
-    }
-    // True when the report was asked for (written, or nothing to write).
-    bool Scrivi(const std::vector<std::string>& righe, bool json) const {
-        if (file.empty()) return false;
-        if (righe.empty()) {
-            std::cerr << config::NullaDaEsportare << "\n";
-            return true;
-        }
-        const auto modo = accoda        ? config::ModoScrittura::Accoda
-                          : sovrascrivi ? config::ModoScrittura::Sovrascrivi
-                                        : config::ModoScrittura::Nuovo;
-        if (archives::Messaggio m = config::ScriviReportSuFile(file, std::span<const std::string>(righe), modo);
-            !m.vuoto())
-            throw Rifiuto{m, ErroreInterno};
-        if (!json) std::cout << fmt::format("{} righe scritte in {}\n", righe.size(), file);
-        return true;
-    }
-};
-
-// BA..NZ (also RM), or "tutte" where allowed (0).
-int LeggiRuota(const std::string& testo, bool tutte) {
-    std::string t;
-    for (char c : testo) t += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    if (tutte && t == "TUTTE") return 0;
-    for (int w = 1; w <= archives::NumeroRuote; ++w)
-        if (t == archives::SigleRuota[static_cast<size_t>(w)] || (w == 8 && t == "RM")) return w;
-    throw Rifiuta(
-        fmt::format("--ruota: ruota \"{}\" sconosciuta. Indicare una sigla fra BA,CA,FI,GE,MI,NA,PA,RO,TO,"
-                    "VE,NZ{}.",
-                    testo, tutte ? " oppure tutte" : ""));
-}
-
-// The wheel of the one-wheel screens, from the setting "Ruota".
-int RuotaImpostata(const Contesto& ctx) {
-    const config::FileIni ini(ctx.FileImpostazioni().string());
-    const std::string l = config::LeggiImpostazione(ini, config::sezioni::Settings, "Ruota", "YNNNNNNNNNN");
-    for (size_t i = 0; i < l.size() && i < 11; ++i)
-        if (l[i] == 'Y') return static_cast<int>(i) + 1;
-    return 1;
-}
 
 // The pickers' defaults: InizioRicerca and FineRicerca.
 std::pair<std::string, std::string> PeriodoPredefinito(const Contesto& ctx, const archives::StoriaLotto& s) {
@@ -110,7 +56,7 @@ struct ArgomentiEnucleato {
     std::string data, da, a;
     std::vector<std::string> ruote;
     bool terni = false, matematici = false;
-    Report report;
+    OpzioniReport report;
 };
 
 void Enucleato(const Contesto& ctx, const ArgomentiEnucleato& x) {
@@ -191,7 +137,7 @@ void Enucleato(const Contesto& ctx, const ArgomentiEnucleato& x) {
 struct ArgomentiStatistica {
     std::string ruota, da, a, presenze, quante, somma, dettaglio;
     bool terni = false, matematici = false;
-    Report report;
+    OpzioniReport report;
 };
 
 void StatisticaSomme(const Contesto& ctx, const ArgomentiStatistica& x) {
@@ -303,7 +249,7 @@ void StatisticaSomme(const Contesto& ctx, const ArgomentiStatistica& x) {
 
 struct ArgomentiGruppo {
     std::string ruota, da, a;
-    Report report;
+    OpzioniReport report;
 };
 
 void AmbiMatematiciGruppo(const Contesto& ctx, const ArgomentiGruppo& x) {
@@ -353,7 +299,7 @@ void AggiungiComandiEnucleato(CLI::App& app, Contesto& ctx) {
                   "(predefinito: impostazione Ruota)");
     c->add_flag("--terni", e->terni, "Analisi terni invece di analisi ambi");
     c->add_flag("--matematici", e->matematici, "Evidenzia i numeri degli ambi matematici dell'estrazione");
-    e->report.Opzioni(c, "Ambo_Enucleato_GGMMAAAA.txt");
+    e->report.Aggiungi(c, "Scrive il report in un file di testo (nome proposto Ambo_Enucleato_GGMMAAAA.txt)");
     c->callback([&ctx, e] { Enucleato(ctx, *e); });
 
     auto st = std::make_shared<ArgomentiStatistica>();
@@ -372,7 +318,8 @@ void AggiungiComandiEnucleato(CLI::App& app, Contesto& ctx) {
     s->add_option("--somma", st->somma, "Le coppie (o terzine) con questa somma di ritardi a fine periodo")
         ->type_name("S");
     s->add_option("--dettaglio", st->dettaglio, "Dettaglio della somma di ritardi S (coppie)")->type_name("S");
-    st->report.Opzioni(s, "Ambo_Enucleato_StatGenerale_<ruota>.txt");
+    st->report.Aggiungi(s,
+                        "Scrive il report in un file di testo (nome proposto Ambo_Enucleato_StatGenerale_<ruota>.txt)");
     s->callback([&ctx, st] { StatisticaSomme(ctx, *st); });
 
     auto g = std::make_shared<ArgomentiGruppo>();
@@ -381,7 +328,8 @@ void AggiungiComandiEnucleato(CLI::App& app, Contesto& ctx) {
     m->add_option("--ruota", g->ruota, "BA,CA,...,NZ oppure tutte (predefinito: impostazione Ruota)");
     m->add_option("--da", g->da, "Inizio del periodo GG/MM/AAAA (predefinito: impostazione InizioRicerca)");
     m->add_option("--a", g->a, "Fine del periodo GG/MM/AAAA (predefinito: impostazione FineRicerca)");
-    g->report.Opzioni(m, "Ambo_Enucleato_StatAmbiMatematici_<ruota>.txt");
+    g->report.Aggiungi(
+        m, "Scrive il report in un file di testo (nome proposto Ambo_Enucleato_StatAmbiMatematici_<ruota>.txt)");
     m->callback([&ctx, g] { AmbiMatematiciGruppo(ctx, *g); });
 }
 

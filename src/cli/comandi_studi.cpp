@@ -10,6 +10,8 @@
 
 #include "archives/regole.h"
 #include "cli/contesto.h"
+#include "cli/opzioni_comuni.h"
+#include "cli/parametri_ricerca.h"
 #include "config/impostazioni.h"
 #include "config/ini.h"
 #include "config/report_testo.h"
@@ -24,91 +26,6 @@ namespace gorgo::cli {
 namespace {
 
 using namespace gorgo::studies;
-
-struct FileReport {
-    std::string file;
-    bool accoda = false, sovrascrivi = false;
-
-    void Aggiungi(CLI::App* c, const char* descrizione) {
-        c->add_option("--report", file, descrizione);
-        c->add_flag("--accoda", accoda, "Se il file del report esiste, aggiunge in calce");
-        c->add_flag("--sovrascrivi", sovrascrivi, "Se il file del report esiste, lo sostituisce");
-    }
-    // Refused before any work when the file exists and nothing says what to do with it.
-    void Controlla() const {
-        if (!file.empty() && std::filesystem::exists(file) && !accoda && !sovrascrivi)
-            throw Rifiuto{{config::DomandaInCalce(file).testo + " (rispondere con --accoda oppure --sovrascrivi)",
-                           "Conferma", archives::Icona::Domanda}};
-    }
-    // True when the report was written (or there was nothing to write, said on stderr).
-    bool Scrivi(const config::ReportTesto& r, bool vuoto) const {
-        if (file.empty()) return false;
-        if (vuoto) {
-            std::cerr << config::NullaDaEsportare << "\n";
-            return true;
-        }
-        const auto modo = accoda        ? config::ModoScrittura::Accoda
-                          : sovrascrivi ? config::ModoScrittura::Sovrascrivi
-                                        : config::ModoScrittura::Nuovo;
-        if (archives::Messaggio m = config::ScriviReportSuFile(file, r, modo); !m.vuoto())
-            throw Rifiuto{m, ErroreInterno};
-        return true;
-    }
-};
-
-bool SembraData(const std::string& s) { return s.find_first_of("/-.", 1) != std::string::npos; }
-
-int32_t Indice(const archives::StoriaLotto& s, const std::string& testo) {
-    if (SembraData(testo)) {
-        const archives::RisultatoData r = archives::ControllaData(testo, s, false);
-        if (r.ErroreData) throw Rifiuto{r.messaggio};
-        return r.IndiceTrovato;
-    }
-    int32_t indice = 0;
-    const auto [p, ec] = std::from_chars(testo.data(), testo.data() + testo.size(), indice);
-    if (ec != std::errc{} || p != testo.data() + testo.size())
-        throw Rifiuta(fmt::format(
-            "\"{}\" non è un indice valido: indicare un numero progressivo oppure una data GG/MM/AAAA.", testo));
-    if (indice < 1 || indice > s.NumeroEstrazioni())
-        throw Rifiuta(
-            fmt::format("L'indice {} è fuori dall'archivio del Lotto: le estrazioni memorizzate vanno da 1 a {}.",
-                        indice, s.NumeroEstrazioni()));
-    return indice;
-}
-
-// A wheel: its code (BA..NZ, also RM), its name or its number 1..11.
-int Ruota(const std::string& testo) {
-    std::string t;
-    for (char c : testo) t += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    for (int w = 1; w <= archives::NumeroRuote; ++w) {
-        std::string nome = NomeRuota(w);
-        for (char& c : nome) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-        if (t == archives::SigleRuota[static_cast<size_t>(w)] || t == nome || t == std::to_string(w) ||
-            (w == 8 && t == "RM"))
-            return w;
-    }
-    throw Rifiuta(
-        fmt::format("--ruota: ruota \"{}\" sconosciuta. Indicare una sigla BA,CA,FI,GE,MI,NA,PA,RO,TO,VE,NZ.", testo));
-}
-
-// The wheel of the one-wheel screens: the option, else the setting "Ruota".
-int RuotaOImpostazione(const std::string& testo, const Contesto& ctx) {
-    if (!testo.empty()) return Ruota(testo);
-    const config::FileIni ini(ctx.FileImpostazioni().string());
-    const auto caselle =
-        config::CaricaRuote(config::LeggiImpostazione(ini, config::sezioni::Settings, "Ruota", "YNNNNNNNNNN"));
-    for (int w = 1; w <= archives::NumeroRuote; ++w)
-        if (caselle[static_cast<size_t>(w)]) return w;
-    return 1;
-}
-
-// A box of digits only, at most `cifre` long; nothing else is a number.
-std::optional<int> Casella(const std::string& testo, size_t cifre) {
-    if (testo.empty() || testo.size() > cifre) return std::nullopt;
-    for (char c : testo)
-        if (c < '0' || c > '9') return std::nullopt;
-    return std::stoi(testo);
-}
 
 nlohmann::json RigheJson(const std::vector<Riga>& righe) {
     nlohmann::json a = nlohmann::json::array();
@@ -142,7 +59,7 @@ std::string Unite(const int16_t* v, int n) {
 struct ArgomentiPunti {
     std::string indice, ruota, da, a, sorte = "ambi", colpi = "10";
     bool storica = false, tutte = false, riepilogo = false;
-    FileReport report;
+    OpzioniReport report;
 };
 
 void PuntiIncogniti(const Contesto& ctx, const ArgomentiPunti& a) {
@@ -151,12 +68,12 @@ void PuntiIncogniti(const Contesto& ctx, const ArgomentiPunti& a) {
     const archives::StoriaLotto& s = *storia;
     ParametriVerifica p;
     p.Ruota = RuotaOImpostazione(a.ruota, ctx);
-    p.Al = Indice(s, a.a.empty() ? a.indice : a.a);
-    const int32_t mostrata = a.a.empty() ? p.Al : Indice(s, a.indice);
-    p.Dal = a.da.empty() ? std::min(PrimaEstrazioneVerifica, s.NumeroEstrazioni()) : Indice(s, a.da);
+    p.Al = IndiceLotto(s, a.a.empty() ? a.indice : a.a);
+    const int32_t mostrata = a.a.empty() ? p.Al : IndiceLotto(s, a.indice);
+    p.Dal = a.da.empty() ? std::min(PrimaEstrazioneVerifica, s.NumeroEstrazioni()) : IndiceLotto(s, a.da);
     static const std::map<std::string, int> sorti = {{"ambate", 1}, {"ambi", 2}, {"terni", 3}, {"somme", 4}};
     p.Sorte = sorti.at(a.sorte);
-    p.Colpi = Casella(a.colpi, 3).value_or(0);
+    p.Colpi = LeggiCasella(a.colpi, 3).value_or(0);
     p.SoloPrima = !a.tutte;
     a.report.Controlla();
 
@@ -172,7 +89,7 @@ void PuntiIncogniti(const Contesto& ctx, const ArgomentiPunti& a) {
         if (a.riepilogo) riepilogo = RiepilogoRuote(s, p, a.storica ? storica.tag : "");
     }
     if (a.report.Scrivi(a.storica ? ReportStorica(s, p, storica) : ReportColpi(s, mostrata, p.Ruota, colpi),
-                        a.storica ? storica.righe.empty() : colpi.righe.empty()) &&
+                        a.storica ? storica.righe.empty() : colpi.righe.empty(), ctx.json) &&
         !ctx.json)
         return;
 
@@ -244,7 +161,7 @@ void PuntiIncogniti(const Contesto& ctx, const ArgomentiPunti& a) {
 struct ArgomentiQuaterna {
     std::string ambo, ruote = "tutte", da, a;
     bool generale = false;
-    FileReport report;
+    OpzioniReport report;
 };
 
 std::array<bool, 12> RuoteScelte(const std::string& testo) {
@@ -260,7 +177,7 @@ std::array<bool, 12> RuoteScelte(const std::string& testo) {
         } else if (sigla == "TUTTE+NZ") {
             for (int w = 1; w <= 11; ++w) r[static_cast<size_t>(w)] = true;
         } else {
-            r[static_cast<size_t>(Ruota(sigla))] = true;
+            r[static_cast<size_t>(LeggiRuota(sigla))] = true;
         }
         inizio = fine + 1;
     }
@@ -275,23 +192,23 @@ void Quaterna(const Contesto& ctx, const ArgomentiQuaterna& a) {
     ParametriSimultanea p;
     if (!a.generale) {
         const size_t t = a.ambo.find('-');
-        const auto x = Casella(a.ambo.substr(0, t), 2);
-        const auto y = t == std::string::npos ? std::nullopt : Casella(a.ambo.substr(t + 1), 2);
+        const auto x = LeggiCasella(a.ambo.substr(0, t), 2);
+        const auto y = t == std::string::npos ? std::nullopt : LeggiCasella(a.ambo.substr(t + 1), 2);
         if (x && y && *x >= 1 && *x <= 90 && *y >= 1 && *y <= 90 && *x != *y)
             p.Coppia = {std::min(*x, *y), std::max(*x, *y)};
         else if (!a.ambo.empty())
             throw Rifiuta("--ambo: indicare due numeri diversi da 1 a 90, come 12-34.");
     }
     p.RuoteScelte = RuoteScelte(a.ruote);
-    p.Dal = a.da.empty() ? 1 : Indice(s, a.da);
-    p.Al = a.a.empty() ? s.NumeroEstrazioni() : Indice(s, a.a);
+    p.Dal = a.da.empty() ? 1 : IndiceLotto(s, a.da);
+    p.Al = a.a.empty() ? s.NumeroEstrazioni() : IndiceLotto(s, a.a);
     p.restrizioni = config::LeggiRestrizioni(ini);
     a.report.Controlla();
     const std::string restrizioni = config::TestoRestrizioni(ini, false, true);
     if (a.generale) {
         const EsitoGenerale e = StatisticaGenerale(s, p);
         if (!e.errore.vuoto()) throw Rifiuto{e.errore};
-        if (a.report.Scrivi(ReportGenerale(s, p, e), e.righe.empty()) && !ctx.json) return;
+        if (a.report.Scrivi(ReportGenerale(s, p, e), e.righe.empty(), ctx.json) && !ctx.json) return;
         if (ctx.json) {
             StampaJson(
                 {{"righe", RigheJson(e.righe)}, {"ambi_analizzati", e.AmbiAnalizzati}, {"descrizione", e.analizzati}});
@@ -305,7 +222,7 @@ void Quaterna(const Contesto& ctx, const ArgomentiQuaterna& a) {
     }
     const EsitoSimultanea e = RicercaSimultanea(s, p);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
-    if (a.report.Scrivi(ReportSimultanea(s, p, e, true, true), false) && !ctx.json) return;
+    if (a.report.Scrivi(ReportSimultanea(s, p, e, true, true), false, ctx.json) && !ctx.json) return;
     if (ctx.json) {
         StampaJson({{"righe", RigheJson(e.righe)},
                     {"ambo", RigheJson(e.righeCoppia)},
@@ -328,7 +245,7 @@ struct ArgomentiMultiruota {
     std::string indice, ruota, tipo = "ambate", volte = "18", estrazioni = "10", nonSfaldati;
     bool perCicli = false;
     int dettaglio = 0;
-    FileReport report;
+    OpzioniReport report;
 };
 
 void Multiruota(const Contesto& ctx, const ArgomentiMultiruota& a) {
@@ -336,15 +253,15 @@ void Multiruota(const Contesto& ctx, const ArgomentiMultiruota& a) {
     const auto storia = archivio.Storia();
     const archives::StoriaLotto& s = *storia;
     ParametriMultiruota p;
-    p.Base = Indice(s, a.indice);
+    p.Base = IndiceLotto(s, a.indice);
     p.RuotaRicerca = RuotaOImpostazione(a.ruota, ctx);
     static const std::map<std::string, TipoMultiruota> tipi = {{"ambate", TipoMultiruota::Ambate},
                                                                {"ambi", TipoMultiruota::Ambi},
                                                                {"ambi-terzina", TipoMultiruota::AmbiInTerzina},
                                                                {"terni", TipoMultiruota::Terni}};
     p.TipoRicerca = tipi.at(a.tipo);
-    p.Volte = Casella(a.volte, 4).value_or(0);
-    const auto estrazioni = Casella(a.estrazioni, 4);
+    p.Volte = LeggiCasella(a.volte, 4).value_or(0);
+    const auto estrazioni = LeggiCasella(a.estrazioni, 4);
     if (!estrazioni)
         throw Rifiuta(
             "--estrazioni: indicare un numero di estrazioni successive (0 = fino alla prima estrazione utile).");
@@ -364,7 +281,7 @@ void Multiruota(const Contesto& ctx, const ArgomentiMultiruota& a) {
                 throw Rifiuta(fmt::format("--dettaglio: le formazioni sono {}.", formazioni.size()));
             d = DettaglioFormazione(s, p, static_cast<size_t>(a.dettaglio - 1));
         } else {
-            d = NonSfaldati(s, p, Indice(s, a.nonSfaldati));
+            d = NonSfaldati(s, p, IndiceLotto(s, a.nonSfaldati));
         }
         if (!d.errore.vuoto()) throw Rifiuto{d.errore};
         if (ctx.json) {
@@ -377,7 +294,7 @@ void Multiruota(const Contesto& ctx, const ArgomentiMultiruota& a) {
     }
     const EsitoMultiruota e = RicercaMultiruota(s, p);
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
-    if (a.report.Scrivi(ReportMultiruota(p, e, false), e.righe.empty()) && !ctx.json) return;
+    if (a.report.Scrivi(ReportMultiruota(p, e, false), e.righe.empty(), ctx.json) && !ctx.json) return;
     if (ctx.json) {
         StampaJson({{"righe", RigheJson(e.righe)}, {"descrizione", e.ruotaMigliore}});
         return;
@@ -394,14 +311,14 @@ void Multiruota(const Contesto& ctx, const ArgomentiMultiruota& a) {
 struct ArgomentiSomma {
     std::string indice, costante, ruota, cinquina;
     bool tutte = false, senzaConvergenze = false;
-    FileReport report, reportCinquine;
+    OpzioniReport report, reportCinquine;
 };
 
 void SommaCinquine(const Contesto& ctx, const ArgomentiSomma& a) {
     const archives::Archivio archivio = ctx.ApriArchivi();
     const auto storia = archivio.Storia();
     const archives::StoriaLotto& s = *storia;
-    const int32_t indice = Indice(s, a.indice);
+    const int32_t indice = IndiceLotto(s, a.indice);
     a.report.Controlla();
     a.reportCinquine.Controlla();
     EsitoCinquine c;
@@ -413,12 +330,13 @@ void SommaCinquine(const Contesto& ctx, const ArgomentiSomma& a) {
             size_t inizio = 0;
             for (size_t k = 0; k < 5; ++k) {
                 const size_t fine = std::min(a.cinquina.find_first_of(",.- ", inizio), a.cinquina.size());
-                n[k] =
-                    inizio <= a.cinquina.size() ? Casella(a.cinquina.substr(inizio, fine - inizio), 2).value_or(0) : 0;
+                n[k] = inizio <= a.cinquina.size()
+                           ? LeggiCasella(a.cinquina.substr(inizio, fine - inizio), 2).value_or(0)
+                           : 0;
                 inizio = fine + 1;
             }
         } else {
-            ruota = Ruota(a.ruota);
+            ruota = LeggiRuota(a.ruota);
             n = Cinquina(s[indice], ruota);
         }
         c = CinquineSpostate(n);
@@ -426,7 +344,7 @@ void SommaCinquine(const Contesto& ctx, const ArgomentiSomma& a) {
     } else {
         int somma = 0;
         if (!a.tutte && !a.costante.empty()) {
-            const auto v = Casella(a.costante, 2);
+            const auto v = LeggiCasella(a.costante, 2);
             if (!v) throw Rifiuto{{std::string(MessaggioSommaErrata), "Errore", archives::Icona::Esclamazione}};
             somma = *v;
         }
@@ -437,8 +355,10 @@ void SommaCinquine(const Contesto& ctx, const ArgomentiSomma& a) {
     const std::vector<std::string> conv =
         a.senzaConvergenze || c.righe.empty() ? std::vector<std::string>{} : Convergenze(c.righe);
     const std::string data = s.DataEstrazione(indice);
-    const bool scritto = a.reportCinquine.Scrivi(ReportUtility("Cinquine ", data, coda, c.righe), c.righe.empty());
-    if ((a.report.Scrivi(ReportUtility("Convergenze su cinquine ", data, coda, conv), conv.empty()) || scritto) &&
+    const bool scritto =
+        a.reportCinquine.Scrivi(ReportUtility("Cinquine ", data, coda, c.righe), c.righe.empty(), ctx.json);
+    if ((a.report.Scrivi(ReportUtility("Convergenze su cinquine ", data, coda, conv), conv.empty(), ctx.json) ||
+         scritto) &&
         !ctx.json)
         return;
     if (ctx.json) {

@@ -38,17 +38,6 @@ bool CoperturaDelTipo(builder::TipoCopertura c, builder::TipoRicerca t) {
     return false;
 }
 
-config::ModoScrittura Modo(const UscitaReport& r) {
-    return r.accoda        ? config::ModoScrittura::Accoda
-           : r.sovrascrivi ? config::ModoScrittura::Sovrascrivi
-                           : config::ModoScrittura::Nuovo;
-}
-
-void Scrivi(const UscitaReport& u, const config::ReportTesto& r) {
-    if (archives::Messaggio m = config::ScriviReportSuFile(u.file, r, Modo(u)); !m.vuoto())
-        throw Rifiuto{m, ErroreInterno};
-}
-
 }  // namespace
 
 void AggiungiOpzioniCopertura(CLI::App* c, ArgomentiCopertura& a) {
@@ -62,7 +51,7 @@ void AggiungiOpzioniCopertura(CLI::App* c, ArgomentiCopertura& a) {
 }
 
 void EseguiCopertura(const Contesto& ctx, const ArgomentiCopertura& a, const builder::ParametriRicerca& p,
-                     const builder::ContestoCostruttore& cc, builder::EsitoRicerca e, const UscitaReport& u) {
+                     const builder::ContestoCostruttore& cc, builder::EsitoRicerca e, const OpzioniReport& u) {
     const builder::TipoCopertura tipo = TipoDaTesto(a.copertura);
     if (!CoperturaDelTipo(tipo, p.tipoRicerca))
         throw Rifiuta(fmt::format("--copertura {} non vale per il tipo di ricerca {}.", a.copertura,
@@ -81,7 +70,7 @@ void EseguiCopertura(const Contesto& ctx, const ArgomentiCopertura& a, const bui
     const builder::EsitoCopertura c = builder::CalcolaCopertura(p, cc.Contesto(), e.casi, e.righe, tipo);
     if (!c.errore.vuoto()) throw Rifiuto{c.errore};
     if (!u.file.empty()) {
-        Scrivi(u, builder::ReportCopertura(p, c, *cc.storia));
+        u.ScriviSuFile(builder::ReportCopertura(p, c, *cc.storia));
         if (!ctx.json) {
             std::cout << fmt::format("{} righe di copertura scritte in {}\n", c.righe.size(), u.file);
             return;
@@ -141,7 +130,7 @@ void EseguiCopertura(const Contesto& ctx, const ArgomentiCopertura& a, const bui
 }
 
 void EseguiAutomatica(const Contesto& ctx, const ArgomentiCopertura& a, const builder::ParametriRicerca& p,
-                      const builder::ContestoCostruttore& cc, const UscitaReport& u) {
+                      const builder::ContestoCostruttore& cc, const OpzioniReport& u) {
     int r = 0, g = 0;
     char due = 0, resto = 0;
     if (std::sscanf(a.automatica.c_str(), "%d%c%d%c", &r, &due, &g, &resto) != 3 || due != ':' || r < 1 || r > 2 ||
@@ -154,7 +143,7 @@ void EseguiAutomatica(const Contesto& ctx, const ArgomentiCopertura& a, const bu
             std::cerr << config::NullaDaEsportare << "\n";
             return;
         }
-        Scrivi(u, builder::ReportAutomatica(p, e, *cc.storia));
+        u.ScriviSuFile(builder::ReportAutomatica(p, e, *cc.storia));
         if (!ctx.json) {
             std::cout << fmt::format("{} algoritmi scritti in {}\n", e.righe.size(), u.file);
             return;

@@ -9,6 +9,7 @@
 #include "builder/contesto.h"
 #include "builder/ricerca.h"
 #include "cli/contesto.h"
+#include "cli/opzioni_comuni.h"
 
 namespace gorgo::cli {
 
@@ -21,16 +22,11 @@ struct ArgomentiCopertura {
 
 void AggiungiOpzioniCopertura(CLI::App* comando, ArgomentiCopertura& a);
 
-struct UscitaReport {
-    std::string file;
-    bool accoda = false, sovrascrivi = false;
-};
-
 // The coverage after a search `e` (rows checked by --righe, --chiave or --seleziona).
 void EseguiCopertura(const Contesto& ctx, const ArgomentiCopertura& a, const builder::ParametriRicerca& p,
-                     const builder::ContestoCostruttore& cc, builder::EsitoRicerca e, const UscitaReport& report);
+                     const builder::ContestoCostruttore& cc, builder::EsitoRicerca e, const OpzioniReport& report);
 // The automatic search, in place of the search.
 void EseguiAutomatica(const Contesto& ctx, const ArgomentiCopertura& a, const builder::ParametriRicerca& p,
-                      const builder::ContestoCostruttore& cc, const UscitaReport& report);
+                      const builder::ContestoCostruttore& cc, const OpzioniReport& report);
 
 }  // namespace gorgo::cli
