@@ -41,3 +41,7 @@ misura S4-ambo "${BASE[@]}" --tipo terzine-ambo
 misura S4-terno "${BASE[@]}" --tipo terzine-terno
 misura S5 "${BASE[@]}" --tipo codici --sorte 2 --operazioni +-x --terzine "$TERZINE"
 misura S6 "${BASE[@]/30\/12\/2015/30/12/2020}" --spia ambo --tutti-gli-ambi
+
+echo "== Consultazione C1: gorgo-cli consulta come processo intero (tempo, memoria di picco)"
+misura C1 --cartella "$DATI" consulta 30/12/2025 --vista ritardi
+misura C2-ultima --cartella "$DATI" consulta 30/12/2025 --vista frequenze --periodo anno

@@ -75,6 +75,22 @@ int32_t Consultazione::BaseRiga(int riga) const {
 
 int Consultazione::RuotaRiga(int riga) const { return RuotaCorrente == 0 ? riga + 1 : RuotaCorrente; }
 
+namespace {
+
+// The tool tips of the all-wheels view, made once: a held arrow key refreshes many times a second.
+const std::array<std::string, NumeroCelle>& Suggerimenti() {
+    static const auto t = [] {
+        std::array<std::string, NumeroCelle> a;
+        for (int w = 1; w <= archives::NumeroRuote; ++w)
+            for (int p = 1; p <= 5; ++p)
+                a[static_cast<size_t>((w - 1) * 5 + p - 1)] = fmt::format("{}' estratto ruota di {}", p, NomeRuota(w));
+        return a;
+    }();
+    return t;
+}
+
+}  // namespace
+
 void Consultazione::RiempiGriglia() {
     Griglia& g = griglia_;
     g.celle = {};
@@ -99,7 +115,7 @@ void Consultazione::RiempiGriglia() {
             riempiRiga(w - 1, r, w);
             for (int p = 1; p <= 5; ++p)
                 g.celle[static_cast<size_t>((w - 1) * 5 + p - 1)].suggerimento =
-                    fmt::format("{}' estratto ruota di {}", p, NomeRuota(w));
+                    Suggerimenti()[static_cast<size_t>((w - 1) * 5 + p - 1)];
         }
     } else {
         // The rows never run before draw 1: below draw 10 the current draw is not the last row.
