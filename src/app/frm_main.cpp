@@ -27,6 +27,9 @@
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
+#include "screens/consultation/frm_10_estrazioni_10elotto.h"
+#include "screens/consultation/frm_10_estrazioni_superenalotto.h"
+#include "screens/consultation/frm_consulta_estrazioni.h"
 #include "screens/maintenance/frm_aggiorna_internet.h"
 #include "screens/maintenance/frm_aggiornamenti.h"
 #include "screens/maintenance/frm_esportazione.h"
@@ -111,7 +114,7 @@ void FrmMain::CreaMenu() {
     QMenu* lotto = mb->addMenu(QStringLiteral("&Estrazioni Lotto"));
     voce(lotto, "mnuEstrazioniInserisci", QStringLiteral("Inserisci/modifica"),
          [this] { ApriEstrazioni(FinestraEstrazioni::Inserisci); });
-    voce(lotto, "mnuEstrazioniConsulta", QStringLiteral("Consulta"), nullptr);
+    voce(lotto, "mnuEstrazioniConsulta", QStringLiteral("Consulta"), [this] { ApriConsulta(); });
     voce(lotto, "mnuEstrazioniAggiorna", QStringLiteral("Aggiorna da file..."),
          [this] { ApriDialogoArchivio(new FrmAggiornamenti(sessione_, archivio_, this)); });
     voce(lotto, "mnuEstrazioniAggiornaInt", QStringLiteral("Aggiorna archivi Lotto da Internet..."),
@@ -126,14 +129,14 @@ void FrmMain::CreaMenu() {
          [this] { ApriEstrazioni(FinestraEstrazioni::Stampa); });
 
     QMenu* dieci = mb->addMenu(QStringLiteral("Estrazioni 10eLotto"));
-    voce(dieci, "mnuEstrazioniConsulta10elotto", QStringLiteral("Consulta"), nullptr);
+    voce(dieci, "mnuEstrazioniConsulta10elotto", QStringLiteral("Consulta"), [this] { ApriConsultaAltroGioco(false); });
     voce(dieci, "mnuEstrazioniStampa10elotto", QStringLiteral("Stampa..."),
          [this] { ApriEstrazioni(FinestraEstrazioni::Stampa10eLotto); });
 
     QMenu* super = mb->addMenu(QStringLiteral("Estrazioni Superenalotto"));
     voce(super, "mnuEstrazioniInserisciSuper", QStringLiteral("Inserisci/modifica"),
          [this] { ApriEstrazioni(FinestraEstrazioni::InserisciSuper); });
-    voce(super, "mnuEstrazioniConsultaSuper", QStringLiteral("Consulta"), nullptr);
+    voce(super, "mnuEstrazioniConsultaSuper", QStringLiteral("Consulta"), [this] { ApriConsultaAltroGioco(true); });
     voce(super, "mnuEstrazioniAggiornaSuper", QStringLiteral("Aggiorna da file..."),
          [this] { ApriDialogoArchivio(new FrmAggiornamentiSuper(sessione_, archivio_, this)); });
     voce(super, "mnuEstrazioniAggiornaIntSuper", QStringLiteral("Aggiorna archivi SuperEnalotto da Internet..."),
@@ -360,6 +363,25 @@ void FrmMain::ApriCostruttore() {
     }
     auto* f = new FrmCostruttore(sessione_, archivio_, this);
     costruttore_ = f;
+    f->show();
+}
+
+void FrmMain::ApriConsulta() {
+    // Every click opens one more desk: a player may keep two draws side by side.
+    (new FrmConsultaEstrazioni(sessione_, archivio_, this))->show();
+}
+
+void FrmMain::ApriConsultaAltroGioco(bool super) {
+    QPointer<QWidget>& aperta = super ? consultaSuper_ : consulta10eLotto_;
+    if (aperta) {
+        aperta->showNormal();
+        aperta->raise();
+        aperta->activateWindow();
+        return;
+    }
+    QWidget* f = super ? static_cast<QWidget*>(new Frm10EstrazioniSuperEnaLotto(sessione_, archivio_, this))
+                       : new Frm10Estrazioni10eLotto(sessione_, archivio_, this);
+    aperta = f;
     f->show();
 }
 

@@ -54,6 +54,8 @@ private:
     void ApriCostruttore();
     void ApriAggiornaInternet(bool super);
     void ApriScaricaStorico();
+    void ApriConsulta();
+    void ApriConsultaAltroGioco(bool super);
 
     std::unique_ptr<Programma> programma_;
     Sessione& sessione_;
@@ -62,6 +64,7 @@ private:
     QPointer<QWidget> costruttore_;
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
     QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
+    QPointer<QWidget> consulta10eLotto_, consultaSuper_;
     QLabel* lblNessuna_ = nullptr;
     std::array<QLabel*, 4> lblRestrizioni_{};
 };
