@@ -158,6 +158,9 @@ TEST_F(Consultazione, MosseVisteFamiglieEAnalisi) {
     const auto griglia = StampaSuPdf("griglia.pdf");
     QTest::mouseClick(Trova<QPushButton>(f, "cmdStampa"), Qt::LeftButton);
     EXPECT_GT(std::filesystem::file_size(griglia), 500u);
+    if (const QByteArray d = qgetenv("GORGO_CATTURE"); !d.isEmpty())
+        std::filesystem::copy_file(griglia, std::filesystem::path(d.toStdString()) / "griglia.pdf",
+                                   std::filesystem::copy_options::overwrite_existing);
     EXPECT_EQ(desk->RigheStampa().front().testo, "Bari Estrazioni");
 
     // The compact layout and back.
