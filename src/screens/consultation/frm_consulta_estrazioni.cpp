@@ -811,7 +811,8 @@ std::vector<config::RigaTesto> FrmConsultaEstrazioni::RigheStampa() const {
                            : consultation::NomeRuota(cursore_->RuotaCorrente) + " Estrazioni",
                      true});
     righe.push_back({lblVisualizzazione_->text().toStdString() +
-                     (cursore_->Analisi.famiglia != 0 && cursore_->TipoVisualizzazione == Vista::Normale
+                     (cursore_->Analisi.famiglia != 0 && cursore_->TipoVisualizzazione == Vista::Normale &&
+                              (tutte || !consultation::SoloTutteLeRuote(cursore_->Analisi.famiglia))
                           ? " - " + lblDescrFamiglia_->text().toStdString()
                           : std::string())});
     righe.push_back({});
