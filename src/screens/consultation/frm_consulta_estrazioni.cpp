@@ -647,6 +647,12 @@ void FrmConsultaEstrazioni::keyPressEvent(QKeyEvent* e) {
     }
 }
 
+void FrmConsultaEstrazioni::showEvent(QShowEvent* e) {
+    QWidget::showEvent(e);
+    // The arrows scroll the archive from the start, not the date of the picker.
+    setFocus(Qt::OtherFocusReason);
+}
+
 void FrmConsultaEstrazioni::ScegliRuota(int ruota) {
     const bool daTutte = cursore_->RuotaCorrente == 0;
     cursore_->RuotaCorrente = ruota;
