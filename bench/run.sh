@@ -70,3 +70,7 @@ ULTIMA=$("$BUILD/gorgo-cli" --cartella "$DATI" --json estrazione "$("$BUILD/gorg
 misura E1 --cartella "$DATI" statistica-somme --ruota BA --da 01/01/1946 --a "$ULTIMA"
 misura E2 --cartella "$DATI" statistica-somme --ruota BA --da 01/01/1946 --a "$ULTIMA" --terni
 misura E3 --cartella "$DATI" ambi-matematici --ruota tutte --da 07/01/1871 --a "$ULTIMA"
+
+echo "== Consultazione C1: gorgo-cli consulta come processo intero (tempo, memoria di picco)"
+misura C1 --cartella "$DATI" consulta 30/12/2025 --vista ritardi
+misura C2-ultima --cartella "$DATI" consulta 30/12/2025 --vista frequenze --periodo anno

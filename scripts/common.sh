@@ -4,7 +4,7 @@
 GORGO_ROOT="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 GORGO_PACKAGES=(build-essential cmake pkg-config libfmt-dev libcli11-dev nlohmann-json3-dev
                 libtbb-dev libzip-dev libgtest-dev libbenchmark-dev
-                qt6-base-dev libgl-dev xvfb xauth poppler-utils fonts-dejavu-core)
+                qt6-base-dev qt6-charts-dev libgl-dev xvfb xauth poppler-utils fonts-dejavu-core)
 
 gorgo_install_deps() {
     local missing=()

@@ -27,6 +27,9 @@
 #include "screens/config/frm_esclusioni.h"
 #include "screens/config/frm_opzioni.h"
 #include "screens/config/frm_url.h"
+#include "screens/consultation/frm_10_estrazioni_10elotto.h"
+#include "screens/consultation/frm_10_estrazioni_superenalotto.h"
+#include "screens/consultation/frm_consulta_estrazioni.h"
 #include "screens/enucleated/frm_ambo_enucleato.h"
 #include "screens/maintenance/frm_aggiorna_internet.h"
 #include "screens/maintenance/frm_aggiornamenti.h"
@@ -116,7 +119,7 @@ void FrmMain::CreaMenu() {
     QMenu* lotto = mb->addMenu(QStringLiteral("&Estrazioni Lotto"));
     voce(lotto, "mnuEstrazioniInserisci", QStringLiteral("Inserisci/modifica"),
          [this] { ApriEstrazioni(FinestraEstrazioni::Inserisci); });
-    voce(lotto, "mnuEstrazioniConsulta", QStringLiteral("Consulta"), nullptr);
+    voce(lotto, "mnuEstrazioniConsulta", QStringLiteral("Consulta"), [this] { ApriConsulta(); });
     voce(lotto, "mnuEstrazioniAggiorna", QStringLiteral("Aggiorna da file..."),
          [this] { ApriDialogoArchivio(new FrmAggiornamenti(sessione_, archivio_, this)); });
     voce(lotto, "mnuEstrazioniAggiornaInt", QStringLiteral("Aggiorna archivi Lotto da Internet..."),
@@ -131,14 +134,14 @@ void FrmMain::CreaMenu() {
          [this] { ApriEstrazioni(FinestraEstrazioni::Stampa); });
 
     QMenu* dieci = mb->addMenu(QStringLiteral("Estrazioni 10eLotto"));
-    voce(dieci, "mnuEstrazioniConsulta10elotto", QStringLiteral("Consulta"), nullptr);
+    voce(dieci, "mnuEstrazioniConsulta10elotto", QStringLiteral("Consulta"), [this] { ApriConsultaAltroGioco(false); });
     voce(dieci, "mnuEstrazioniStampa10elotto", QStringLiteral("Stampa..."),
          [this] { ApriEstrazioni(FinestraEstrazioni::Stampa10eLotto); });
 
     QMenu* super = mb->addMenu(QStringLiteral("Estrazioni Superenalotto"));
     voce(super, "mnuEstrazioniInserisciSuper", QStringLiteral("Inserisci/modifica"),
          [this] { ApriEstrazioni(FinestraEstrazioni::InserisciSuper); });
-    voce(super, "mnuEstrazioniConsultaSuper", QStringLiteral("Consulta"), nullptr);
+    voce(super, "mnuEstrazioniConsultaSuper", QStringLiteral("Consulta"), [this] { ApriConsultaAltroGioco(true); });
     voce(super, "mnuEstrazioniAggiornaSuper", QStringLiteral("Aggiorna da file..."),
          [this] { ApriDialogoArchivio(new FrmAggiornamentiSuper(sessione_, archivio_, this)); });
     voce(super, "mnuEstrazioniAggiornaIntSuper", QStringLiteral("Aggiorna archivi SuperEnalotto da Internet..."),
@@ -378,6 +381,18 @@ void FrmMain::ApriNumeriSimpatici() { ApriUnica<FrmNumeriSimpatici>(numeriSimpat
 void FrmMain::ApriAmbateAmbiTerniMulti() { ApriUnica<FrmAmbateAmbiTerniMulti>(multiruota_); }
 void FrmMain::ApriUtility() { ApriUnica<FrmUtility>(utility_); }
 void FrmMain::ApriAmboEnucleato() { ApriUnica<FrmAmboEnucleato>(amboEnucleato_); }
+
+void FrmMain::ApriConsulta() {
+    // Every click opens one more desk: a player may keep two draws side by side.
+    (new FrmConsultaEstrazioni(sessione_, archivio_, this))->show();
+}
+
+void FrmMain::ApriConsultaAltroGioco(bool super) {
+    if (super)
+        ApriUnica<Frm10EstrazioniSuperEnaLotto>(consultaSuper_);
+    else
+        ApriUnica<Frm10Estrazioni10eLotto>(consulta10eLotto_);
+}
 
 void FrmMain::ApriAggiornaInternet(bool super) {
     QPointer<QWidget>& aperta = super ? aggiornaSuperInternet_ : aggiornaInternet_;

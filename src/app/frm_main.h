@@ -62,6 +62,8 @@ private:
     // Opens the window of its kind once; a window already open comes forward.
     template <typename Finestra>
     void ApriUnica(QPointer<QWidget>& aperta);
+    void ApriConsulta();
+    void ApriConsultaAltroGioco(bool super);
 
     std::unique_ptr<Programma> programma_;
     Sessione& sessione_;
@@ -72,6 +74,7 @@ private:
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
     QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
     QPointer<QWidget> puntiIncogniti_, numeriSimpatici_, multiruota_, utility_;
+    QPointer<QWidget> consulta10eLotto_, consultaSuper_;
     QLabel* lblNessuna_ = nullptr;
     std::array<QLabel*, 4> lblRestrizioni_{};
 };
