@@ -41,3 +41,10 @@ misura S4-ambo "${BASE[@]}" --tipo terzine-ambo
 misura S4-terno "${BASE[@]}" --tipo terzine-terno
 misura S5 "${BASE[@]}" --tipo codici --sorte 2 --operazioni +-x --terzine "$TERZINE"
 misura S6 "${BASE[@]/30\/12\/2015/30/12/2020}" --spia ambo --tutti-gli-ambi
+
+echo "== Precursori P1-P3: gorgo-cli come processo intero (tempo, memoria di picco)"
+PREC=(--cartella "$DATI" precursori --ruota BA --da 30/12/2010)
+misura P1-ambate "${PREC[@]}"
+misura P1-ambi "${PREC[@]}" --sorte ambi
+misura P2 "${PREC[@]}" --terzine-integrali --minimo-numeri 2 --presenze-minime 2
+misura P3 --cartella "$DATI" precursori --gioco superenalotto --da 04/01/1947

@@ -115,8 +115,15 @@ RigaPrecursori RigaLista(std::string voce, std::string primaColonna, int presenz
 // The list keeps its sort key descending; rows of equal text keep the order they came in.
 void OrdinaLista(std::vector<RigaPrecursori>& lista, bool perPercentuale) {
     const size_t col = perPercentuale ? 3 : 1;
-    std::stable_sort(lista.begin(), lista.end(),
-                     [col](const RigaPrecursori& a, const RigaPrecursori& b) { return a.testo[col] > b.testo[col]; });
+    // Sorted by position, then moved once: the rows are heavy and the lists long.
+    std::vector<uint32_t> ordine(lista.size());
+    std::iota(ordine.begin(), ordine.end(), 0u);
+    std::stable_sort(ordine.begin(), ordine.end(),
+                     [&](uint32_t a, uint32_t b) { return lista[a].testo[col] > lista[b].testo[col]; });
+    std::vector<RigaPrecursori> ordinata;
+    ordinata.reserve(lista.size());
+    for (uint32_t i : ordine) ordinata.push_back(std::move(lista[i]));
+    lista = std::move(ordinata);
 }
 
 // The verification span and its description; the numbers read there (0 stands for a blank place).
@@ -373,8 +380,11 @@ EsitoPrecursori AnalisiFormazioni(const ParametriPrecursori& p, const FonteEstra
     // Collection: the precursors of every draw of the period once, then the formations in blocks
     // on all cores; a draw makes present only the formations that hold one of its numbers.
     const Precursori pr = RaccogliPrecursori(f, e.inizio, p.Fine, p.Precedenti);
+    // Each block keeps its own counters and leaves only the ranking of its formations.
     std::vector<int32_t> presenze(F);
-    std::vector<int32_t> conta(F * N91);  // [f][p]
+    std::vector<std::array<int, MassimoPrecursori>> migliori(F);
+    std::vector<uint8_t> inLista(F);
+    std::vector<int> somme(F);
     constexpr size_t Blocco = 4096;
     const size_t blocchi = (F + Blocco - 1) / Blocco;
     std::atomic<size_t> fatti{0};
@@ -387,6 +397,7 @@ EsitoPrecursori AnalisiFormazioni(const ParametriPrecursori& p, const FonteEstra
             for (int n : fz[x])
                 if (n >= 1 && n <= 90) indice[static_cast<size_t>(n)].push_back(static_cast<uint16_t>(x - da));
         std::vector<uint8_t> cnt(a - da);
+        std::vector<int32_t> conta((a - da) * N91);  // [f][p]
         std::vector<uint16_t> toccate;
         for (size_t h = 0; h < pr.colpi.size(); ++h) {
             for (uint8_t x : f.numeri(pr.colpi[h]))
@@ -394,14 +405,20 @@ EsitoPrecursori AnalisiFormazioni(const ParametriPrecursori& p, const FonteEstra
                     if (cnt[l]++ == 0) toccate.push_back(l);
             for (uint16_t l : toccate) {
                 if (cnt[l] >= p.MinimoNumeri) {
-                    const size_t g = da + l;
-                    ++presenze[g];
-                    int32_t* c = conta.data() + g * N91;
+                    ++presenze[da + l];
+                    int32_t* c = conta.data() + l * N91;
                     for (uint32_t k = pr.inizio[h]; k < pr.inizio[h + 1]; ++k) ++c[pr.numeri[k]];
                 }
                 cnt[l] = 0;
             }
             toccate.clear();
+        }
+        // The list: every formation with enough presenze, ranked as the ambate.
+        for (size_t x = da; x < a; ++x) {
+            if (presenze[x] < p.PresenzeMinime) continue;
+            inLista[x] = 1;
+            const int32_t* c = conta.data() + (x - da) * N91;
+            migliori[x] = Migliori([c](int q) { return c[q]; }, K, somme[x]);
         }
         const size_t ora = fatti += a - da;
         std::lock_guard<std::mutex> blocca(mutexProgresso);
@@ -410,18 +427,13 @@ EsitoPrecursori AnalisiFormazioni(const ParametriPrecursori& p, const FonteEstra
     if (Interrotta(av)) return e.interrotta = true, e;
     e.descrizioneStatistica = Descrizione(f, e.inizio, p);
 
-    // The list: every formation with enough presenze, ranked as the ambate.
-    std::vector<std::array<int, MassimoPrecursori>> migliori(F);
-    std::vector<uint8_t> inLista(F);
-    std::vector<int> somme(F);
+    std::vector<uint32_t> riga(F);
+    uint32_t righe = 0;
+    for (size_t x = 0; x < F; ++x)
+        if (inLista[x]) riga[x] = righe++;
+    e.lista.resize(righe);
     tbb::parallel_for(size_t{0}, F, [&](size_t x) {
-        if (presenze[x] < p.PresenzeMinime) return;
-        inLista[x] = 1;
-        const int32_t* c = conta.data() + x * N91;
-        migliori[x] = Migliori([c](int q) { return c[q]; }, K, somme[x]);
-    });
-    for (size_t x = 0; x < F; ++x) {
-        if (!inLista[x]) continue;
+        if (!inLista[x]) return;
         std::string testo, voce;
         for (int n : fz[x]) {
             testo += fmt::format("{:>2}.", n);
@@ -429,9 +441,9 @@ EsitoPrecursori AnalisiFormazioni(const ParametriPrecursori& p, const FonteEstra
         }
         testo.pop_back();
         voce.pop_back();
-        e.lista.push_back(RigaLista(std::move(voce), std::move(testo), presenze[x], migliori[x], K, somme[x],
-                                    static_cast<int32_t>(x)));
-    }
+        e.lista[riga[x]] = RigaLista(std::move(voce), std::move(testo), presenze[x], migliori[x], K, somme[x],
+                                     static_cast<int32_t>(x));
+    });
     if (Interrotta(av)) return e.interrotta = true, e;
     OrdinaLista(e.lista, p.PerPercentuale);
     if (e.lista.empty()) {
