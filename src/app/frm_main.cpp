@@ -17,6 +17,7 @@
 #include "maintenance/importazione.h"
 #include "network/connessione.h"
 #include "screens/builder/frm_costruttore.h"
+#include "screens/precursors/frm_scelta_precursori.h"
 #include "screens/common/browser.h"
 #include "screens/common/elaborazioni.h"
 #include "screens/common/messaggi.h"
@@ -232,10 +233,10 @@ void FrmMain::CreaPannello() {
         void (FrmMain::*apri)();
     };
     const Voce voci[] = {{"cmdGorgo", "The Gorgo 2", &FrmMain::ApriCostruttore},
-                         {"cmdPrecursori", "La scia inversa dei precursori", nullptr},
+                         {"cmdPrecursori", "La scia inversa dei precursori", &FrmMain::ApriSceltaPrecursori},
                          {"cmdAmboEnucleato", "L'ambo enucleato", nullptr},
-                         {"cmdNuovaProcedura", "Precursori 10elotto", nullptr},
-                         {"Command1", "Precursori Superenalotto", nullptr},
+                         {"cmdNuovaProcedura", "Precursori 10elotto", &FrmMain::ApriPrecursori10eLotto},
+                         {"Command1", "Precursori Superenalotto", &FrmMain::ApriPrecursoriSuper},
                          {"cmdProcedura", "Procedura", nullptr}};
     int i = 0;
     for (const Voce& vc : voci) {
@@ -362,6 +363,24 @@ void FrmMain::ApriCostruttore() {
     costruttore_ = f;
     f->show();
 }
+
+FrmSceltaPrecursori* FrmMain::SceltaPrecursori() {
+    if (!sceltaPrecursori_) sceltaPrecursori_ = new FrmSceltaPrecursori(sessione_, archivio_, this);
+    return static_cast<FrmSceltaPrecursori*>(sceltaPrecursori_.data());
+}
+
+void FrmMain::ApriSceltaPrecursori() {
+    FrmSceltaPrecursori* f = SceltaPrecursori();
+    f->showNormal();
+    f->raise();
+    f->activateWindow();
+}
+
+// The panel's own entries for the other games open their window through the chooser (shown
+// or not), so that a window is never open twice.
+void FrmMain::ApriPrecursori10eLotto() { SceltaPrecursori()->ApriClassici(1); }
+
+void FrmMain::ApriPrecursoriSuper() { SceltaPrecursori()->ApriClassici(2); }
 
 void FrmMain::ApriAggiornaInternet(bool super) {
     QPointer<QWidget>& aperta = super ? aggiornaSuperInternet_ : aggiornaInternet_;

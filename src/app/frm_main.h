@@ -13,6 +13,7 @@
 #include "app/programma.h"
 
 namespace gorgo::screens {
+class FrmSceltaPrecursori;
 
 class FrmMain : public QMainWindow {
     Q_OBJECT
@@ -52,6 +53,10 @@ private:
     void ApriSitoWeb();
     void ApriInformazioni();
     void ApriCostruttore();
+    FrmSceltaPrecursori* SceltaPrecursori();
+    void ApriSceltaPrecursori();
+    void ApriPrecursori10eLotto();
+    void ApriPrecursoriSuper();
     void ApriAggiornaInternet(bool super);
     void ApriScaricaStorico();
 
@@ -60,6 +65,7 @@ private:
     archives::Archivio& archivio_;
     std::array<QLabel*, 2> lblUltimaEstrazione_{};
     QPointer<QWidget> costruttore_;
+    QPointer<QWidget> sceltaPrecursori_;
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
     QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
     QLabel* lblNessuna_ = nullptr;

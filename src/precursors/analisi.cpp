@@ -563,4 +563,43 @@ std::vector<std::string> ReportPrecursori(const EsitoPrecursori& e, const FonteE
     return r;
 }
 
+std::vector<config::RigaTesto> StampaPrecursori(const EsitoPrecursori& e, const FonteEstrazioni& f) {
+    std::vector<config::RigaTesto> r;
+    auto centrata = [&](const std::string& t) { r.push_back({config::Centrato(t), true}); };
+    centrata(std::string(TitoloPrecursori));
+    centrata(SecondaRigaReport(f));
+    centrata(e.descrizioneVerifica);
+    r.push_back({});
+    // Columns from 1: the heads and the rows of the forecast list, then the list of precursors.
+    auto posa = [](int larghezza, const auto& colonne, const auto& testi) {
+        config::RigaReport riga(larghezza);
+        for (size_t c = 0; c < testi.size(); ++c) riga.metti(colonne[c], testi[c]);
+        std::string t = riga.testo();
+        t.erase(t.find_last_not_of(' ') + 1);
+        return t;
+    };
+    const std::array<int, 6> teste = e.formazioni ? std::array<int, 6>{2, 35, 68, 76, 84, 93}
+                                                  : std::array<int, 6>{2, 11, 47, 57, 67, 76};
+    const std::array<int, 6> righe = e.formazioni ? std::array<int, 6>{2, 35, 68, 76, 84, 92}
+                                                  : std::array<int, 6>{2, 9, 47, 57, 67, 75};
+    const int larghezza = e.formazioni ? 96 : 80;
+    r.push_back({posa(larghezza, teste, e.titoliPresenti), true});
+    for (const RigaPresenti& x : e.presenti) r.push_back({posa(larghezza, righe, x.testo)});
+    r.push_back({});
+    centrata(e.descrizioneStatistica);
+    r.push_back({});
+    const std::array<int, 4> col = e.formazioni ? std::array<int, 4>{5, 43, 52, 90} : std::array<int, 4>{5, 15, 24, 72};
+    const std::string testa = posa(100, col, e.titoli);
+    r.push_back({testa, true});
+    int contatore = 9 + static_cast<int>(e.presenti.size()) + 6;
+    for (const RigaPrecursori& x : e.lista) {
+        if (++contatore >= 70) {
+            r.push_back({testa, true, true});
+            contatore = 3;
+        }
+        r.push_back({posa(100, col, x.testo)});
+    }
+    return r;
+}
+
 }  // namespace gorgo::precursors

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "archives/messaggio.h"
+#include "config/report_testo.h"
 #include "precursors/fonte.h"
 
 namespace gorgo::precursors {
@@ -112,5 +113,8 @@ std::string SecondaRigaReport(const FonteEstrazioni& fonte);
 std::string NomeFileReport(const FonteEstrazioni& fonte);
 // The file form of the report (cmdPrintToFile).
 std::vector<std::string> ReportPrecursori(const EsitoPrecursori& e, const FonteEstrazioni& fonte);
+// The printed form (cmdStampa): the forecast list first, then the list of precursors, with
+// its own page breaks.
+std::vector<config::RigaTesto> StampaPrecursori(const EsitoPrecursori& e, const FonteEstrazioni& fonte);
 
 }  // namespace gorgo::precursors
