@@ -179,48 +179,140 @@ std::string Descrizione(const FonteEstrazioni& f, int32_t inizio, const Parametr
            std::to_string(p.Precedenti) + " colpi precedenti";
 }
 
-}  // namespace
+// The classic analysis and its personalisation: precursors are numbers or pairs (by their code
+// in TabellaAmbi), read only at the chosen positions of the draws of the walk.
+struct Scelta {
+    std::vector<bool> posizioni;  // per place of the draw
+    bool ambi = false;
+    bool adiacenti = false;
+};
 
-std::string AvvisoNazionale() {
-    return "Data inizio non valida per la ruota Nazionale\nVerrà adeguata la data al 4/5/2005";
+int NumeroElementi(const Scelta& s) { return s.ambi ? NumeroAmbi : 90; }
+
+// The distinct precursors met walking back Precedenti draws from each hit, in order of meeting.
+struct PrecursoriElementi {
+    std::vector<int32_t> colpi;
+    std::vector<uint32_t> inizio;
+    std::vector<uint16_t> elementi;
+};
+
+PrecursoriElementi RaccogliElementi(const FonteEstrazioni& f, int32_t da, int32_t a, int precedenti, const Scelta& s) {
+    PrecursoriElementi r;
+    const int q = f.quanti();
+    std::vector<bool> visti(static_cast<size_t>(NumeroElementi(s)) + 1);
+    for (int32_t i = std::max(da, 1); i <= a; ++i) {
+        if (f.vuota(i)) continue;
+        r.colpi.push_back(i);
+        r.inizio.push_back(static_cast<uint32_t>(r.elementi.size()));
+        std::fill(visti.begin(), visti.end(), false);
+        auto metti = [&](int x) {
+            if (x <= 0 || visti[static_cast<size_t>(x)]) return;
+            visti[static_cast<size_t>(x)] = true;
+            r.elementi.push_back(static_cast<uint16_t>(x));
+        };
+        for (int32_t j = i - 1, passi = 0; passi < precedenti && j >= 1; --j, ++passi) {
+            if (f.vuota(j)) continue;
+            const auto n = f.numeri(j);
+            for (int u = 0; u < q; ++u) {
+                if (!s.posizioni[static_cast<size_t>(u)]) continue;
+                if (!s.ambi) {
+                    // A number 0 has no place among the precursors.
+                    metti(n[static_cast<size_t>(u)]);
+                    continue;
+                }
+                for (int v = u + 1; v < q; ++v)
+                    if (s.posizioni[static_cast<size_t>(v)] && (!s.adiacenti || v == u + 1))
+                        metti(CodiceAmbo(n[static_cast<size_t>(u)], n[static_cast<size_t>(v)]));
+            }
+        }
+    }
+    r.inizio.push_back(static_cast<uint32_t>(r.elementi.size()));
+    return r;
 }
 
-EsitoPrecursori AnalisiPrecursori(const ParametriPrecursori& p, const FonteEstrazioni& f, const Avanzamento& av) {
-    EsitoPrecursori e;
-    const bool ambi = p.sorte == Sorte::Ambi;
-    const std::string voce = ambi ? "Ambo" : "Ambata";
-    e.titoli = {ambi ? "  Ambo" : "Ambata", "Presenze", "Precursori rilevati", " %"};
-    e.titoliPresenti = {voce, "Precursori presenti", "Rit.sto", "Rit.att", "Pres.", "%"};
-    if (!ValidaComuni(p, f, e)) return e;
-    const int K = p.NumPrecursori;
+// The first K elements by count descending, the higher element first at equal count.
+template <typename Conta>
+std::array<int, MassimoPrecursori> MiglioriElementi(Conta conta, int elementi, int k, int& somma) {
+    std::vector<uint64_t> chiavi(static_cast<size_t>(elementi));
+    for (int x = 1; x <= elementi; ++x)
+        chiavi[static_cast<size_t>(x - 1)] = (static_cast<uint64_t>(conta(x)) << 16) | static_cast<uint64_t>(x);
+    std::partial_sort(chiavi.begin(), chiavi.begin() + k, chiavi.end(), std::greater<>());
+    std::array<int, MassimoPrecursori> m{};
+    somma = 0;
+    for (int t = 0; t < k; ++t) {
+        m[static_cast<size_t>(t)] = static_cast<int>(chiavi[static_cast<size_t>(t)] & 0xFFFF);
+        somma += static_cast<int>(chiavi[static_cast<size_t>(t)] >> 16);
+    }
+    return m;
+}
 
-    // Collection: one pass over the period, every hit counted for all numbers and pairs at once.
-    const Precursori pr = RaccogliPrecursori(f, e.inizio, p.Fine, p.Precedenti);
-    if (Interrotta(av)) return e.interrotta = true, e;
-    std::vector<int32_t> presAmbata(N91), presAmbo(ambi ? N91 * N91 : 0);
-    std::vector<int32_t> contaAmbata(N91 * N91);                 // [p][n]
-    std::vector<int32_t> contaAmbo(ambi ? N91 * N91 * N91 : 0);  // [p][a][b]
+std::string TestoElementi(const std::array<int, MassimoPrecursori>& m, int k, bool ambi) {
+    if (ambi) {
+        std::string t;
+        for (int s = 0; s < k; ++s) t += (s ? ", " : "") + TestoAmbo(m[static_cast<size_t>(s)]);
+        return t;
+    }
+    return TestoPrecursori(m, k);
+}
+
+EsitoPrecursori Analisi(const ParametriPrecursori& p, const FonteEstrazioni& f, const Scelta& sc, const Avanzamento& av,
+                        EsitoPrecursori e) {
+    const bool ambi = p.sorte == Sorte::Ambi;
+    const int K = p.NumPrecursori, M = NumeroElementi(sc);
+    const size_t M1 = static_cast<size_t>(M) + 1;
     const int q = f.quanti();
-    for (size_t h = 0; h < pr.colpi.size(); ++h) {
-        const auto estratti = f.numeri(pr.colpi[h]);
-        for (uint8_t x : estratti) ++presAmbata[x];
-        if (ambi)
-            for (int a = 0; a < q; ++a)
-                for (int b = a + 1; b < q; ++b) {
-                    ++presAmbo[estratti[a] * N91 + estratti[b]];
-                    ++presAmbo[estratti[b] * N91 + estratti[a]];
-                }
-        for (uint32_t k = pr.inizio[h]; k < pr.inizio[h + 1]; ++k) {
-            const size_t pp = pr.numeri[k];
-            for (uint8_t x : estratti) ++contaAmbata[pp * N91 + x];
-            if (ambi) {
-                int32_t* base = contaAmbo.data() + pp * N91 * N91;
-                for (int a = 0; a < q; ++a)
-                    for (int b = a + 1; b < q; ++b) {
-                        ++base[estratti[a] * N91 + estratti[b]];
-                        ++base[estratti[b] * N91 + estratti[a]];
-                    }
+
+    // Collection: one pass over the period; the pairs sought are counted only once known.
+    const PrecursoriElementi pr = RaccogliElementi(f, e.inizio, p.Fine, p.Precedenti, sc);
+    if (Interrotta(av)) return e.interrotta = true, e;
+    std::vector<int32_t> presAmbata(N91), presAmbo(N91 * N91);
+    for (int32_t i : pr.colpi) {
+        const auto x = f.numeri(i);
+        for (uint8_t n : x) ++presAmbata[n];
+        for (int a = 0; a < q; ++a)
+            for (int b = a + 1; b < q; ++b) {
+                ++presAmbo[x[static_cast<size_t>(a)] * N91 + x[static_cast<size_t>(b)]];
+                ++presAmbo[x[static_cast<size_t>(b)] * N91 + x[static_cast<size_t>(a)]];
             }
+    }
+    // Rows: for ambate the numbers, for ambi the pairs a < b; each with its counters.
+    std::vector<int32_t> candidato(ambi ? N91 * N91 : N91, -1);
+    std::vector<int32_t> chiavi;
+    if (!ambi) {
+        for (int n = 1; n <= 90; ++n)
+            if (p.Considerato[static_cast<size_t>(n)] && presAmbata[static_cast<size_t>(n)] >= MinimoPresenzeAmbata) {
+                candidato[static_cast<size_t>(n)] = static_cast<int32_t>(chiavi.size());
+                chiavi.push_back(n);
+            }
+    } else {
+        for (int a = 1; a <= 89; ++a)
+            for (int b = a + 1; b <= 90; ++b)
+                if (p.Considerato[static_cast<size_t>(a)] && p.Considerato[static_cast<size_t>(b)] &&
+                    presAmbo[static_cast<size_t>(a) * N91 + static_cast<size_t>(b)] >= MinimoPresenzeAmbo) {
+                    candidato[static_cast<size_t>(a) * N91 + static_cast<size_t>(b)] =
+                        candidato[static_cast<size_t>(b) * N91 + static_cast<size_t>(a)] =
+                            static_cast<int32_t>(chiavi.size());
+                    chiavi.push_back(a * 100 + b);
+                }
+    }
+    std::vector<int32_t> conta(chiavi.size() * M1);  // [row][element]
+    std::vector<int32_t> righe;
+    for (size_t h = 0; h < pr.colpi.size(); ++h) {
+        const auto x = f.numeri(pr.colpi[h]);
+        righe.clear();
+        if (!ambi) {
+            for (uint8_t n : x)
+                if (candidato[n] >= 0) righe.push_back(candidato[n]);
+        } else {
+            for (int a = 0; a < q; ++a)
+                for (int b = a + 1; b < q; ++b)
+                    if (const int32_t c = candidato[x[static_cast<size_t>(a)] * N91 + x[static_cast<size_t>(b)]];
+                        c >= 0)
+                        righe.push_back(c);
+        }
+        for (int32_t r : righe) {
+            int32_t* c = conta.data() + static_cast<size_t>(r) * M1;
+            for (uint32_t k = pr.inizio[h]; k < pr.inizio[h + 1]; ++k) ++c[pr.elementi[k]];
         }
         if (h % 100 == 0) {
             Progresso(av, pr.colpi[h] - e.inizio, p.Fine - e.inizio);
@@ -229,38 +321,32 @@ EsitoPrecursori AnalisiPrecursori(const ParametriPrecursori& p, const FonteEstra
     }
     e.descrizioneStatistica = Descrizione(f, e.inizio, p);
 
-    // The list, its sort and the 20 candidates.
-    std::vector<std::array<int, MassimoPrecursori>> migliori(ambi ? N91 * N91 : N91);
-    if (!ambi) {
-        for (int n = 1; n <= 90; ++n) {
-            if (!p.Considerato[static_cast<size_t>(n)] || presAmbata[static_cast<size_t>(n)] < MinimoPresenzeAmbata)
-                continue;
-            int somma = 0;
-            auto& m = migliori[static_cast<size_t>(n)];
-            m = Migliori([&](int x) { return contaAmbata[static_cast<size_t>(x) * N91 + static_cast<size_t>(n)]; }, K,
-                         somma);
-            e.lista.push_back(
-                RigaLista(std::to_string(n), Destra(n, 5), presAmbata[static_cast<size_t>(n)], m, K, somma, n));
-        }
-    } else {
-        for (int a = 1; a <= 89; ++a)
-            for (int b = a + 1; b <= 90; ++b) {
-                const size_t ab = static_cast<size_t>(a) * N91 + static_cast<size_t>(b);
-                if (!p.Considerato[static_cast<size_t>(a)] || !p.Considerato[static_cast<size_t>(b)] ||
-                    presAmbo[ab] < MinimoPresenzeAmbo)
-                    continue;
-                int somma = 0;
-                auto& m = migliori[ab];
-                m = Migliori([&](int x) { return contaAmbo[static_cast<size_t>(x) * N91 * N91 + ab]; }, K, somma);
-                const std::string testo = fmt::format("{:>4} - {:>2}", a, b);
-                e.lista.push_back(
-                    RigaLista(fmt::format("{} - {}", a, b), testo, presAmbo[ab], m, K, somma, a * 100 + b));
-            }
+    std::vector<std::array<int, MassimoPrecursori>> migliori(chiavi.size());
+    for (size_t r = 0; r < chiavi.size(); ++r) {
+        int somma = 0;
+        const int32_t* c = conta.data() + r * M1;
+        migliori[r] = MiglioriElementi([c](int x) { return c[x]; }, M, K, somma);
+        const int32_t k = chiavi[r];
+        RigaPrecursori riga;
+        if (!ambi)
+            riga = RigaLista(std::to_string(k), Destra(k, 5), presAmbata[static_cast<size_t>(k)], migliori[r], K, somma,
+                             k);
+        else
+            riga = RigaLista(fmt::format("{} - {}", k / 100, k % 100), fmt::format("{:>4} - {:>2}", k / 100, k % 100),
+                             presAmbo[static_cast<size_t>(k / 100) * N91 + static_cast<size_t>(k % 100)], migliori[r],
+                             K, somma, k);
+        if (sc.ambi) riga.testo[2] = TestoElementi(migliori[r], K, true);
+        e.lista.push_back(std::move(riga));
     }
     OrdinaLista(e.lista, p.PerPercentuale);
 
     const std::array<bool, N91> pv = Verifica(p, f, e, "Verifica presenze precursori dal ");
     const int32_t N = f.NumeroEstrazioni();
+    auto presente = [&](int x) {
+        if (!sc.ambi) return pv[static_cast<size_t>(x)];
+        const auto [a, b] = NumeriAmbo(x);
+        return pv[static_cast<size_t>(a)] && pv[static_cast<size_t>(b)];
+    };
 
     // The forecast: the candidates some of whose precursors were drawn in the span.
     struct Presente {
@@ -274,15 +360,19 @@ EsitoPrecursori AnalisiPrecursori(const ParametriPrecursori& p, const FonteEstra
     const size_t scelti = std::min<size_t>(e.lista.size(), Candidati);
     for (size_t r = 0; r < scelti; ++r) {
         const int32_t c = e.lista[r].chiave;
-        const size_t idx =
-            ambi ? static_cast<size_t>(c / 100) * N91 + static_cast<size_t>(c % 100) : static_cast<size_t>(c);
+        const size_t riga =
+            static_cast<size_t>(candidato[ambi ? static_cast<size_t>(c / 100) * N91 + static_cast<size_t>(c % 100)
+                                               : static_cast<size_t>(c)]);
         Presente s{0, c, {}, 0, 0};
         for (int k = 0; k < K; ++k) {
-            const int x = migliori[idx][static_cast<size_t>(k)];
-            if (!pv[static_cast<size_t>(x)]) continue;
+            const int x = migliori[riga][static_cast<size_t>(k)];
+            if (!presente(x)) continue;
             if (++s.conta == 1) s.primo = x;
-            s.somma += ambi ? 0 : contaAmbata[static_cast<size_t>(x) * N91 + idx];
-            s.testo += ambi ? fmt::format("{:>2}-", x) : fmt::format("{:>2} - ", x);
+            s.somma += conta[riga * M1 + static_cast<size_t>(x)];
+            if (sc.ambi)
+                s.testo += TestoAmbo(x) + ", ";
+            else
+                s.testo += ambi ? fmt::format("{:>2}-", x) : fmt::format("{:>2} - ", x);
         }
         if (s.conta > 0) presenti.push_back(std::move(s));
     }
@@ -294,8 +384,16 @@ EsitoPrecursori AnalisiPrecursori(const ParametriPrecursori& p, const FonteEstra
     for (Presente& s : presenti) {
         RigaPresenti r;
         r.chiave = s.chiave;
-        s.testo.resize(s.testo.size() - (ambi ? 1 : 3));
+        s.testo.resize(s.testo.size() - (sc.ambi ? 2 : ambi ? 1 : 3));
         r.testo[1] = fmt::format("{:>3} ({})", s.conta, s.testo);
+        // The figure of a pair with number precursors reads only its first present precursor.
+        const bool soloIlPrimo = ambi && !sc.ambi;
+        const size_t riga = static_cast<size_t>(
+            candidato[ambi ? static_cast<size_t>(s.chiave / 100) * N91 + static_cast<size_t>(s.chiave % 100)
+                           : static_cast<size_t>(s.chiave)]);
+        const double figura = soloIlPrimo ? static_cast<double>(conta[riga * M1 + static_cast<size_t>(s.primo)])
+                                          : static_cast<double>(s.somma);
+        const int diviso = soloIlPrimo ? 1 : s.conta;
         if (!ambi) {
             const int n = s.chiave;
             r.voce = std::to_string(n);
@@ -304,27 +402,83 @@ EsitoPrecursori AnalisiPrecursori(const ParametriPrecursori& p, const FonteEstra
                 f, e.inizio, [n](std::span<const uint8_t> x) { return std::find(x.begin(), x.end(), n) != x.end(); });
             const int pres = presAmbata[static_cast<size_t>(n)];
             if (ColonneRitardo(r, rit, e.inizio, N, p.Successivi, pres))
-                r.testo[5] =
-                    config::AllineaDestra(config::Formato(static_cast<double>(s.somma) / pres / s.conta, "#0.0%"), 6);
+                r.testo[5] = config::AllineaDestra(config::Formato(figura / pres / diviso, "#0.0%"), 6);
         } else {
             const int a = s.chiave / 100, b = s.chiave % 100;
-            const size_t ab = static_cast<size_t>(a) * N91 + static_cast<size_t>(b);
+            const int pres = presAmbo[static_cast<size_t>(a) * N91 + static_cast<size_t>(b)];
             r.voce = fmt::format("{} - {}", a, b);
             r.testo[0] = fmt::format("{:>4} - {:>2}", a, b);
             const Ritardi rit = CalcolaRitardi(f, e.inizio, [a, b](std::span<const uint8_t> x) {
                 return std::find(x.begin(), x.end(), a) != x.end() && std::find(x.begin(), x.end(), b) != x.end();
             });
-            // The figure of a pair reads only its first present precursor.
-            if (ColonneRitardo(r, rit, e.inizio, N, p.Successivi, presAmbo[ab]))
-                r.testo[5] = config::AllineaDestra(
-                    config::Formato(static_cast<double>(contaAmbo[static_cast<size_t>(s.primo) * N91 * N91 + ab]) /
-                                        presAmbo[ab] / 1,
-                                    "#0.0%"),
-                    6);
+            if (ColonneRitardo(r, rit, e.inizio, N, p.Successivi, pres))
+                r.testo[5] = config::AllineaDestra(config::Formato(figura / pres / diviso, "#0.0%"), 6);
         }
         e.presenti.push_back(std::move(r));
     }
     return e;
+}
+
+}  // namespace
+
+int CodiceAmbo(int a, int b) {
+    if (a > b) std::swap(a, b);
+    if (a < 1 || b > 90 || a == b) return 0;
+    // Pairs in ascending order of a, then b: those of 1..a-1 come first.
+    return (a - 1) * 90 - (a - 1) * a / 2 + (b - a);
+}
+
+std::pair<int, int> NumeriAmbo(int codice) {
+    int a = 1;
+    while (a < 90 && CodiceAmbo(a, 90) < codice) ++a;
+    return {a, a + codice - CodiceAmbo(a, a + 1) + 1};
+}
+
+std::string TestoAmbo(int codice) {
+    const auto [a, b] = NumeriAmbo(codice);
+    return fmt::format("{:02d}-{:02d}", a, b);
+}
+
+std::string AvvisoNazionale() {
+    return "Data inizio non valida per la ruota Nazionale\nVerrà adeguata la data al 4/5/2005";
+}
+
+EsitoPrecursori AnalisiPrecursori(const ParametriPrecursori& p, const FonteEstrazioni& f, const Avanzamento& av) {
+    EsitoPrecursori e;
+    const bool ambi = p.sorte == Sorte::Ambi;
+    e.titoli = {ambi ? "  Ambo" : "Ambata", "Presenze", "Precursori rilevati", " %"};
+    e.titoliPresenti = {ambi ? "Ambo" : "Ambata", "Precursori presenti", "Rit.sto", "Rit.att", "Pres.", "%"};
+    if (!ValidaComuni(p, f, e)) return e;
+    return Analisi(p, f, {std::vector<bool>(static_cast<size_t>(f.quanti()), true), false, false}, av, std::move(e));
+}
+
+EsitoPrecursori AnalisiSaruni(const ParametriSaruni& ps, const FonteEstrazioni& f, const Avanzamento& av) {
+    const ParametriPrecursori& p = ps.base;
+    EsitoPrecursori e;
+    const bool ambi = p.sorte == Sorte::Ambi;
+    e.titoli = {ambi ? "  Ambo" : "Ambata", "Presenze", "Precursori rilevati", " %"};
+    e.titoliPresenti = {ambi ? "Ambo" : "Ambata", "Precursori presenti", "Rit.sto", "Rit.att", "Pres.", "%"};
+    if (!ValidaComuni(p, f, e)) return e;
+    Scelta sc;
+    sc.ambi = ps.Tipo == TipoPrecursori::Ambi;
+    sc.adiacenti = sc.ambi && ps.AmbiAdiacenti;
+    std::string testo;
+    for (int u = 1; u <= 5; ++u) {
+        const bool si = !ps.PosizioneDeterminata || ps.Posizioni[static_cast<size_t>(u)];
+        sc.posizioni.push_back(si);
+        testo += si ? 'X' : ' ';
+    }
+    const int servono = sc.ambi ? 2 : 1;
+    if (std::count(testo.begin(), testo.end(), 'X') < servono) {
+        e.errore = {"Scegliere almeno " + std::to_string(servono) + " posizioni estrattive!", "Errore",
+                    Icona::Esclamazione};
+        return e;
+    }
+    if (sc.adiacenti && testo.find("XX") == std::string::npos) {
+        e.errore = {"Le posizioni inserite non sono compatibili con gli ambi uniti!", "Errore", Icona::Esclamazione};
+        return e;
+    }
+    return Analisi(p, f, sc, av, std::move(e));
 }
 
 Formazioni TerzineIntegrali() {
@@ -578,10 +732,10 @@ std::vector<config::RigaTesto> StampaPrecursori(const EsitoPrecursori& e, const 
         t.erase(t.find_last_not_of(' ') + 1);
         return t;
     };
-    const std::array<int, 6> teste = e.formazioni ? std::array<int, 6>{2, 35, 68, 76, 84, 93}
-                                                  : std::array<int, 6>{2, 11, 47, 57, 67, 76};
-    const std::array<int, 6> righe = e.formazioni ? std::array<int, 6>{2, 35, 68, 76, 84, 92}
-                                                  : std::array<int, 6>{2, 9, 47, 57, 67, 75};
+    const std::array<int, 6> teste =
+        e.formazioni ? std::array<int, 6>{2, 35, 68, 76, 84, 93} : std::array<int, 6>{2, 11, 47, 57, 67, 76};
+    const std::array<int, 6> righe =
+        e.formazioni ? std::array<int, 6>{2, 35, 68, 76, 84, 92} : std::array<int, 6>{2, 9, 47, 57, 67, 75};
     const int larghezza = e.formazioni ? 96 : 80;
     r.push_back({posa(larghezza, teste, e.titoliPresenti), true});
     for (const RigaPresenti& x : e.presenti) r.push_back({posa(larghezza, righe, x.testo)});

@@ -8,6 +8,7 @@
 #include <functional>
 #include <stop_token>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "archives/messaggio.h"
@@ -94,6 +95,26 @@ struct EsitoPrecursori {
 
 EsitoPrecursori AnalisiPrecursori(const ParametriPrecursori& p, const FonteEstrazioni& fonte,
                                   const Avanzamento& avanzamento = {});
+
+// The personalisation of the classic analysis: precursors read only at chosen positions of the
+// draws of the walk, and numbers or pairs as precursors. Lotto wheels only.
+enum class TipoPrecursori { Numeri, Ambi };
+struct ParametriSaruni {
+    ParametriPrecursori base;
+    bool PosizioneDeterminata = false;                                   // chkPosDet
+    std::array<bool, 6> Posizioni{false, true, true, true, true, true};  // chkPosizione(1..5)
+    TipoPrecursori Tipo = TipoPrecursori::Numeri;                        // cboSceltaTipoPrecursori
+    bool AmbiAdiacenti = false;                                          // chkAmbiAdiacenti
+};
+EsitoPrecursori AnalisiSaruni(const ParametriSaruni& p, const FonteEstrazioni& fonte,
+                              const Avanzamento& avanzamento = {});
+
+// TabellaAmbi: each pair a < b of 1..90 has a code 1..4005 in ascending order of a, then b;
+// 0 for no pair. Its text is the two numbers in two digits joined by "-", as in "07-45".
+inline constexpr int NumeroAmbi = 4005;
+int CodiceAmbo(int a, int b);
+std::pair<int, int> NumeriAmbo(int codice);
+std::string TestoAmbo(int codice);
 
 // Formations typed and validated, or all the triples with TerzineIntegrali. `confermato` is
 // the answer yes to the question about formations shorter than MinimoNumeri.

@@ -11,6 +11,7 @@
 #include "archives/archivio.h"
 #include "precursors/analisi.h"
 #include "precursors/precursori_letterale.h"
+#include "precursors/saruni_letterale.h"
 #include "support/archivi_reali.h"
 #include "support/casuali.h"
 
@@ -188,6 +189,63 @@ TEST(DifferenzialePrecursori, ArchivioReale) {
     p.IndiceVerifica = n;
     Confronta(AnalisiPrecursori(p, FonteEstrazioni::DieciELotto(*storia)),
               test::AnalisiPrecursoriLetterale(p, {Gioco::DieciELotto, storia.get(), {}, 1}), "10elotto");
+}
+
+}  // namespace
+}  // namespace gorgo::precursors
+
+namespace gorgo::precursors {
+namespace {
+
+TEST(DifferenzialePrecursori, SaruniPosizioniEAmbiPrecursori) {
+    int conRighe = 0;
+    for (uint32_t seme = 1; seme <= 30; ++seme) {
+        std::mt19937 g(seme);
+        const archives::StoriaLotto storia = test::StoriaCasuale(g, {.anni = 2, .ultimoAnno = 2010});
+        const int ruota = static_cast<int>(1 + g() % 11);
+        const FonteEstrazioni fonte = FonteEstrazioni::Lotto(storia, ruota);
+        ParametriSaruni p;
+        p.base = Casuali(g, fonte.NumeroEstrazioni(), 200);
+        p.PosizioneDeterminata = g() % 3 != 0;
+        for (int u = 1; u <= 5; ++u) p.Posizioni[static_cast<size_t>(u)] = g() % 2 == 0;
+        p.Tipo = g() % 2 ? TipoPrecursori::Ambi : TipoPrecursori::Numeri;
+        p.AmbiAdiacenti = g() % 2 == 0;
+        const std::string dove =
+            fmt::format("seme {} ruota {} {} posdet {} tipo {} adiacenti {}", seme, ruota, Descrivi(p.base),
+                        p.PosizioneDeterminata, static_cast<int>(p.Tipo), p.AmbiAdiacenti);
+        const EsitoPrecursori e = AnalisiSaruni(p, fonte);
+        Confronta(e, test::AnalisiSaruniLetterale(p, storia, ruota), dove);
+        if (HasFatalFailure()) return;
+        conRighe += !e.presenti.empty();
+        // All positions and numbers as precursors: the classic analysis.
+        p.PosizioneDeterminata = false;
+        p.Tipo = TipoPrecursori::Numeri;
+        Confronta(AnalisiSaruni(p, fonte), AnalisiPrecursori(p.base, fonte), dove + " classica");
+        if (HasFatalFailure()) return;
+    }
+    EXPECT_GT(conRighe, 8);
+}
+
+TEST(Saruni, PosizioniRifiutate) {
+    std::mt19937 g(5);
+    const archives::StoriaLotto storia = test::StoriaCasuale(g, {.anni = 1, .ultimoAnno = 2010});
+    const FonteEstrazioni fonte = FonteEstrazioni::Lotto(storia, 1);
+    ParametriSaruni p;
+    p.base.Inizio = 1;
+    p.base.Fine = p.base.IndiceVerifica = storia.NumeroEstrazioni();
+    p.PosizioneDeterminata = true;
+    p.Posizioni = {false, true, false, true, false, false};
+    p.Tipo = TipoPrecursori::Ambi;
+    p.AmbiAdiacenti = true;
+    EXPECT_EQ(AnalisiSaruni(p, fonte).errore.testo, "Le posizioni inserite non sono compatibili con gli ambi uniti!");
+    p.Posizioni = {false, false, true, true, false, false};
+    EXPECT_TRUE(AnalisiSaruni(p, fonte).errore.vuoto());
+    p.Posizioni = {false, false, false, true, false, false};
+    EXPECT_EQ(AnalisiSaruni(p, fonte).errore.testo, "Scegliere almeno 2 posizioni estrattive!");
+    EXPECT_EQ(CodiceAmbo(1, 2), 1);
+    EXPECT_EQ(CodiceAmbo(90, 89), NumeroAmbi);
+    EXPECT_EQ(TestoAmbo(CodiceAmbo(7, 45)), "07-45");
+    for (int c = 1; c <= NumeroAmbi; ++c) ASSERT_EQ(CodiceAmbo(NumeriAmbo(c).first, NumeriAmbo(c).second), c);
 }
 
 }  // namespace
