@@ -84,7 +84,17 @@ struct Preparato {
     bool conFormazioni = false;
 };
 
-Preparato Prepara(const Contesto& ctx, const ArgomentiPrecursori& a, const archives::Archivio& archivio) {
+// Saruni: the period in years back from the end, instead of the start date.
+struct ArgomentiSaruni {
+    ArgomentiPrecursori base;
+    std::string anni;
+    std::string posizioni;
+    bool coppie = false, adiacenti = false;
+    std::string previsione, anniPrevisione = "15";
+};
+
+Preparato Prepara(const Contesto& ctx, const ArgomentiPrecursori& a, const archives::Archivio& archivio,
+                  const std::string* anni = nullptr) {
     Preparato r;
     const config::FileIni ini(ctx.FileImpostazioni().string());
     const auto storia = archivio.Storia();
@@ -149,7 +159,13 @@ Preparato Prepara(const Contesto& ctx, const ArgomentiPrecursori& a, const archi
         if (d.ErroreData) throw Rifiuto{d.messaggio};
         return d.IndiceTrovato;
     };
-    p.Inizio = risolvi(a.da.empty() ? AnniPrima(aPredefinita, 15) : a.da, false);
+    std::string da = a.da.empty() ? AnniPrima(aPredefinita, 15) : a.da;
+    if (anni && !anni->empty()) {
+        const int n = LeggiCasella(*anni, 2).value_or(0);
+        if (n == 0) throw Rifiuta("Inserire il n. di anni desiderato");
+        da = AnniPrima(a.a.empty() ? aPredefinita : a.a, n);
+    }
+    p.Inizio = risolvi(da, false);
     p.Fine = risolvi(a.a.empty() ? aPredefinita : a.a, true);
     p.IndiceVerifica = a.verifica.empty() ? verificaPredefinita : risolvi(a.verifica, true);
     switch (gioco) {
@@ -162,14 +178,72 @@ Preparato Prepara(const Contesto& ctx, const ArgomentiPrecursori& a, const archi
 
 const char* NomeColore(Colore c) { return c == Colore::Verde ? "verde" : c == Colore::Marrone ? "marrone" : ""; }
 
-void Precursori(const Contesto& ctx, const ArgomentiPrecursori& a) {
-    const archives::Archivio archivio = ctx.ApriArchivi();
-    const Preparato pr = Prepara(ctx, a, archivio);
+void ControllaReport(const ArgomentiPrecursori& a) {
     if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
         throw Rifiuto{{config::DomandaSovrascrivi(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
                        "Conferma", archives::Icona::Domanda}};
-    const EsitoPrecursori e = pr.conFormazioni ? AnalisiFormazioni(pr.p, *pr.fonte, pr.formazioni, a.conferma)
-                                               : AnalisiPrecursori(pr.p, *pr.fonte);
+}
+
+void Mostra(const Contesto& ctx, const ArgomentiPrecursori& a, const Preparato& pr, const EsitoPrecursori& e);
+
+void Precursori(const Contesto& ctx, const ArgomentiPrecursori& a) {
+    const archives::Archivio archivio = ctx.ApriArchivi();
+    const Preparato pr = Prepara(ctx, a, archivio);
+    ControllaReport(a);
+    Mostra(ctx, a, pr,
+           pr.conFormazioni ? AnalisiFormazioni(pr.p, *pr.fonte, pr.formazioni, a.conferma)
+                            : AnalisiPrecursori(pr.p, *pr.fonte));
+}
+
+void Saruni(const Contesto& ctx, const ArgomentiSaruni& s) {
+    const archives::Archivio archivio = ctx.ApriArchivi();
+    const Preparato pr = Prepara(ctx, s.base, archivio, &s.anni);
+    if (!s.previsione.empty()) {
+        // The forecast panel: the sought number or pair, the years back from the end.
+        const size_t t = s.previsione.find('-');
+        const std::optional<int> x = LeggiCasella(s.previsione.substr(0, t), 2);
+        const std::optional<int> y =
+            t == std::string::npos ? std::optional<int>(0) : LeggiCasella(s.previsione.substr(t + 1), 2);
+        const int anni = LeggiCasella(s.anniPrevisione, 2).value_or(0);
+        int32_t inizio = 1;
+        if (anni > 0) {
+            const archives::RisultatoData d =
+                archives::ControllaData(AnniPrima(archivio.DataEstrazione(pr.p.Fine), anni), *archivio.Storia(), false);
+            if (d.ErroreData) throw Rifiuto{d.messaggio};
+            inizio = d.IndiceTrovato;
+        }
+        const EsitoPrevisione e = PrevisioneSaruni(*pr.fonte, inizio, pr.p.Fine, anni, x.value_or(0), y.value_or(-1));
+        if (!e.errore.vuoto()) throw Rifiuto{e.errore};
+        if (!e.avviso.vuoto() && !ctx.json) std::cerr << e.avviso.testo << "\n";
+        if (ctx.json) {
+            nlohmann::json righe = nlohmann::json::array();
+            for (const RigaCompagno& r : e.righe) righe.push_back({{"numero", r.numero}, {"testo", r.testo}});
+            StampaJson({{"descrizione", e.descrizione}, {"avviso", e.avviso.testo}, {"righe", righe}});
+            return;
+        }
+        std::cout << e.descrizione << ": " << s.previsione << ", dal " << pr.fonte->DataEstrazione(e.inizio) << " al "
+                  << pr.fonte->DataEstrazione(pr.p.Fine) << "\n\nNum Rit.sto Rit.att Rapp. %\n";
+        for (const RigaCompagno& r : e.righe)
+            std::cout << fmt::format("{:>3} {:>7} {:>7} {:>7}\n", r.testo[0], r.testo[1], r.testo[2], r.testo[3]);
+        return;
+    }
+    ControllaReport(s.base);
+    ParametriSaruni ps;
+    ps.base = pr.p;
+    if (!s.posizioni.empty()) {
+        ps.PosizioneDeterminata = true;
+        ps.Posizioni = {};
+        for (char c : s.posizioni) {
+            if (c < '1' || c > '5') throw Rifiuta("--posizioni: posizioni da 1 a 5, per esempio 135.");
+            ps.Posizioni[static_cast<size_t>(c - '0')] = true;
+        }
+    }
+    ps.Tipo = s.coppie ? TipoPrecursori::Ambi : TipoPrecursori::Numeri;
+    ps.AmbiAdiacenti = s.adiacenti;
+    Mostra(ctx, s.base, pr, AnalisiSaruni(ps, *pr.fonte));
+}
+
+void Mostra(const Contesto& ctx, const ArgomentiPrecursori& a, const Preparato& pr, const EsitoPrecursori& e) {
     if (!e.avviso.vuoto() && !ctx.json) std::cerr << e.avviso.testo << "\n";
     if (!e.domanda.vuoto())
         throw Rifiuto{{e.domanda.testo + "\n(rispondere con --conferma)", e.domanda.titolo, e.domanda.icona}};
@@ -280,6 +354,33 @@ void AggiungiComandiPrecursori(CLI::App& app, Contesto& ctx) {
     c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
     c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
     c->callback([&ctx, a] { Precursori(ctx, *a); });
+
+    auto s = std::make_shared<ArgomentiSaruni>();
+    auto* cs = app.add_subcommand("precursori-saruni",
+                                  "Precursori Saruni (Lotto): periodo in anni, posizioni, ambi come precursori, "
+                                  "previsione dei numeri in ritardo con un'ambata o un ambo");
+    cs->add_option("--ruota", s->base.ruota, "La ruota, BA..NZ (predefinito: impostazione Ruota)");
+    cs->add_option("--da", s->base.da, "Inizio del periodo GG/MM/AAAA (predefinito: 15 anni prima della fine)");
+    cs->add_option("--anni", s->anni, "Il periodo in anni prima della fine, invece di --da");
+    cs->add_option("--a", s->base.a, "Fine del periodo (predefinito: l'ultima estrazione meno i colpi successivi)");
+    cs->add_option("--verifica", s->base.verifica, "Ultima estrazione della verifica");
+    cs->add_option("--precedenti", s->base.precedenti, "Colpi precedenti, da 1 a 99 (predefinito 6)");
+    cs->add_option("--precursori", s->base.precursori, "Precursori da tenere, da 1 a 9 (predefinito 5)");
+    cs->add_option("--successivi", s->base.successivi, "Colpi successivi della verifica (predefinito 6)");
+    cs->add_option("--sorte", s->base.sorte, "ambate (predefinito) o ambi")->check(CLI::IsMember({"ambate", "ambi"}));
+    cs->add_option("--ordina", s->base.ordina, "percentuale (predefinito) o presenze")
+        ->check(CLI::IsMember({"percentuale", "presenze"}));
+    cs->add_option("--numeri", s->base.numeri, "Numeri da considerare, come 1,2,5-9");
+    cs->add_option("--posizioni", s->posizioni,
+                   "Solo queste posizioni nelle estrazioni precedenti, come 135 (predefinito: tutte)");
+    cs->add_flag("--precursori-ambi", s->coppie, "Precursori formati da AMBI invece che da numeri");
+    cs->add_flag("--ambi-adiacenti", s->adiacenti, "Solo ambi adiacenti o uniti");
+    cs->add_option("--previsione", s->previsione, "Previsione per un'ambata (27) o un ambo (12-34)");
+    cs->add_option("--anni-previsione", s->anniPrevisione, "Anni della previsione (predefinito 15)");
+    cs->add_option("--report", s->base.report, "Scrive la lista dei precursori in un file di testo");
+    cs->add_flag("--accoda", s->base.accoda, "Se il file del report esiste, aggiunge in calce");
+    cs->add_flag("--sovrascrivi", s->base.sovrascrivi, "Se il file del report esiste, lo sostituisce");
+    cs->callback([&ctx, s] { Saruni(ctx, *s); });
 
     struct ArgomentiFormazioni {
         std::string sorgente, salva;

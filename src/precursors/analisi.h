@@ -109,6 +109,24 @@ struct ParametriSaruni {
 EsitoPrecursori AnalisiSaruni(const ParametriSaruni& p, const FonteEstrazioni& fonte,
                               const Avanzamento& avanzamento = {});
 
+// The forecast panel of the personalised screen: for a chosen number (or pair), the companions
+// late against their own history of coming out with it, over Inizio..Fine of the wheel.
+struct RigaCompagno {
+    int numero = 0;
+    std::array<std::string, 4> testo;  // "Num", "Rit.sto", "Rit.att", "Rapp. %"
+};
+struct EsitoPrevisione {
+    archives::Messaggio errore;
+    std::string focus;
+    archives::Messaggio avviso;
+    int32_t inizio = 0;
+    std::string descrizione;  // "Ambata selezionata" or "Ambo selezionato"
+    std::vector<RigaCompagno> righe;
+};
+// `anni` is txtNum(2), checked here; `inizio` the draw that many years before `fine`. `b` 0
+// for an ambata.
+EsitoPrevisione PrevisioneSaruni(const FonteEstrazioni& fonte, int32_t inizio, int32_t fine, int anni, int a, int b);
+
 // TabellaAmbi: each pair a < b of 1..90 has a code 1..4005 in ascending order of a, then b;
 // 0 for no pair. Its text is the two numbers in two digits joined by "-", as in "07-45".
 inline constexpr int NumeroAmbi = 4005;

@@ -153,6 +153,37 @@ TEST(Formazioni, ValidazioneDelTestoIncollato) {
     EXPECT_TRUE(ValidaFormazioni(molte, false).errore.vuoto());
 }
 
+TEST(Saruni, PrevisioneDeiCompagniInRitardo) {
+    // 7 comes out in draws 1, 3 and 6: 8 with it in 1 and 3 (gap of one draw, then four since),
+    // 9 with it in 1 only (then five draws), 10 never with it.
+    const auto s = Storia({{7, 8, 9, 1, 2},
+                           {10, 11, 12, 13, 14},
+                           {7, 8, 20, 21, 22},
+                           {30, 31, 32, 33, 34},
+                           {40, 41, 42, 43, 44},
+                           {7, 50, 51, 52, 53}});
+    const EsitoPrevisione e = PrevisioneSaruni(FonteEstrazioni::Lotto(s, 1), 1, 6, 15, 7, 0);
+    ASSERT_TRUE(e.errore.vuoto());
+    EXPECT_EQ(e.descrizione, "Ambata selezionata");
+    auto riga = [&](int n) {
+        for (const auto& r : e.righe)
+            if (r.numero == n) return r.testo;
+        return std::array<std::string, 4>{};
+    };
+    EXPECT_EQ(riga(8), (std::array<std::string, 4>{" 8", "   1", "   3", "  3,00"}));
+    EXPECT_EQ(riga(9), (std::array<std::string, 4>{" 9", "  --", "   5", "    --"}));
+    // Ranked by the ratio (the delay alone for 9, 2 and 1, the higher first), never-seen
+    // numbers last, the lowest at the bottom.
+    std::vector<int> primi;
+    for (size_t i = 0; i < 5; ++i) primi.push_back(e.righe[i].numero);
+    EXPECT_EQ(primi, (std::vector<int>{9, 2, 1, 8, 22}));
+    EXPECT_EQ(e.righe.back().numero, 3);
+    EXPECT_EQ(e.righe.size(), 89u);
+    EXPECT_EQ(PrevisioneSaruni(FonteEstrazioni::Lotto(s, 1), 1, 6, 0, 7, 0).errore.testo,
+              "Inserire il n. di anni desiderato");
+    EXPECT_EQ(PrevisioneSaruni(FonteEstrazioni::Lotto(s, 1), 1, 6, 15, 91, 0).focus, "txtNum_0");
+}
+
 TEST(Precursori, RifiutiNellOrdineDelloSchermo) {
     const auto s = Storia({{1, 2, 3, 4, 5}});
     const FonteEstrazioni f = FonteEstrazioni::Lotto(s, 1);
@@ -187,6 +218,13 @@ TEST(Precursori, RigaDiComandoSullArchivioReale) {
     EXPECT_NE(e.err.find("Inserire il numero di precursori!"), std::string::npos);
     e = test::Esegui({"--cartella", c, "precursori", "--da", "31/02/2020"});
     EXPECT_EQ(e.codice, 2);
+    // The personalised command with no option is the classic one.
+    EXPECT_EQ(test::Esegui({"--cartella", c, "precursori-saruni"}).out,
+              test::Esegui({"--cartella", c, "precursori"}).out);
+    EXPECT_EQ(test::Esegui(
+                  {"--cartella", c, "precursori-saruni", "--posizioni", "13", "--precursori-ambi", "--ambi-adiacenti"})
+                  .codice,
+              2);
     e = test::Esegui({"--cartella", c, "--json", "precursori", "--gioco", "10elotto"});
     ASSERT_EQ(e.codice, 0) << e.err;
     EXPECT_FALSE(nlohmann::json::parse(e.out)["presenti"].empty());
