@@ -297,6 +297,40 @@ void Mostra(const Contesto& ctx, const ArgomentiPrecursori& a, const Preparato& 
     for (const RigaPresenti& r : e.presenti) std::cout << rigaPresenti(r.testo);
 }
 
+// formazioni --libreria: the groups of the formation file after the three built-in ones.
+void ElencaLibreria(const Contesto& ctx, std::string file) {
+    if (file.empty()) {
+        const config::FileIni ini(ctx.FileImpostazioni().string());
+        file = config::LeggiImpostazione(ini, config::sezioni::Options, "FileFormazioni", "");
+        if (file.empty()) file = (ctx.PercorsoProgramma() / "Formazioni.txt").string();
+    }
+    if (!std::filesystem::is_regular_file(file))
+        throw Rifiuta("Manca il file formazioni numeriche " + file +
+                          " (predefinito: l'impostazione Options FileFormazioni, o Formazioni.txt nella cartella del "
+                          "programma).",
+                      ErroreInterno);
+    std::ifstream in(file, std::ios::binary);
+    const std::string testo((std::istreambuf_iterator<char>(in)), {});
+    const EsitoLibreria l = CaricaLibreria(testo);
+    if (ctx.json) {
+        nlohmann::json gruppi = nlohmann::json::array();
+        for (size_t i = 0; i < l.gruppi.size(); ++i)
+            gruppi.push_back({{"nome", l.gruppi[i].Nome},
+                              {"numero", i + 1},
+                              {"elementi", l.gruppi[i].Elementi.size()},
+                              {"dimensione", l.gruppi[i].dimensione},
+                              {"campione", l.gruppi[i].campione}});
+        StampaJson({{"file", file}, {"gruppi", gruppi}, {"messaggio", l.errore.testo}});
+    } else {
+        std::cout << fmt::format("{:<40}{:>5}{:>9}{:>10}\n", "Formazione numerica", "N.", "elementi", "");
+        for (size_t i = 0; i < l.gruppi.size(); ++i) {
+            const auto t = l.gruppi[i].testo(static_cast<int>(i + 1));
+            std::cout << fmt::format("{:<40}{}  {}  {}   {}\n", t[0], t[1], t[2], t[3], l.gruppi[i].campione);
+        }
+    }
+    if (!l.errore.vuoto()) throw Rifiuto{l.errore};
+}
+
 // formazioni: the validation of typed formations, with its summary, and their saving.
 void ControllaFormazioni(const Contesto& ctx, const std::string& sorgente, bool doppie, const std::string& salva,
                          bool sovrascrivi) {
@@ -384,15 +418,22 @@ void AggiungiComandiPrecursori(CLI::App& app, Contesto& ctx) {
 
     struct ArgomentiFormazioni {
         std::string sorgente, salva;
-        bool doppie = false, sovrascrivi = false;
+        bool doppie = false, sovrascrivi = false, libreria = false;
     };
     auto f = std::make_shared<ArgomentiFormazioni>();
     auto* fc = app.add_subcommand("formazioni", "Valida formazioni numeriche (file o testo) e le salva");
-    fc->add_option("formazioni", f->sorgente, "Un file o il testo delle formazioni")->required();
+    fc->add_option("formazioni", f->sorgente, "Un file o il testo delle formazioni (con --libreria: il file)");
+    fc->add_flag("--libreria", f->libreria,
+                 "Elenca i gruppi del file formazioni numeriche (predefinito: impostazione FileFormazioni o "
+                 "Formazioni.txt)");
     fc->add_flag("--verifica-doppie", f->doppie, "Scarta le formazioni doppie");
     fc->add_option("--salva", f->salva, "Salva le formazioni validate, una per riga (Formazioni.txt)");
     fc->add_flag("--sovrascrivi", f->sovrascrivi, "Se il file esiste, lo sostituisce");
-    fc->callback([&ctx, f] { ControllaFormazioni(ctx, f->sorgente, f->doppie, f->salva, f->sovrascrivi); });
+    fc->callback([&ctx, f] {
+        if (f->libreria) return ElencaLibreria(ctx, f->sorgente);
+        if (f->sorgente.empty()) throw Rifiuta("Nessuna formazione da validare! Indicare un file o il testo.");
+        ControllaFormazioni(ctx, f->sorgente, f->doppie, f->salva, f->sovrascrivi);
+    });
 }
 
 const GruppoComandi registrazione{80, AggiungiComandiPrecursori};

@@ -1,5 +1,7 @@
 #include "precursors/formazioni.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
 #include <unordered_set>
@@ -123,6 +125,114 @@ EsitoValidazione ValidaFormazioni(std::string_view testo, bool verificaDoppie) {
     if (e.scartate > 0) s += "\nSono state scartate " + std::to_string(e.scartate) + " righe non valide\n";
     if (e.doppie > 0) s += "\nSono state scartate " + std::to_string(e.doppie) + " formazioni doppie\n";
     e.riepilogo = {s, "Validazione formazioni", archives::Icona::Informazione};
+    return e;
+}
+
+namespace {
+
+GruppoFormazioni Gruppo(std::string nome, std::vector<std::vector<int>> elementi) {
+    GruppoFormazioni g;
+    g.Nome = std::move(nome);
+    g.Elementi = std::move(elementi);
+    return g;
+}
+
+void Completa(GruppoFormazioni& g, const std::vector<int>& el) {
+    if (g.Elementi.size() == 1) {
+        g.campione.clear();
+        for (int n : el) g.campione += (g.campione.empty() ? "" : ".") + fmt::format("{:>2}", n);
+    }
+    g.dimensione = static_cast<int>(el.size());
+}
+
+// The value of a part as the host reads a number: its leading digits, 0 when there are none.
+int ValoreParte(std::string_view t) {
+    size_t i = 0;
+    while (i < t.size() && t[i] == ' ') ++i;
+    long v = 0;
+    for (; i < t.size() && t[i] >= '0' && t[i] <= '9' && v < 1000; ++i) v = v * 10 + (t[i] - '0');
+    return static_cast<int>(v);
+}
+
+}  // namespace
+
+std::array<std::string, 4> GruppoFormazioni::testo(int indice) const {
+    return {Nome, fmt::format("{:>5}", indice), fmt::format("{:>7}", Elementi.size()),
+            fmt::format("{:>3}", dimensione)};
+}
+
+std::vector<GruppoFormazioni> GruppiPredefiniti() {
+    std::vector<GruppoFormazioni> g;
+    std::vector<std::vector<int>> uno, due;
+    for (int a = 1; a <= 90; ++a) uno.push_back({a});
+    for (int a = 1; a <= 89; ++a)
+        for (int b = a + 1; b <= 90; ++b) due.push_back({a, b});
+    g.push_back(Gruppo("Tabellone Ferrani", std::move(uno)));
+    g.push_back(Gruppo("Ambi integrali", std::move(due)));
+    g.push_back(Gruppo("Terzine integrali", TerzineIntegrali()));
+    for (auto& x : g) {
+        Completa(x, x.Elementi.front());
+        x.campione.clear();
+        for (int n : x.Elementi.front()) x.campione += (x.campione.empty() ? "" : ".") + fmt::format("{:>2}", n);
+    }
+    return g;
+}
+
+EsitoLibreria CaricaLibreria(std::string_view testo) {
+    EsitoLibreria e;
+    e.gruppi = GruppiPredefiniti();
+    const size_t predefiniti = e.gruppi.size();
+    auto senzaElementi = [&](const GruppoFormazioni& g) {
+        e.errore = {"La formazione " + g.Nome + " non contiene elementi validi!", "Errore", archives::Icona::Stop};
+        e.gruppi.pop_back();
+        return e;
+    };
+    size_t da = 0;
+    while (da <= testo.size()) {
+        size_t fine = testo.find('\n', da);
+        if (fine == std::string_view::npos) fine = testo.size();
+        std::string riga(testo.substr(da, fine - da));
+        da = fine + 1;
+        if (!riga.empty() && riga.back() == '\r') riga.pop_back();
+        if (riga.find('[') != std::string::npos) {
+            if (e.gruppi.size() > predefiniti && e.gruppi.back().Elementi.empty())
+                return senzaElementi(e.gruppi.back());
+            std::string nome = riga.substr(1);
+            nome = nome.substr(0, nome.find(']'));
+            e.gruppi.push_back(Gruppo(nome, {}));
+            continue;
+        }
+        GruppoFormazioni& g = e.gruppi.back();
+        if (riga.empty()) {
+            // Right after a header it leaves the group empty; later it is skipped.
+            if (e.gruppi.size() > predefiniti && g.Elementi.empty() && da <= testo.size()) return senzaElementi(g);
+            continue;
+        }
+        std::vector<int> el;
+        std::array<bool, 91> visto{};
+        bool errato = false;
+        for (size_t p = 0;;) {
+            const size_t punto = riga.find('.', p);
+            const int v = ValoreParte(
+                std::string_view(riga).substr(p, punto == std::string::npos ? std::string::npos : punto - p));
+            if (v < 1 || v > 90 || visto[static_cast<size_t>(v)])
+                errato = true;
+            else
+                visto[static_cast<size_t>(v)] = true;
+            el.push_back(v);
+            if (punto == std::string::npos) break;
+            p = punto + 1;
+        }
+        if (errato) {
+            e.errore = {"Attenzione: ci sono valori errati o uguali per la formazione numerica " + g.Nome +
+                            " - Elemento n. " + std::to_string(g.Elementi.size() + 1),
+                        "Errore", archives::Icona::Stop};
+            return e;
+        }
+        g.Elementi.push_back(el);
+        Completa(g, el);
+    }
+    if (e.gruppi.size() > predefiniti && e.gruppi.back().Elementi.empty()) return senzaElementi(e.gruppi.back());
     return e;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 // Numeric formations typed or pasted by the player: the parser and validator of the panel.
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,5 +27,23 @@ struct EsitoValidazione {
 
 // Reads the panel's text row by row; `verificaDoppie` is chkVerifica.
 EsitoValidazione ValidaFormazioni(std::string_view testo, bool verificaDoppie);
+
+// The formation library: the three built-in groups, then the groups of the formation file.
+struct GruppoFormazioni {
+    std::string Nome;
+    std::vector<std::vector<int>> Elementi;
+    std::string campione;  // the first element, numbers right-aligned in 2 joined by "."
+    int dimensione = 0;    // the size of the last element read
+    // The row of "Lista formazioni numeriche": name, "N.", elements, size.
+    std::array<std::string, 4> testo(int indice) const;
+};
+struct EsitoLibreria {
+    archives::Messaggio errore;  // the load stopped there; the groups before it stay
+    std::vector<GruppoFormazioni> gruppi;
+};
+// "Tabellone Ferrani", "Ambi integrali", "Terzine integrali".
+std::vector<GruppoFormazioni> GruppiPredefiniti();
+// The file's text after the built-in groups; elements before any header go to the last group.
+EsitoLibreria CaricaLibreria(std::string_view testoFile);
 
 }  // namespace gorgo::precursors

@@ -184,6 +184,23 @@ TEST(Saruni, PrevisioneDeiCompagniInRitardo) {
     EXPECT_EQ(PrevisioneSaruni(FonteEstrazioni::Lotto(s, 1), 1, 6, 15, 91, 0).focus, "txtNum_0");
 }
 
+TEST(Formazioni, FileDeiGruppi) {
+    EsitoLibreria l = CaricaLibreria("[Gemelli]\r\n01.02\r\n\r\n03.04\r\n[Cadenze 1]\r\n1.11.21.31\r\n");
+    ASSERT_TRUE(l.errore.vuoto()) << l.errore.testo;
+    ASSERT_EQ(l.gruppi.size(), 5u);
+    EXPECT_EQ(l.gruppi[2].testo(3), (std::array<std::string, 4>{"Terzine integrali", "    3", " 117480", "  3"}));
+    EXPECT_EQ(l.gruppi[3].Elementi, (std::vector<std::vector<int>>{{1, 2}, {3, 4}}));
+    EXPECT_EQ(l.gruppi[4].campione, " 1.11.21.31");
+    // Elements before any header go to the last group open, the built-in triples.
+    EXPECT_EQ(CaricaLibreria("5.6.7\n").gruppi[2].Elementi.size(), 117481u);
+    EXPECT_EQ(CaricaLibreria("[Vuota]\n\n1.2\n").errore.testo, "La formazione Vuota non contiene elementi validi!");
+    EXPECT_EQ(CaricaLibreria("[A]\n1.2\n[B]\n").errore.testo, "La formazione B non contiene elementi validi!");
+    l = CaricaLibreria("[Doppi]\n1.2\n3.3\n");
+    EXPECT_EQ(l.errore.testo,
+              "Attenzione: ci sono valori errati o uguali per la formazione numerica Doppi - Elemento n. 2");
+    EXPECT_EQ(CaricaLibreria("[F]\n1.91\n").errore.icona, archives::Icona::Stop);
+}
+
 TEST(Precursori, RifiutiNellOrdineDelloSchermo) {
     const auto s = Storia({{1, 2, 3, 4, 5}});
     const FonteEstrazioni f = FonteEstrazioni::Lotto(s, 1);
