@@ -8,10 +8,12 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
@@ -146,6 +148,44 @@ TEST_F(Precursori, ClassiciDalPannelloComeIlMotore) {
         QFile::copy(pdf, dove + "/precursori.pdf");
         f->grab().save(dove + "/precursori.png");
     }
+}
+
+TEST_F(Precursori, SaruniConAmbiPrecursoriEPrevisione) {
+    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
+    QWidget* scelta = Finestra("frmSceltaPrecursori");
+    ASSERT_NE(scelta, nullptr);
+    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdClassiciSaruni"), Qt::LeftButton);
+    auto* f = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriSaruni"));
+    ASSERT_NE(f, nullptr);
+    Cerca<QRadioButton>(f, "optPeriodo_1")->setChecked(true);
+    Cerca<QLineEdit>(f, "txtAnni")->setText("10");
+    Cerca<QComboBox>(f, "cboSceltaTipoPrecursori")->setCurrentIndex(1);
+    Cerca<QCheckBox>(f, "chkPosDet")->setChecked(true);
+    Cerca<QCheckBox>(f, "chkPosizione_1")->setChecked(true);
+    Cerca<QCheckBox>(f, "chkPosizione_3")->setChecked(true);
+    Cerca<QCheckBox>(f, "chkAmbiAdiacenti")->setChecked(true);
+    ASSERT_TRUE(Calcola(f));
+    ASSERT_EQ(messaggi_.size(), 1u);
+    EXPECT_EQ(messaggi_[0].testo, "Le posizioni inserite non sono compatibili con gli ambi uniti!");
+    Cerca<QCheckBox>(f, "chkPosizione_2")->setChecked(true);
+    ASSERT_TRUE(Calcola(f));
+    ASSERT_EQ(messaggi_.size(), 1u);
+    EXPECT_EQ(Cerca<QDateEdit>(f, "DTPickerDa")->date().year(), Cerca<QDateEdit>(f, "DTPickerA")->date().year() - 10);
+    QTreeWidget* l0 = Cerca<QTreeWidget>(f, "ListView_0");
+    ASSERT_GT(l0->topLevelItemCount(), 0);
+    EXPECT_TRUE(l0->topLevelItem(0)->text(2).contains(", ")) << l0->topLevelItem(0)->text(2).toStdString();
+    const precursors::EsitoPrecursori& e = f->Esito();
+    for (int i = 0; i < l0->topLevelItemCount(); ++i)
+        ASSERT_EQ(l0->topLevelItem(i)->text(2).toStdString(), e.lista[static_cast<size_t>(i)].testo[2]);
+    // A row of the forecast opens the panel with its number.
+    QTreeWidget* l1 = Cerca<QTreeWidget>(f, "ListView_1");
+    ASSERT_GT(l1->topLevelItemCount(), 0);
+    emit l1->itemClicked(l1->topLevelItem(0), 0);
+    EXPECT_EQ(Cerca<QLineEdit>(f, "txtNum_0")->text(), l1->topLevelItem(0)->text(0).trimmed());
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdPrevisione"), Qt::LeftButton);
+    EXPECT_EQ(Cerca<QTreeWidget>(f, "lstPrevisioni")->topLevelItemCount(), 89);
+    if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty())
+        f->grab().save(dove + "/saruni.png");
 }
 
 TEST_F(Precursori, AltriGiochiDalPannello) {

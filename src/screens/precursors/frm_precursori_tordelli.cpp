@@ -120,12 +120,13 @@ std::string FrmPrecursoriTordelli::DataEstrazione(int32_t indice) const {
 
 void FrmPrecursoriTordelli::CreaControlli() {
     auto* principale = new QHBoxLayout(this);
-    auto* sinistra = new QVBoxLayout;
-    principale->addLayout(sinistra, 0);
-    sinistra->addWidget(CreaParametri());
-    sinistra->addWidget(CreaNumeri());
-    sinistra->addWidget(CreaFormazioni());
-    sinistra->addStretch();
+    sinistra_ = new QVBoxLayout;
+    principale->addLayout(sinistra_, 0);
+    sinistra_->addWidget(CreaParametri());
+    sinistra_->addWidget(CreaNumeri());
+    fraFormazioni_ = CreaFormazioni();
+    sinistra_->addWidget(fraFormazioni_);
+    sinistra_->addStretch();
 
     auto* destra = new QVBoxLayout;
     principale->addLayout(destra, 1);
@@ -426,7 +427,8 @@ void FrmPrecursoriTordelli::SalvaFormazioni() {
 void FrmPrecursoriTordelli::Calcola() {
     if (elaborazione_) return;
     PulisciRisultati();
-    const bool formazioni = chkInserimentoManuale_->isChecked();
+    const bool formazioni = chkInserimentoManuale_->isChecked() && fraFormazioni_->isVisibleTo(this);
+    if (!PreparaPeriodo()) return;
     ParametriPrecursori p;
     const std::optional<int32_t> da = Indice(DTPickerDa_, false);
     if (!da) return;
@@ -456,12 +458,16 @@ void FrmPrecursoriTordelli::Avvia(const ParametriPrecursori& p, bool formazioni,
     elaborazione_ = true;
     auto risultato = std::make_shared<EsitoPrecursori>();
     const Formazioni fz = formazioni_;
+    const Procedura personale = ProceduraPersonale(p);
     Elaborazione::Avvia(
         this, sessione_, QStringLiteral("Analisi precursori..."),
-        [p, fonte, fz, formazioni, confermato, risultato](std::stop_token stop, const Progresso& progresso) {
+        [p, fonte, fz, formazioni, confermato, risultato, personale](std::stop_token stop, const Progresso& progresso) {
             Avanzamento av{stop, [&progresso](int v, int m) { progresso("Analisi precursori...", v, m); }};
-            *risultato =
-                formazioni ? AnalisiFormazioni(p, *fonte, fz, confermato, av) : AnalisiPrecursori(p, *fonte, av);
+            if (personale)
+                *risultato = personale(*fonte, av);
+            else
+                *risultato =
+                    formazioni ? AnalisiFormazioni(p, *fonte, fz, confermato, av) : AnalisiPrecursori(p, *fonte, av);
         },
         [this, risultato, fonte, p, formazioni](bool) {
             elaborazione_ = false;

@@ -16,12 +16,14 @@
 #include <QTreeWidget>
 #include <QWidget>
 #include <array>
+#include <functional>
 #include <optional>
 
 #include "precursors/analisi.h"
 #include "screens/common/sessione.h"
 
 class QGroupBox;
+class QVBoxLayout;
 
 namespace gorgo::archives {
 class Archivio;
@@ -49,12 +51,28 @@ protected:
                           QWidget* parent);
     void closeEvent(QCloseEvent* e) override;
 
+    // Hooks of the personalised screen: the period before the dates are read (false stops the
+    // run), and the procedure to run instead of the classic one (empty: the classic one).
+    using Procedura =
+        std::function<precursors::EsitoPrecursori(const precursors::FonteEstrazioni&, const precursors::Avanzamento&)>;
+    virtual bool PreparaPeriodo() { return true; }
+    virtual Procedura ProceduraPersonale(const precursors::ParametriPrecursori&) { return {}; }
+    // The left column of controls, and the frame of formations (hidden where there are none).
+    QVBoxLayout* sinistra_ = nullptr;
+    QGroupBox* fraFormazioni_ = nullptr;
+    precursors::FonteEstrazioni Fonte() const;
+    std::optional<int32_t> Indice(QDateEdit* data, bool precedente);
+    void PulisciRisultati();
+    Sessione& sessione_;
+    const archives::Archivio& archivio_;
+    QDateEdit *DTPickerDa_ = nullptr, *DTPickerA_ = nullptr, *DTPickerVerifica_ = nullptr;
+    std::array<QTreeWidget*, 2> ListView_{};
+
 private:
     void CreaControlli();
     QGroupBox* CreaParametri();
     QGroupBox* CreaNumeri();
     QGroupBox* CreaFormazioni();
-    void PulisciRisultati();
     void Avvia(const precursors::ParametriPrecursori& p, bool formazioni, bool confermato);
     void AggiornaNumero(int n);
     void ClicRuota(int ruota);
@@ -63,14 +81,9 @@ private:
     void Stampa();
     void PrintToFile();
     void MostraEsito(const precursors::EsitoPrecursori& e, const precursors::FonteEstrazioni& fonte);
-    precursors::FonteEstrazioni Fonte() const;
-    // Date to progressive index in this game's archive; nothing after the message of a refusal.
-    std::optional<int32_t> Indice(QDateEdit* data, bool precedente);
     int32_t NumeroEstrazioni() const;
     std::string DataEstrazione(int32_t indice) const;
 
-    Sessione& sessione_;
-    const archives::Archivio& archivio_;
     precursors::Gioco gioco_;
     const char* chiaveLeft_;
     const char* chiaveTop_;
@@ -82,7 +95,6 @@ private:
 
     std::array<QCheckBox*, 12> chkRuota_{};
     std::array<QCheckBox*, 91> chkNumero_{};
-    QDateEdit *DTPickerDa_ = nullptr, *DTPickerA_ = nullptr, *DTPickerVerifica_ = nullptr;
     QLineEdit *txtPrecedenti_ = nullptr, *txtPrecursori_ = nullptr, *txtSuccessivi_ = nullptr;
     QLineEdit *txtPresenze_ = nullptr, *txtNumeriInFormazione_ = nullptr;
     QComboBox* cboSceltaelaborazione_ = nullptr;
@@ -93,7 +105,6 @@ private:
     QLabel *lblSelezionati_ = nullptr, *lblDescrizioneStatistica_ = nullptr, *lblDescrizioneVerifica_ = nullptr;
     QPushButton *cmdCalcola_ = nullptr, *cmdStampa_ = nullptr, *cmdPrintToFile_ = nullptr;
     QProgressBar* ProgressBar1_ = nullptr;
-    std::array<QTreeWidget*, 2> ListView_{};
 };
 
 class FrmPrecursoriTordelliSuper : public FrmPrecursoriTordelli {

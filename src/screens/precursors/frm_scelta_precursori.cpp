@@ -4,6 +4,7 @@
 #include <QVBoxLayout>
 
 #include "screens/common/stile.h"
+#include "screens/precursors/frm_precursori_saruni.h"
 #include "screens/precursors/frm_precursori_tordelli.h"
 
 namespace gorgo::screens {
@@ -22,9 +23,12 @@ FrmSceltaPrecursori::FrmSceltaPrecursori(Sessione& sessione, const archives::Arc
         connect(b, &QPushButton::clicked, this, [this, k] { ApriClassici(k); });
         v->addWidget(b);
     }
+    auto* saruni = new QPushButton(QStringLiteral("Precursori Saruni"), this);
+    saruni->setObjectName("cmdClassiciSaruni");
+    connect(saruni, &QPushButton::clicked, this, [this] { ApriClassici(3); });
+    v->addWidget(saruni);
     // Procedures this version does not have yet.
-    for (auto [nome, testo] : {std::pair{"cmdClassiciSaruni", "Precursori Saruni"},
-                               std::pair{"cmdFormazioniNumeriche", "Formazioni numeriche"}}) {
+    for (auto [nome, testo] : {std::pair{"cmdFormazioniNumeriche", "Formazioni numeriche"}}) {
         auto* b = new QPushButton(QString::fromUtf8(testo), this);
         b->setObjectName(nome);
         b->setEnabled(false);
@@ -50,8 +54,10 @@ QWidget* FrmSceltaPrecursori::ApriClassici(int indice) {
         f = new FrmPrecursoriTordelli(sessione_, archivio_, padre);
     else if (indice == 1)
         f = new FrmPrecursoriTordelli10eLotto(sessione_, archivio_, padre);
-    else
+    else if (indice == 2)
         f = new FrmPrecursoriTordelliSuper(sessione_, archivio_, padre);
+    else
+        f = new FrmPrecursoriSaruni(sessione_, archivio_, padre);
     aperta = f;
     f->show();
     return f;
