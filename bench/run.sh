@@ -74,3 +74,10 @@ misura E3 --cartella "$DATI" ambi-matematici --ruota tutte --da 07/01/1871 --a "
 echo "== Consultazione C1: gorgo-cli consulta come processo intero (tempo, memoria di picco)"
 misura C1 --cartella "$DATI" consulta 30/12/2025 --vista ritardi
 misura C2-ultima --cartella "$DATI" consulta 30/12/2025 --vista frequenze --periodo anno
+
+echo "== Precursori P1-P3: gorgo-cli come processo intero (tempo, memoria di picco)"
+PREC=(--cartella "$DATI" precursori --ruota BA --da 30/12/2010)
+misura P1-ambate "${PREC[@]}"
+misura P1-ambi "${PREC[@]}" --sorte ambi
+misura P2 "${PREC[@]}" --terzine-integrali --minimo-numeri 2 --presenze-minime 2
+misura P3 --cartella "$DATI" precursori --gioco superenalotto --da 04/01/1947

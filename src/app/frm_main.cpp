@@ -36,6 +36,7 @@
 #include "screens/maintenance/frm_esportazione.h"
 #include "screens/maintenance/frm_input_estrazioni.h"
 #include "screens/maintenance/frm_stampa_estrazioni.h"
+#include "screens/precursors/frm_scelta_precursori.h"
 #include "screens/studies/frm_ambate_ambi_terni_multi.h"
 #include "screens/studies/frm_numeri_simpatici.h"
 #include "screens/studies/frm_punti_incogniti.h"
@@ -242,10 +243,10 @@ void FrmMain::CreaPannello() {
         void (FrmMain::*apri)();
     };
     const Voce voci[] = {{"cmdGorgo", "The Gorgo 2", &FrmMain::ApriCostruttore},
-                         {"cmdPrecursori", "La scia inversa dei precursori", nullptr},
+                         {"cmdPrecursori", "La scia inversa dei precursori", &FrmMain::ApriSceltaPrecursori},
                          {"cmdAmboEnucleato", "L'ambo enucleato", &FrmMain::ApriAmboEnucleato},
-                         {"cmdNuovaProcedura", "Precursori 10elotto", nullptr},
-                         {"Command1", "Precursori Superenalotto", nullptr},
+                         {"cmdNuovaProcedura", "Precursori 10elotto", &FrmMain::ApriPrecursori10eLotto},
+                         {"Command1", "Precursori Superenalotto", &FrmMain::ApriPrecursoriSuper},
                          {"cmdProcedura", "Procedura", &FrmMain::ApriPuntiIncogniti}};
     int i = 0;
     for (const Voce& vc : voci) {
@@ -374,13 +375,24 @@ void FrmMain::ApriUnica(QPointer<QWidget>& aperta) {
     f->show();
 }
 
-void FrmMain::ApriCostruttore() { ApriUnica<FrmCostruttore>(costruttore_); }
+// The builder and the enucleated pair put the precursor chooser away before they open.
+void FrmMain::NascondiSceltaPrecursori() {
+    if (sceltaPrecursori_) sceltaPrecursori_->hide();
+}
+
+void FrmMain::ApriCostruttore() {
+    NascondiSceltaPrecursori();
+    ApriUnica<FrmCostruttore>(costruttore_);
+}
 
 void FrmMain::ApriPuntiIncogniti() { ApriUnica<FrmPuntiIncogniti>(puntiIncogniti_); }
 void FrmMain::ApriNumeriSimpatici() { ApriUnica<FrmNumeriSimpatici>(numeriSimpatici_); }
 void FrmMain::ApriAmbateAmbiTerniMulti() { ApriUnica<FrmAmbateAmbiTerniMulti>(multiruota_); }
 void FrmMain::ApriUtility() { ApriUnica<FrmUtility>(utility_); }
-void FrmMain::ApriAmboEnucleato() { ApriUnica<FrmAmboEnucleato>(amboEnucleato_); }
+void FrmMain::ApriAmboEnucleato() {
+    NascondiSceltaPrecursori();
+    ApriUnica<FrmAmboEnucleato>(amboEnucleato_);
+}
 
 void FrmMain::ApriConsulta() {
     // Every click opens one more desk: a player may keep two draws side by side.
@@ -393,6 +405,24 @@ void FrmMain::ApriConsultaAltroGioco(bool super) {
     else
         ApriUnica<Frm10Estrazioni10eLotto>(consulta10eLotto_);
 }
+
+FrmSceltaPrecursori* FrmMain::SceltaPrecursori() {
+    if (!sceltaPrecursori_) sceltaPrecursori_ = new FrmSceltaPrecursori(sessione_, archivio_, this);
+    return static_cast<FrmSceltaPrecursori*>(sceltaPrecursori_.data());
+}
+
+void FrmMain::ApriSceltaPrecursori() {
+    FrmSceltaPrecursori* f = SceltaPrecursori();
+    f->showNormal();
+    f->raise();
+    f->activateWindow();
+}
+
+// The panel's own entries for the other games open their window through the chooser (shown
+// or not), so that a window is never open twice.
+void FrmMain::ApriPrecursori10eLotto() { SceltaPrecursori()->ApriClassici(1); }
+
+void FrmMain::ApriPrecursoriSuper() { SceltaPrecursori()->ApriClassici(2); }
 
 void FrmMain::ApriAggiornaInternet(bool super) {
     QPointer<QWidget>& aperta = super ? aggiornaSuperInternet_ : aggiornaInternet_;

@@ -13,6 +13,7 @@
 #include "app/programma.h"
 
 namespace gorgo::screens {
+class FrmSceltaPrecursori;
 
 class FrmMain : public QMainWindow {
     Q_OBJECT
@@ -53,6 +54,11 @@ private:
     void ApriInformazioni();
     void ApriCostruttore();
     void ApriAmboEnucleato();
+    FrmSceltaPrecursori* SceltaPrecursori();
+    void ApriSceltaPrecursori();
+    void NascondiSceltaPrecursori();
+    void ApriPrecursori10eLotto();
+    void ApriPrecursoriSuper();
     void ApriAggiornaInternet(bool super);
     void ApriScaricaStorico();
     void ApriPuntiIncogniti();
@@ -71,6 +77,7 @@ private:
     std::array<QLabel*, 2> lblUltimaEstrazione_{};
     QPointer<QWidget> costruttore_;
     QPointer<QWidget> amboEnucleato_;
+    QPointer<QWidget> sceltaPrecursori_;
     std::array<QPointer<QWidget>, 5> finestreEstrazioni_;
     QPointer<QWidget> aggiornaInternet_, aggiornaSuperInternet_, scaricaStorico_;
     QPointer<QWidget> puntiIncogniti_, numeriSimpatici_, multiruota_, utility_;

@@ -64,9 +64,10 @@ TEST(Avvio, UltimeEstrazioniDegliArchiviReali) {
     for (const char* nome : {"lblRestrizioni_0", "lblRestrizioni_1", "lblRestrizioni_2", "lblRestrizioni_3"})
         EXPECT_TRUE(Trova<QLabel>(principale.get(), nome)->isHidden()) << nome;
     // Screens not there yet are disabled and say so.
-    QPushButton* precursori = Trova<QPushButton>(principale.get(), "cmdPrecursori");
-    EXPECT_FALSE(precursori->isEnabled());
-    EXPECT_EQ(precursori->toolTip(), QString::fromUtf8(TestoInArrivo));
+    QPushButton* procedura = Trova<QPushButton>(principale.get(), "cmdProcedura");
+    EXPECT_FALSE(procedura->isEnabled());
+    EXPECT_EQ(procedura->toolTip(), QString::fromUtf8(TestoInArrivo));
+    EXPECT_TRUE(Trova<QPushButton>(principale.get(), "cmdPrecursori")->isEnabled());
     EXPECT_TRUE(Trova<QPushButton>(principale.get(), "cmdGorgo")->isEnabled());
     EXPECT_EQ(Trova<QPushButton>(principale.get(), "cmdCambiaImpostazioniRestrizione")->toolTip(),
               "Permette di impostare i parametri di esclusione per le ricerche statistiche");

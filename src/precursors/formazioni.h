@@ -1,0 +1,49 @@
+#pragma once
+// Numeric formations typed or pasted by the player: the parser and validator of the panel.
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "archives/messaggio.h"
+#include "precursors/analisi.h"
+
+namespace gorgo::precursors {
+
+// "Ambate", "Ambi" ... "Ventine" for sizes 1..20.
+std::string_view NomeDimensione(int dimensione);
+
+inline constexpr int MassimoNumeriFormazione = 20;
+inline constexpr int MassimoFormazioni = 32767;
+
+struct EsitoValidazione {
+    archives::Messaggio errore;      // the run stopped: formazioni stays empty
+    archives::Messaggio riepilogo;   // "Sono stati processati: " ..., when valid
+    std::vector<std::string> righe;  // lstFormazioni: canonical texts "7.12.45", in order
+    Formazioni formazioni;           // the numbers of each, ascending
+    int scartate = 0, doppie = 0;
+};
+
+// Reads the panel's text row by row; `verificaDoppie` is chkVerifica.
+EsitoValidazione ValidaFormazioni(std::string_view testo, bool verificaDoppie);
+
+// The formation library: the three built-in groups, then the groups of the formation file.
+struct GruppoFormazioni {
+    std::string Nome;
+    std::vector<std::vector<int>> Elementi;
+    std::string campione;  // the first element, numbers right-aligned in 2 joined by "."
+    int dimensione = 0;    // the size of the last element read
+    // The row of "Lista formazioni numeriche": name, "N.", elements, size.
+    std::array<std::string, 4> testo(int indice) const;
+};
+struct EsitoLibreria {
+    archives::Messaggio errore;  // the load stopped there; the groups before it stay
+    std::vector<GruppoFormazioni> gruppi;
+};
+// "Tabellone Ferrani", "Ambi integrali", "Terzine integrali".
+std::vector<GruppoFormazioni> GruppiPredefiniti();
+// The file's text after the built-in groups; elements before any header go to the last group.
+EsitoLibreria CaricaLibreria(std::string_view testoFile);
+
+}  // namespace gorgo::precursors

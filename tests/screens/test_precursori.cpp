@@ -1,0 +1,220 @@
+// The precursor windows on a copy of the real archives: opened from the main panel through
+// the chooser, a run through the computing window giving the engine's rows, the file report,
+// the print, and the panel's entries for the other games.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateEdit>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPrinter>
+#include <QProcess>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "app/avvio.h"
+#include "app/frm_main.h"
+#include "app/programma.h"
+#include "archives/regole.h"
+#include "precursors/analisi.h"
+#include "screens/common/messaggi.h"
+#include "screens/common/stampa.h"
+#include "screens/precursors/frm_precursori_tordelli.h"
+#include "support/archivi_reali.h"
+#include "support/cartelle.h"
+
+namespace gorgo::screens {
+namespace {
+
+template <typename T>
+T* Cerca(QWidget* w, const QString& nome) {
+    T* c = w->findChild<T*>(nome);
+    EXPECT_NE(c, nullptr) << nome.toStdString();
+    return c;
+}
+
+QWidget* Finestra(const QString& nome) {
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->objectName() == nome && w->isVisible()) return w;
+    return nullptr;
+}
+
+class Precursori : public ::testing::Test {
+protected:
+    void SetUp() override {
+        auto reale = test::CartellaReale();
+        if (!reale) GTEST_SKIP() << "archivi reali assenti";
+        test::CopiaArchiviReali(*reale, c_.percorso());
+        prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
+            messaggi_.push_back(m);
+            return QMessageBox::Yes;
+        });
+        principale_ = AvviaProgramma(c_.percorso(), blocco_);
+        ASSERT_NE(principale_, nullptr);
+        principale_->show();
+    }
+    void TearDown() override {
+        principale_.reset();
+        blocco_.reset();
+        ImpostaGestoreMessaggi(prima_);
+        ApriDialogoStampa = DialogoStampaPredefinito();
+        ScegliFileReport = SceltaFileReportPredefinita();
+    }
+    bool Calcola(FrmPrecursoriTordelli* f) {
+        QSignalSpy fine(f, &FrmPrecursoriTordelli::analisiTerminata);
+        QTest::mouseClick(Cerca<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
+        return fine.wait(60000);
+    }
+
+    test::CartellaTemporanea c_;
+    std::unique_ptr<QLockFile> blocco_;
+    std::unique_ptr<FrmMain> principale_;
+    std::vector<archives::Messaggio> messaggi_;
+    GestoreMessaggi prima_;
+};
+
+TEST_F(Precursori, ClassiciDalPannelloComeIlMotore) {
+    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
+    QWidget* scelta = Finestra("frmSceltaPrecursori");
+    ASSERT_NE(scelta, nullptr);
+    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdClassici_0"), Qt::LeftButton);
+    auto* f = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriTordelli"));
+    ASSERT_NE(f, nullptr);
+    // A second click brings the same window forward.
+    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdClassici_0"), Qt::LeftButton);
+    int aperte = 0;
+    for (QWidget* w : QApplication::topLevelWidgets()) aperte += w->objectName() == "frmPrecursoriTordelli";
+    EXPECT_EQ(aperte, 1);
+
+    Cerca<QDateEdit>(f, "DTPickerDa")->setDate(QDate(2010, 12, 30));
+    Cerca<QComboBox>(f, "cboSceltaelaborazione")->setCurrentIndex(1);
+    ASSERT_TRUE(Calcola(f));
+    EXPECT_TRUE(messaggi_.empty()) << messaggi_.front().testo;
+
+    const Programma& pr = principale_->programma();
+    const auto storia = pr.archivio->Storia();
+    precursors::ParametriPrecursori p;
+    p.Inizio = archives::ControllaData("30/12/2010", *storia, false).IndiceTrovato;
+    p.Fine = storia->NumeroEstrazioni() - 6;
+    p.IndiceVerifica = storia->NumeroEstrazioni();
+    p.sorte = precursors::Sorte::Ambi;
+    const precursors::EsitoPrecursori e =
+        precursors::AnalisiPrecursori(p, precursors::FonteEstrazioni::Lotto(*storia, 1));
+    QTreeWidget* l0 = Cerca<QTreeWidget>(f, "ListView_0");
+    QTreeWidget* l1 = Cerca<QTreeWidget>(f, "ListView_1");
+    ASSERT_EQ(l0->topLevelItemCount(), static_cast<int>(e.lista.size()));
+    ASSERT_EQ(l1->topLevelItemCount(), static_cast<int>(e.presenti.size()));
+    ASSERT_FALSE(e.presenti.empty());
+    for (int i = 0; i < l0->topLevelItemCount(); ++i)
+        for (int c = 0; c < 4; ++c)
+            ASSERT_EQ(l0->topLevelItem(i)->text(c).toStdString(),
+                      e.lista[static_cast<size_t>(i)].testo[static_cast<size_t>(c)]);
+    EXPECT_EQ(l0->headerItem()->text(0), QStringLiteral("  Ambo"));
+    EXPECT_EQ(l1->topLevelItem(0)->text(1).toStdString(), e.presenti[0].testo[1]);
+
+    // The file report and the print.
+    const QString file = QString::fromStdString((c_ / "Precursori_Bari.txt").string());
+    ScegliFileReport = [&](QWidget*, const QString&, const QString& proposto, const QString&) {
+        EXPECT_TRUE(proposto.endsWith("Precursori_Bari.txt")) << proposto.toStdString();
+        return file;
+    };
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdPrintToFile"), Qt::LeftButton);
+    QFile letto(file);
+    ASSERT_TRUE(letto.open(QIODevice::ReadOnly));
+    const QString testo = QString::fromLatin1(letto.readAll());
+    EXPECT_TRUE(testo.contains("La SCIA INVERSA DEI PRECURSORI da un'idea di Sergio Tordelli\r\nRuota di Bari\r\n"));
+    EXPECT_TRUE(testo.contains(QString::fromStdString(e.lista[0].testo[2])));
+    const QString pdf = QString::fromStdString((c_ / "precursori.pdf").string());
+    ApriDialogoStampa = [&](QWidget*, QPrinter& stampante) {
+        stampante.setOutputFormat(QPrinter::PdfFormat);
+        stampante.setOutputFileName(pdf);
+        return true;
+    };
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdStampa"), Qt::LeftButton);
+    QProcess pdftotext;
+    pdftotext.start("pdftotext", {"-layout", pdf, "-"});
+    ASSERT_TRUE(pdftotext.waitForFinished(20000));
+    const QString stampato = QString::fromUtf8(pdftotext.readAllStandardOutput()).simplified();
+    EXPECT_TRUE(stampato.contains("Ambo Precursori presenti Rit.sto Rit.att Pres. %"));
+    EXPECT_TRUE(stampato.contains(QString::fromStdString(e.presenti[0].testo[1]).simplified()));
+    if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty()) {
+        QFile::remove(dove + "/precursori.pdf");
+        QFile::copy(pdf, dove + "/precursori.pdf");
+        f->grab().save(dove + "/precursori.png");
+    }
+}
+
+TEST_F(Precursori, SaruniConAmbiPrecursoriEPrevisione) {
+    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
+    QWidget* scelta = Finestra("frmSceltaPrecursori");
+    ASSERT_NE(scelta, nullptr);
+    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdClassiciSaruni"), Qt::LeftButton);
+    auto* f = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriSaruni"));
+    ASSERT_NE(f, nullptr);
+    Cerca<QRadioButton>(f, "optPeriodo_1")->setChecked(true);
+    Cerca<QLineEdit>(f, "txtAnni")->setText("10");
+    Cerca<QComboBox>(f, "cboSceltaTipoPrecursori")->setCurrentIndex(1);
+    Cerca<QCheckBox>(f, "chkPosDet")->setChecked(true);
+    Cerca<QCheckBox>(f, "chkPosizione_1")->setChecked(true);
+    Cerca<QCheckBox>(f, "chkPosizione_3")->setChecked(true);
+    Cerca<QCheckBox>(f, "chkAmbiAdiacenti")->setChecked(true);
+    ASSERT_TRUE(Calcola(f));
+    ASSERT_EQ(messaggi_.size(), 1u);
+    EXPECT_EQ(messaggi_[0].testo, "Le posizioni inserite non sono compatibili con gli ambi uniti!");
+    Cerca<QCheckBox>(f, "chkPosizione_2")->setChecked(true);
+    ASSERT_TRUE(Calcola(f));
+    ASSERT_EQ(messaggi_.size(), 1u);
+    EXPECT_EQ(Cerca<QDateEdit>(f, "DTPickerDa")->date().year(), Cerca<QDateEdit>(f, "DTPickerA")->date().year() - 10);
+    QTreeWidget* l0 = Cerca<QTreeWidget>(f, "ListView_0");
+    ASSERT_GT(l0->topLevelItemCount(), 0);
+    EXPECT_TRUE(l0->topLevelItem(0)->text(2).contains(", ")) << l0->topLevelItem(0)->text(2).toStdString();
+    const precursors::EsitoPrecursori& e = f->Esito();
+    for (int i = 0; i < l0->topLevelItemCount(); ++i)
+        ASSERT_EQ(l0->topLevelItem(i)->text(2).toStdString(), e.lista[static_cast<size_t>(i)].testo[2]);
+    // A row of the forecast opens the panel with its number.
+    QTreeWidget* l1 = Cerca<QTreeWidget>(f, "ListView_1");
+    ASSERT_GT(l1->topLevelItemCount(), 0);
+    emit l1->itemClicked(l1->topLevelItem(0), 0);
+    EXPECT_EQ(Cerca<QLineEdit>(f, "txtNum_0")->text(), l1->topLevelItem(0)->text(0).trimmed());
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdPrevisione"), Qt::LeftButton);
+    EXPECT_EQ(Cerca<QTreeWidget>(f, "lstPrevisioni")->topLevelItemCount(), 89);
+    if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty())
+        f->grab().save(dove + "/saruni.png");
+}
+
+TEST_F(Precursori, AltriGiochiDalPannello) {
+    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "Command1"), Qt::LeftButton);
+    auto* s = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriTordelliSuper"));
+    ASSERT_NE(s, nullptr);
+    EXPECT_EQ(s->findChild<QCheckBox*>("chkRuota_1"), nullptr);
+    ASSERT_TRUE(Calcola(s));
+    EXPECT_GT(Cerca<QTreeWidget>(s, "ListView_0")->topLevelItemCount(), 80);
+    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdNuovaProcedura"), Qt::LeftButton);
+    auto* d = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriTordelli10eLotto"));
+    ASSERT_NE(d, nullptr);
+    // Formations typed in the panel, one shorter than the minimum: asked, answered yes.
+    Cerca<QCheckBox>(d, "chkInserimentoManuale")->setChecked(true);
+    d->findChild<QPlainTextEdit*>("txtGruppi")->setPlainText("1 2 3\n4 5\n7");
+    QTest::mouseClick(Cerca<QPushButton>(d, "cmdInserisci"), Qt::LeftButton);
+    ASSERT_EQ(messaggi_.size(), 1u);
+    EXPECT_EQ(messaggi_[0].titolo, "Validazione formazioni");
+    ASSERT_TRUE(Calcola(d));
+    ASSERT_EQ(messaggi_.size(), 2u);
+    EXPECT_EQ(messaggi_[1].testo, "Attenzione! Non verranno considerati\nAmbate \n\nConfermi ?");
+    QTest::qWait(50);
+    QSignalSpy fine(d, &FrmPrecursoriTordelli::analisiTerminata);
+    if (d->InElaborazione()) {
+        ASSERT_TRUE(fine.wait(60000));
+    }
+    EXPECT_EQ(Cerca<QTreeWidget>(d, "ListView_0")->topLevelItemCount(), 2);
+    EXPECT_EQ(Cerca<QTreeWidget>(d, "ListView_0")->headerItem()->text(0), QStringLiteral("Formazione"));
+}
+
+}  // namespace
+}  // namespace gorgo::screens
