@@ -105,13 +105,7 @@ void FrmMain::CreaMenu() {
     auto voce = [this](QMenu* m, const char* nome, const QString& testo, auto azione) {
         QAction* a = m->addAction(testo);
         a->setObjectName(nome);
-        if constexpr (std::is_same_v<decltype(azione), std::nullptr_t>) {
-            a->setEnabled(false);
-            a->setToolTip(QString::fromUtf8(TestoInArrivo));
-            a->setStatusTip(QString::fromUtf8(TestoInArrivo));
-        } else {
-            connect(a, &QAction::triggered, this, azione);
-        }
+        connect(a, &QAction::triggered, this, azione);
         return a;
     };
     QMenu* file = mb->addMenu(QStringLiteral("&File"));
@@ -236,7 +230,7 @@ void FrmMain::CreaPannello() {
     auto* pulsanti = new QGroupBox(centro);
     pulsanti->setObjectName("fraPulsanti");
     auto* p = new QGridLayout(pulsanti);
-    // One line a procedure; an entry without a window to open is shown disabled.
+    // One line a procedure: its button and the window it opens.
     struct Voce {
         const char* nome;
         const char* testo;
@@ -251,12 +245,7 @@ void FrmMain::CreaPannello() {
     int i = 0;
     for (const Voce& vc : voci) {
         QPushButton* b = Pulsante(vc.nome, QString::fromUtf8(vc.testo));
-        if (vc.apri) {
-            connect(b, &QPushButton::clicked, this, vc.apri);
-        } else {
-            b->setEnabled(false);
-            b->setToolTip(QString::fromUtf8(TestoInArrivo));
-        }
+        connect(b, &QPushButton::clicked, this, vc.apri);
         p->addWidget(b, i / 3, i % 3);
         ++i;
     }

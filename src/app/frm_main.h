@@ -86,7 +86,4 @@ private:
     std::array<QLabel*, 4> lblRestrizioni_{};
 };
 
-// Screens not in this version: disabled, with a tool tip that says they come later.
-inline constexpr const char* TestoInArrivo = "Disponibile in una prossima versione";
-
 }  // namespace gorgo::screens
