@@ -23,11 +23,6 @@ std::string TestoUltima(int numeroAnno, const std::string& data) {
 
 std::string NumeroODash(int n) { return n == 0 ? "--" : fmt::format("{:02}", n); }
 
-int32_t IndiceDaData(const archives::RisultatoData& r) {
-    if (r.ErroreData) throw Rifiuto{r.messaggio};
-    return r.IndiceTrovato;
-}
-
 void Info(const Contesto& ctx) {
     const archives::Archivio a = ctx.ApriArchivi();
     const archives::RecordEstrazione ultima = a.LeggiEstrazione(a.NumeroEstrazioni());

@@ -10,6 +10,7 @@
 
 #include "archives/regole.h"
 #include "cli/contesto.h"
+#include "cli/opzioni_comuni.h"
 #include "config/formato.h"
 #include "consultation/consultazione.h"
 #include "consultation/dieci_estrazioni.h"
@@ -27,29 +28,11 @@ struct ArgomentiConsulta {
     int somma = 0, distanza = 0;
 };
 
-bool SembraData(const std::string& s) { return s.find_first_of("/-.", 1) != std::string::npos; }
-
 std::optional<int32_t> Intero(std::string_view testo) {
     int32_t v = 0;
     const auto [p, ec] = std::from_chars(testo.data(), testo.data() + testo.size(), v);
     if (ec != std::errc{} || p != testo.data() + testo.size()) return std::nullopt;
     return v;
-}
-
-int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view archivio) {
-    const auto v = Intero(testo);
-    if (!v)
-        throw Rifiuta(fmt::format(
-            "\"{}\" non è un indice valido: indicare un numero progressivo oppure una data GG/MM/AAAA.", testo));
-    if (*v < 1 || *v > massimo)
-        throw Rifiuta(fmt::format("L'indice {} è fuori dall'archivio {}: le estrazioni memorizzate vanno da 1 a {}.",
-                                  *v, archivio, massimo));
-    return *v;
-}
-
-int32_t IndiceDaData(const archives::RisultatoData& r) {
-    if (r.ErroreData) throw Rifiuto{r.messaggio};
-    return r.IndiceTrovato;
 }
 
 const std::map<std::string, int>& NomiFamiglie() {

@@ -11,6 +11,7 @@
 
 #include "archives/regole.h"
 #include "cli/contesto.h"
+#include "cli/opzioni_comuni.h"
 #include "cli/parametri_ricerca.h"
 #include "config/impostazioni.h"
 #include "config/report_testo.h"
@@ -35,20 +36,8 @@ struct ArgomentiPrecursori {
     bool terzine = false;
     std::string presenzeMinime = "2", minimoNumeri = "2";
     bool conferma = false;
-    std::string report;
-    bool accoda = false, sovrascrivi = false;
+    OpzioniReport report;
 };
-
-int LeggiRuota(const std::string& testo) {
-    std::string t;
-    for (char c : testo) t += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-    for (int w = 1; w <= archives::NumeroRuote; ++w)
-        if (t == archives::SigleRuota[static_cast<size_t>(w)] || (w == 8 && t == "RM")) return w;
-    throw Rifiuta(
-        fmt::format("--ruota: ruota \"{}\" sconosciuta. Indicare una sigla fra "
-                    "BA,CA,FI,GE,MI,NA,PA,RO,TO,VE,NZ.",
-                    testo));
-}
 
 // "1,2,5-9": the numbers to consider.
 std::array<bool, 91> LeggiNumeri(const std::string& testo) {
@@ -178,18 +167,12 @@ Preparato Prepara(const Contesto& ctx, const ArgomentiPrecursori& a, const archi
 
 const char* NomeColore(Colore c) { return c == Colore::Verde ? "verde" : c == Colore::Marrone ? "marrone" : ""; }
 
-void ControllaReport(const ArgomentiPrecursori& a) {
-    if (!a.report.empty() && std::filesystem::exists(a.report) && !a.accoda && !a.sovrascrivi)
-        throw Rifiuto{{config::DomandaSovrascrivi(a.report).testo + " (rispondere con --accoda oppure --sovrascrivi)",
-                       "Conferma", archives::Icona::Domanda}};
-}
-
 void Mostra(const Contesto& ctx, const ArgomentiPrecursori& a, const Preparato& pr, const EsitoPrecursori& e);
 
 void Precursori(const Contesto& ctx, const ArgomentiPrecursori& a) {
     const archives::Archivio archivio = ctx.ApriArchivi();
     const Preparato pr = Prepara(ctx, a, archivio);
-    ControllaReport(a);
+    a.report.Controlla(false);
     Mostra(ctx, a, pr,
            pr.conFormazioni ? AnalisiFormazioni(pr.p, *pr.fonte, pr.formazioni, a.conferma)
                             : AnalisiPrecursori(pr.p, *pr.fonte));
@@ -227,7 +210,7 @@ void Saruni(const Contesto& ctx, const ArgomentiSaruni& s) {
             std::cout << fmt::format("{:>3} {:>7} {:>7} {:>7}\n", r.testo[0], r.testo[1], r.testo[2], r.testo[3]);
         return;
     }
-    ControllaReport(s.base);
+    s.base.report.Controlla(false);
     ParametriSaruni ps;
     ps.base = pr.p;
     if (!s.posizioni.empty()) {
@@ -249,19 +232,16 @@ void Mostra(const Contesto& ctx, const ArgomentiPrecursori& a, const Preparato& 
         throw Rifiuto{{e.domanda.testo + "\n(rispondere con --conferma)", e.domanda.titolo, e.domanda.icona}};
     if (!e.errore.vuoto()) throw Rifiuto{e.errore};
 
-    if (!a.report.empty()) {
+    if (!a.report.file.empty()) {
         if (e.lista.empty() || e.presenti.empty()) {
             std::cerr << config::NullaDaEsportare << "\n";
             return;
         }
-        const auto modo = a.accoda        ? config::ModoScrittura::Accoda
-                          : a.sovrascrivi ? config::ModoScrittura::Sovrascrivi
-                                          : config::ModoScrittura::Nuovo;
         const std::vector<std::string> righe = ReportPrecursori(e, *pr.fonte);
-        if (archives::Messaggio m = config::ScriviReportSuFile(a.report, righe, modo); !m.vuoto())
+        if (archives::Messaggio m = config::ScriviReportSuFile(a.report.file, righe, a.report.Modo()); !m.vuoto())
             throw Rifiuto{m, ErroreInterno};
         if (!ctx.json) {
-            std::cout << fmt::format("{} righe scritte in {}\n", e.lista.size(), a.report);
+            std::cout << fmt::format("{} righe scritte in {}\n", e.lista.size(), a.report.file);
             return;
         }
     }
@@ -384,9 +364,7 @@ void AggiungiComandiPrecursori(CLI::App& app, Contesto& ctx) {
     c->add_option("--minimo-numeri", a->minimoNumeri,
                   "Formazioni: minimo di numeri presenti, da 1 a 5 (predefinito 2)");
     c->add_flag("--conferma", a->conferma, "Risponde sì alla domanda sulle formazioni troppo corte");
-    c->add_option("--report", a->report, "Scrive la lista dei precursori in un file di testo");
-    c->add_flag("--accoda", a->accoda, "Se il file del report esiste, aggiunge in calce");
-    c->add_flag("--sovrascrivi", a->sovrascrivi, "Se il file del report esiste, lo sostituisce");
+    a->report.Aggiungi(c, "Scrive la lista dei precursori in un file di testo");
     c->callback([&ctx, a] { Precursori(ctx, *a); });
 
     auto s = std::make_shared<ArgomentiSaruni>();
@@ -411,9 +389,7 @@ void AggiungiComandiPrecursori(CLI::App& app, Contesto& ctx) {
     cs->add_flag("--ambi-adiacenti", s->adiacenti, "Solo ambi adiacenti o uniti");
     cs->add_option("--previsione", s->previsione, "Previsione per un'ambata (27) o un ambo (12-34)");
     cs->add_option("--anni-previsione", s->anniPrevisione, "Anni della previsione (predefinito 15)");
-    cs->add_option("--report", s->base.report, "Scrive la lista dei precursori in un file di testo");
-    cs->add_flag("--accoda", s->base.accoda, "Se il file del report esiste, aggiunge in calce");
-    cs->add_flag("--sovrascrivi", s->base.sovrascrivi, "Se il file del report esiste, lo sostituisce");
+    s->base.report.Aggiungi(cs, "Scrive la lista dei precursori in un file di testo");
     cs->callback([&ctx, s] { Saruni(ctx, *s); });
 
     struct ArgomentiFormazioni {

@@ -103,11 +103,14 @@ int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view 
     return indice;
 }
 
-int32_t IndiceLotto(const archives::StoriaLotto& storia, const std::string& testo) {
-    if (!SembraData(testo)) return LeggiIndice(testo, storia.NumeroEstrazioni(), "del Lotto");
-    const archives::RisultatoData r = archives::ControllaData(testo, storia, false);
+int32_t IndiceDaData(const archives::RisultatoData& r) {
     if (r.ErroreData) throw Rifiuto{r.messaggio};
     return r.IndiceTrovato;
+}
+
+int32_t IndiceLotto(const archives::StoriaLotto& storia, const std::string& testo) {
+    if (!SembraData(testo)) return LeggiIndice(testo, storia.NumeroEstrazioni(), "del Lotto");
+    return IndiceDaData(archives::ControllaData(testo, storia, false));
 }
 
 }  // namespace gorgo::cli

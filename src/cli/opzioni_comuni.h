@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "archives/regole.h"
 #include "archives/storia.h"
 #include "cli/contesto.h"
 #include "config/report_testo.h"
@@ -44,6 +45,8 @@ inline int RuotaOImpostazione(const std::string& testo, const Contesto& ctx) {
 bool SembraData(const std::string& testo);
 // A progressive index between 1 and `massimo`, refused with a clear message otherwise.
 int32_t LeggiIndice(const std::string& testo, int32_t massimo, std::string_view archivio);
+// The draw a date check found, or its refusal.
+int32_t IndiceDaData(const archives::RisultatoData& r);
 // A Lotto draw by its progressive index or its date GG/MM/AAAA (the draw of that date).
 int32_t IndiceLotto(const archives::StoriaLotto& storia, const std::string& testo);
 
