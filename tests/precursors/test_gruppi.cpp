@@ -185,3 +185,42 @@ TEST(DifferenzialeGruppi, ArchivioReale) {
 
 }  // namespace
 }  // namespace gorgo::precursors
+
+namespace gorgo::precursors {
+namespace {
+
+TEST(Formazioni, SalvaEdEliminaGruppi) {
+    const std::string file = "[Cadenze]\r\n10.20.30\r\n1.11.21\r\n[Gemelli]\r\n11.22\r\n";
+    // A new group goes at the end and reads back; an existing one asks first, then is replaced in place.
+    EsitoFileGruppi s = SalvaGruppo(file, "Mie", {{3, 7, 45}, {9, 12}});
+    ASSERT_TRUE(s.errore.vuoto());
+    EXPECT_EQ(s.esito.testo, "Memorizzazione effettuata!");
+    EsitoLibreria l = CaricaLibreria(s.testo);
+    ASSERT_TRUE(l.errore.vuoto()) << l.errore.testo;
+    ASSERT_EQ(l.gruppi.size(), 6u);
+    EXPECT_EQ(l.gruppi[5].Nome, "Mie");
+    EXPECT_EQ(l.gruppi[5].Elementi, (std::vector<std::vector<int>>{{3, 7, 45}, {9, 12}}));
+    s = SalvaGruppo(s.testo, "Cadenze", {{5}});
+    EXPECT_EQ(s.domanda.testo, "La formazione numerica Cadenze è già esistente. Sovrascrivi ?");
+    EXPECT_TRUE(s.testo.empty());
+    s = SalvaGruppo(SalvaGruppo(file, "Mie", {{1, 2}}).testo, "Cadenze", {{5}}, true);
+    l = CaricaLibreria(s.testo);
+    ASSERT_EQ(l.gruppi.size(), 6u);
+    EXPECT_EQ(l.gruppi[3].Nome, "Cadenze");
+    EXPECT_EQ(l.gruppi[3].Elementi, (std::vector<std::vector<int>>{{5}}));
+    EXPECT_EQ(l.gruppi[4].Elementi, (std::vector<std::vector<int>>{{11, 22}}));
+    // Deleting asks, then leaves the others as they were.
+    EsitoFileGruppi d = EliminaGruppo(s.testo, "Cadenze");
+    EXPECT_EQ(d.domanda.testo, "Eliminare la formazione numerica Cadenze dal file ?");
+    d = EliminaGruppo(s.testo, "Cadenze", true);
+    EXPECT_EQ(d.testo, "[Gemelli]\r\n11.22\r\n[Mie]\r\n01.02\r\n");
+    EXPECT_EQ(EliminaGruppo(d.testo, "Cadenze", true).errore.testo,
+              "La formazione numerica Cadenze non esiste nel file!");
+    // Refusals write nothing.
+    EXPECT_EQ(SalvaGruppo(file, "Mie", {}).errore.testo, "E' necessario prima validare le formazioni inserite!");
+    EXPECT_FALSE(SalvaGruppo(file, "a]b", {{1}}).errore.vuoto());
+    EXPECT_FALSE(SalvaGruppo(file, "Ambi integrali", {{1}}).errore.vuoto());
+}
+
+}  // namespace
+}  // namespace gorgo::precursors
