@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <fmt/format.h>
+#include <nlohmann/json.hpp>
 #include <numeric>
 #include <random>
 
@@ -11,7 +12,9 @@
 #include "precursors/gruppi.h"
 #include "precursors/gruppi_letterale.h"
 #include "support/archivi_reali.h"
+#include "support/cartelle.h"
 #include "support/casuali.h"
+#include "support/cli.h"
 
 namespace gorgo::precursors {
 namespace {
@@ -220,6 +223,40 @@ TEST(Formazioni, SalvaEdEliminaGruppi) {
     EXPECT_EQ(SalvaGruppo(file, "Mie", {}).errore.testo, "E' necessario prima validare le formazioni inserite!");
     EXPECT_FALSE(SalvaGruppo(file, "a]b", {{1}}).errore.vuoto());
     EXPECT_FALSE(SalvaGruppo(file, "Ambi integrali", {{1}}).errore.vuoto());
+}
+
+}  // namespace
+}  // namespace gorgo::precursors
+
+namespace gorgo::precursors {
+namespace {
+
+TEST(Gruppi, RigaDiComandoSullArchivioReale) {
+    GORGO_RICHIEDI_ARCHIVI_REALI(cartella);
+    const std::string c = cartella.string();
+    const test::CartellaTemporanea t;
+    const std::string file = (t / "Formazioni.txt").string();
+    // A group saved, refused a second time without the answer, then searched with the built-in ones.
+    test::Esito e =
+        test::Esegui({"--cartella", c, "formazioni", "10.20.30\n1.11.21", "--salva-gruppo", "Cadenze", "--file", file});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    e = test::Esegui({"--cartella", c, "formazioni", "5", "--salva-gruppo", "Cadenze", "--file", file});
+    EXPECT_EQ(e.codice, 2);
+    EXPECT_NE(e.err.find("Sovrascrivi ?"), std::string::npos);
+    EXPECT_EQ(test::LeggiFile(file), "[Cadenze]\r\n10.20.30\r\n01.11.21\r\n");
+    e = test::Esegui({"--cartella", c, "--json", "precursori-gruppi", "--ruota", "BA", "--gruppi",
+                      "Tabellone Ferrani,Cadenze", "--risultati", "3", "--file", file});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    const auto j = nlohmann::json::parse(e.out);
+    ASSERT_EQ(j["lista"].size(), 270u);
+    EXPECT_EQ(j["lista"][0]["testo"].size(), 6u);
+    EXPECT_FALSE(j["formazioni"].empty());
+    e = test::Esegui({"--cartella", c, "precursori-gruppi", "--ruota", "BA", "--elementi", "7", "--file", file});
+    EXPECT_EQ(e.codice, 2);
+    EXPECT_NE(e.err.find("E' necessario selezionare almeno una formazione numerica"), std::string::npos);
+    e = test::Esegui({"--cartella", c, "formazioni", "--elimina-gruppo", "Cadenze", "--file", file, "--conferma"});
+    ASSERT_EQ(e.codice, 0) << e.err;
+    EXPECT_EQ(test::LeggiFile(file), "");
 }
 
 }  // namespace
