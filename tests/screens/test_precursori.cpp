@@ -282,6 +282,14 @@ TEST_F(Precursori, FormazioniNumericheDallaSceltaComeIlMotore) {
     if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty())
         f->grab().save(dove + "/formazioni_numeriche.png");
 
+    // The file's group deleted from the menu, after the question.
+    gruppi->setCurrentItem(gruppi->topLevelItem(3));
+    f->EliminaGruppo();
+    EXPECT_EQ(gruppi->topLevelItemCount(), 3);
+    EXPECT_EQ(test::LeggiFile(c_ / "Formazioni.txt"), "");
+    ASSERT_GE(messaggi_.size(), 2u);
+    EXPECT_EQ(messaggi_[messaggi_.size() - 2].testo, "Eliminare la formazione numerica Cadenze dal file ?");
+
     // A heavy run stopped from the computing window shows nothing.
     gruppi->topLevelItem(1)->setCheckState(0, Qt::Checked);
     gruppi->topLevelItem(2)->setCheckState(0, Qt::Checked);

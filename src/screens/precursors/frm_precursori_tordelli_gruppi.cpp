@@ -91,6 +91,9 @@ FrmPrecursoriTordelliGruppi::FrmPrecursoriTordelliGruppi(Sessione& sessione, con
         chiediFile_ = true;
         CaricaLibreria();
     });
+    QAction* mnuEliminaGruppo = mnuFile->addAction(QStringLiteral("Elimina la formazione numerica selezionata..."));
+    mnuEliminaGruppo->setObjectName("mnuEliminaGruppo");
+    connect(mnuEliminaGruppo, &QAction::triggered, this, &FrmPrecursoriTordelliGruppi::EliminaGruppo);
     principale->setMenuBar(menu);
 
     auto* corpo = new QHBoxLayout;
@@ -397,6 +400,32 @@ void FrmPrecursoriTordelliGruppi::CaricaLibreria() {
     gruppoAperto_ = -1;
     AggiornaSelezionate();
     if (!l.errore.vuoto()) MostraMessaggio(this, l.errore);
+}
+
+void FrmPrecursoriTordelliGruppi::EliminaGruppo() {
+    QTreeWidgetItem* it = ListView_[2]->currentItem();
+    if (!it || fileLibreria_.empty()) return;
+    const std::string nome = (*libreria_)[static_cast<size_t>(it->data(0, Qt::UserRole).toInt())].Nome;
+    std::string testo;
+    {
+        std::ifstream in(fileLibreria_, std::ios::binary);
+        testo.assign(std::istreambuf_iterator<char>(in), {});
+    }
+    EsitoFileGruppi e = precursors::EliminaGruppo(testo, nome);
+    if (!e.domanda.vuoto()) {
+        if (Chiedi(this, e.domanda, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) != QMessageBox::Yes) return;
+        e = precursors::EliminaGruppo(testo, nome, true);
+    }
+    if (!e.errore.vuoto()) {
+        MostraMessaggio(this, e.errore);
+        return;
+    }
+    {
+        std::ofstream out(fileLibreria_, std::ios::binary | std::ios::trunc);
+        out << e.testo;
+    }
+    MostraMessaggio(this, e.esito);
+    CaricaLibreria();
 }
 
 void FrmPrecursoriTordelliGruppi::AggiornaSelezionate() {

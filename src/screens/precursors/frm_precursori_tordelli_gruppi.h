@@ -38,6 +38,8 @@ public:
     void Calcola();
     // CaricaLibreria: the built-in groups and those of the formation file.
     void CaricaLibreria();
+    // Deletes the group of the current row from the formation file, after the question.
+    void EliminaGruppo();
     bool InElaborazione() const { return elaborazione_; }
     const precursors::EsitoGruppi& Esito() const { return esito_; }
 
