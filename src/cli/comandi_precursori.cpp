@@ -17,6 +17,7 @@
 #include "config/report_testo.h"
 #include "precursors/analisi.h"
 #include "precursors/formazioni.h"
+#include "precursors/gruppi.h"
 
 namespace gorgo::cli {
 
@@ -277,20 +278,31 @@ void Mostra(const Contesto& ctx, const ArgomentiPrecursori& a, const Preparato& 
     for (const RigaPresenti& r : e.presenti) std::cout << rigaPresenti(r.testo);
 }
 
-// formazioni --libreria: the groups of the formation file after the three built-in ones.
-void ElencaLibreria(const Contesto& ctx, std::string file) {
+// The formation file: the one given, else the setting FileFormazioni, else Formazioni.txt
+// beside the program.
+std::string FileLibreria(const Contesto& ctx, std::string file) {
     if (file.empty()) {
         const config::FileIni ini(ctx.FileImpostazioni().string());
         file = config::LeggiImpostazione(ini, config::sezioni::Options, "FileFormazioni", "");
         if (file.empty()) file = (ctx.PercorsoProgramma() / "Formazioni.txt").string();
     }
+    return file;
+}
+
+std::string LeggiLibreria(const std::string& file) {
     if (!std::filesystem::is_regular_file(file))
         throw Rifiuta("Manca il file formazioni numeriche " + file +
                           " (predefinito: l'impostazione Options FileFormazioni, o Formazioni.txt nella cartella del "
                           "programma).",
                       ErroreInterno);
     std::ifstream in(file, std::ios::binary);
-    const std::string testo((std::istreambuf_iterator<char>(in)), {});
+    return std::string((std::istreambuf_iterator<char>(in)), {});
+}
+
+// formazioni --libreria: the groups of the formation file after the three built-in ones.
+void ElencaLibreria(const Contesto& ctx, std::string file) {
+    file = FileLibreria(ctx, file);
+    const std::string testo = LeggiLibreria(file);
     const EsitoLibreria l = CaricaLibreria(testo);
     if (ctx.json) {
         nlohmann::json gruppi = nlohmann::json::array();
@@ -336,6 +348,143 @@ void ControllaFormazioni(const Contesto& ctx, const std::string& sorgente, bool 
     }
     std::cout << v.riepilogo.testo;
     if (!salva.empty()) std::cout << "\nMemorizzazione effettuata! (" << salva << ")\n";
+}
+
+// formazioni --salva-gruppo / --elimina-gruppo: the named groups of the formation file.
+void ModificaLibreria(const Contesto& ctx, const std::string& file, const std::string& salva,
+                      const std::string& elimina, const std::string& sorgente, bool doppie, bool conferma) {
+    const std::string percorso = FileLibreria(ctx, file);
+    const std::string attuale =
+        !salva.empty() && !std::filesystem::exists(percorso) ? std::string() : LeggiLibreria(percorso);
+    EsitoFileGruppi e;
+    if (!salva.empty()) {
+        std::string testo = sorgente;
+        if (std::filesystem::is_regular_file(sorgente)) {
+            std::ifstream in(sorgente, std::ios::binary);
+            testo.assign(std::istreambuf_iterator<char>(in), {});
+        }
+        EsitoValidazione v;
+        if (!testo.empty()) v = ValidaFormazioni(testo, doppie);
+        if (!v.errore.vuoto()) throw Rifiuto{v.errore};
+        e = SalvaGruppo(attuale, salva, v.formazioni, conferma);
+    } else {
+        e = EliminaGruppo(attuale, elimina, conferma);
+    }
+    if (!e.domanda.vuoto())
+        throw Rifiuto{{e.domanda.testo + "\n(rispondere con --conferma)", e.domanda.titolo, e.domanda.icona}};
+    if (!e.errore.vuoto()) throw Rifiuto{e.errore};
+    {
+        std::ofstream out(percorso, std::ios::binary | std::ios::trunc);
+        out << e.testo;
+        if (!out) throw Rifiuta("Impossibile scrivere il file " + percorso, ErroreInterno);
+    }
+    if (ctx.json)
+        StampaJson({{"file", percorso}, {"messaggio", e.esito.testo}});
+    else
+        std::cout << e.esito.testo << " (" << percorso << ")\n";
+}
+
+struct ArgomentiGruppi {
+    ArgomentiPrecursori base;
+    std::string risultati = "1", elementi, gruppi, file;
+};
+
+// precursori-gruppi: the elements of the chosen groups that precede an ambata or an ambo.
+void PrecursoriGruppi(const Contesto& ctx, const ArgomentiGruppi& a) {
+    const archives::Archivio archivio = ctx.ApriArchivi();
+    const Preparato pr = Prepara(ctx, a.base, archivio);
+    const std::string file = FileLibreria(ctx, a.file);
+    EsitoLibreria l;
+    if (a.file.empty() && !std::filesystem::is_regular_file(file))
+        l.gruppi = GruppiPredefiniti();
+    else
+        l = CaricaLibreria(LeggiLibreria(file));
+    if (!l.errore.vuoto()) throw Rifiuto{l.errore};
+    ParametriGruppi p;
+    p.Inizio = pr.p.Inizio;
+    p.Fine = pr.p.Fine;
+    p.IndiceVerifica = pr.p.IndiceVerifica;
+    p.Precedenti = pr.p.Precedenti;
+    p.Successivi = pr.p.Successivi;
+    p.PresenzeMinime = pr.p.PresenzeMinime;
+    p.sorte = pr.p.sorte;
+    p.Considerato = pr.p.Considerato;
+    const std::optional<int> risultati = LeggiCasella(a.risultati, 2);
+    if (!risultati || *risultati < 1 || *risultati > MassimoRisultati)
+        throw Rifiuta("--risultati: da 1 a 10 migliori risultati per ogni ambata/ambo.");
+    p.Risultati = *risultati;
+    // The groups ticked by size (cmdAggiorna) and by name.
+    if (!a.elementi.empty()) {
+        const std::optional<int> n = LeggiCasella(a.elementi, 2);
+        if (!n || *n < 1) throw Rifiuta("--elementi: il numero di numeri delle formazioni, da 1 a 20.");
+        for (size_t g = 0; g < l.gruppi.size(); ++g)
+            if (l.gruppi[g].dimensione == *n) p.Gruppi.push_back(static_cast<int>(g));
+    }
+    std::stringstream nomi(a.gruppi);
+    for (std::string nome; std::getline(nomi, nome, ',');) {
+        size_t g = 0;
+        while (g < l.gruppi.size() && l.gruppi[g].Nome != nome) ++g;
+        if (g == l.gruppi.size()) throw Rifiuta("Formazione numerica sconosciuta: " + nome);
+        if (std::find(p.Gruppi.begin(), p.Gruppi.end(), static_cast<int>(g)) == p.Gruppi.end())
+            p.Gruppi.push_back(static_cast<int>(g));
+    }
+    std::sort(p.Gruppi.begin(), p.Gruppi.end());
+    a.base.report.Controlla(false);
+    const EsitoGruppi e = AnalisiGruppi(p, *pr.fonte, l.gruppi);
+    if (!e.avviso.vuoto() && !ctx.json) std::cerr << e.avviso.testo << "\n";
+    if (!e.errore.vuoto()) throw Rifiuto{e.errore};
+    if (!a.base.report.file.empty()) {
+        const std::vector<std::string> righe = ReportGruppi(e, *pr.fonte, p.Successivi);
+        if (archives::Messaggio m = config::ScriviReportSuFile(a.base.report.file, righe, a.base.report.Modo());
+            !m.vuoto())
+            throw Rifiuto{m, ErroreInterno};
+        if (!ctx.json) {
+            std::cout << fmt::format("{} righe scritte in {}\n", e.lista.size(), a.base.report.file);
+            return;
+        }
+    }
+    if (ctx.json) {
+        nlohmann::json lista = nlohmann::json::array(), formazioni = nlohmann::json::array(),
+                       presenti = nlohmann::json::array();
+        auto riga = [&](const RigaGruppi& r) {
+            return nlohmann::json{
+                {"voce", r.voce},
+                {"presenze", r.presenze},
+                {"formazione", l.gruppi[static_cast<size_t>(r.gruppo)].Nome},
+                {"elemento", l.gruppi[static_cast<size_t>(r.gruppo)].Elementi[static_cast<size_t>(r.elemento)]},
+                {"ricorrenze", r.ricorrenze},
+                {"presenze_elemento", r.presenzeElemento},
+                {"testo", r.testo}};
+        };
+        for (const RigaGruppi& r : e.lista) lista.push_back(riga(r));
+        for (const RigaGruppi& r : e.presenti) presenti.push_back(riga(r));
+        for (const RigaFormazionePresente& r : e.formazioni)
+            formazioni.push_back({{"formazione", r.testo[1]}, {"presenze", r.conta}, {"testo", r.testo}});
+        StampaJson({{"descrizione_statistica", e.descrizioneStatistica},
+                    {"descrizione_verifica", e.descrizioneVerifica},
+                    {"avviso", e.avviso.testo},
+                    {"lista", lista},
+                    {"formazioni", formazioni},
+                    {"presenti", presenti}});
+        return;
+    }
+    size_t nome = 20, elemento = 10;
+    for (const RigaGruppi& r : e.lista) {
+        nome = std::max(nome, r.testo[2].size());
+        elemento = std::max(elemento, r.testo[3].size());
+    }
+    const auto riga = [&](const std::array<std::string, 6>& x) {
+        return fmt::format("{:<7}{:>8}  {:<{}}  {:<{}}{:>11}{:>12}\n", x[0], x[1], x[2], nome, x[3], elemento, x[4],
+                           x[5]);
+    };
+    std::cout << e.descrizioneStatistica << "\n\n" << riga(e.titoli);
+    for (const RigaGruppi& r : e.lista) std::cout << riga(r.testo);
+    std::cout << "\n" << e.descrizioneVerifica << "\n\nFormazioni numeriche attualmente presenti\n";
+    for (const RigaFormazionePresente& r : e.formazioni)
+        std::cout << fmt::format("{:>8}  {:<{}}  {:<{}}  {}\n", r.testo[0], r.testo[1], nome, r.testo[2], elemento,
+                                 r.testo[3]);
+    std::cout << "\nPrecursori attualmente presenti\n" << riga(e.titoli);
+    for (const RigaGruppi& r : e.presenti) std::cout << riga(r.testo);
 }
 
 }  // namespace
@@ -392,9 +541,30 @@ void AggiungiComandiPrecursori(CLI::App& app, Contesto& ctx) {
     s->base.report.Aggiungi(cs, "Scrive la lista dei precursori in un file di testo");
     cs->callback([&ctx, s] { Saruni(ctx, *s); });
 
+    auto gr = std::make_shared<ArgomentiGruppi>();
+    auto* cg = app.add_subcommand("precursori-gruppi",
+                                  "La scia inversa dei precursori (formazioni numeriche): gli elementi dei gruppi "
+                                  "del file formazioni che precedono un'ambata o un ambo");
+    cg->add_option("--ruota", gr->base.ruota, "La ruota, BA..NZ (predefinito: impostazione Ruota)");
+    cg->add_option("--da", gr->base.da, "Inizio del periodo GG/MM/AAAA (predefinito: 15 anni prima della fine)");
+    cg->add_option("--a", gr->base.a, "Fine del periodo (predefinito: l'ultima estrazione meno i colpi successivi)");
+    cg->add_option("--verifica", gr->base.verifica, "Ultima estrazione della verifica");
+    cg->add_option("--precedenti", gr->base.precedenti, "Colpi precedenti, da 1 a 99 (predefinito 6)");
+    cg->add_option("--successivi", gr->base.successivi, "Colpi successivi della verifica (predefinito 6)");
+    cg->add_option("--presenze-minime", gr->base.presenzeMinime, "Ricorrenze minime, da 1 a 99 (predefinito 2)");
+    cg->add_option("--risultati", gr->risultati, "Migliori risultati per ogni ambata/ambo, da 1 a 10 (predefinito 1)");
+    cg->add_option("--sorte", gr->base.sorte, "ambate (predefinito) o ambi")->check(CLI::IsMember({"ambate", "ambi"}));
+    cg->add_option("--numeri", gr->base.numeri, "Numeri da considerare, come 1,2,5-9 (predefinito: impostazione)");
+    cg->add_option("--elementi", gr->elementi, "Seleziona i gruppi di formazioni composte da N numeri");
+    cg->add_option("--gruppi", gr->gruppi, "Seleziona i gruppi per nome, separati da virgole");
+    cg->add_option("--file", gr->file,
+                   "Il file formazioni numeriche (predefinito: impostazione FileFormazioni o Formazioni.txt)");
+    gr->base.report.Aggiungi(cg, "Scrive il report delle formazioni numeriche in un file di testo");
+    cg->callback([&ctx, gr] { PrecursoriGruppi(ctx, *gr); });
+
     struct ArgomentiFormazioni {
-        std::string sorgente, salva;
-        bool doppie = false, sovrascrivi = false, libreria = false;
+        std::string sorgente, salva, file, salvaGruppo, eliminaGruppo;
+        bool doppie = false, sovrascrivi = false, libreria = false, conferma = false;
     };
     auto f = std::make_shared<ArgomentiFormazioni>();
     auto* fc = app.add_subcommand("formazioni", "Valida formazioni numeriche (file o testo) e le salva");
@@ -405,8 +575,17 @@ void AggiungiComandiPrecursori(CLI::App& app, Contesto& ctx) {
     fc->add_flag("--verifica-doppie", f->doppie, "Scarta le formazioni doppie");
     fc->add_option("--salva", f->salva, "Salva le formazioni validate, una per riga (Formazioni.txt)");
     fc->add_flag("--sovrascrivi", f->sovrascrivi, "Se il file esiste, lo sostituisce");
+    fc->add_option("--file", f->file,
+                   "Il file formazioni numeriche dei gruppi (predefinito: impostazione FileFormazioni o "
+                   "Formazioni.txt)");
+    fc->add_option("--salva-gruppo", f->salvaGruppo, "Salva le formazioni validate come gruppo con questo nome");
+    fc->add_option("--elimina-gruppo", f->eliminaGruppo, "Elimina il gruppo con questo nome dal file");
+    fc->add_flag("--conferma", f->conferma, "Risponde sì alla domanda (gruppo esistente, eliminazione)");
     fc->callback([&ctx, f] {
-        if (f->libreria) return ElencaLibreria(ctx, f->sorgente);
+        if (f->libreria) return ElencaLibreria(ctx, f->file.empty() ? f->sorgente : f->file);
+        if (!f->salvaGruppo.empty() || !f->eliminaGruppo.empty())
+            return ModificaLibreria(ctx, f->file, f->salvaGruppo, f->eliminaGruppo, f->sorgente, f->doppie,
+                                    f->conferma);
         if (f->sorgente.empty()) throw Rifiuta("Nessuna formazione da validare! Indicare un file o il testo.");
         ControllaFormazioni(ctx, f->sorgente, f->doppie, f->salva, f->sovrascrivi);
     });

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <unordered_set>
 
 namespace gorgo::precursors {
@@ -239,6 +240,115 @@ EsitoLibreria CaricaLibreria(std::string_view testo) {
         Completa(g, el);
     }
     if (e.gruppi.size() > predefiniti && e.gruppi.back().Elementi.empty()) return senzaElementi(e.gruppi.back());
+    return e;
+}
+
+}  // namespace gorgo::precursors
+
+namespace gorgo::precursors {
+
+namespace {
+
+std::vector<std::string> Righe(std::string_view testo) {
+    std::vector<std::string> r;
+    size_t da = 0;
+    while (da < testo.size()) {
+        size_t fine = testo.find('\n', da);
+        if (fine == std::string_view::npos) fine = testo.size();
+        std::string riga(testo.substr(da, fine - da));
+        if (!riga.empty() && riga.back() == '\r') riga.pop_back();
+        r.push_back(std::move(riga));
+        da = fine + 1;
+    }
+    return r;
+}
+
+// The group's name on a header line, as the loader reads it; nullopt for an element line.
+std::optional<std::string> NomeIntestazione(const std::string& riga) {
+    if (riga.find('[') == std::string::npos) return std::nullopt;
+    std::string nome = riga.substr(1);
+    return nome.substr(0, nome.find(']'));
+}
+
+// The lines [da, a) of the group `nome`; da == a when it is not there.
+std::pair<size_t, size_t> Posizione(const std::vector<std::string>& righe, std::string_view nome) {
+    for (size_t i = 0; i < righe.size(); ++i)
+        if (NomeIntestazione(righe[i]) == nome) {
+            size_t a = i + 1;
+            while (a < righe.size() && !NomeIntestazione(righe[a])) ++a;
+            return {i, a};
+        }
+    return {0, 0};
+}
+
+std::string Unisci(const std::vector<std::string>& righe) {
+    std::string t;
+    for (const std::string& r : righe) t += r + "\r\n";
+    return t;
+}
+
+}  // namespace
+
+EsitoFileGruppi SalvaGruppo(std::string_view testoFile, std::string_view nome, const Formazioni& elementi,
+                            bool confermato) {
+    EsitoFileGruppi e;
+    if (elementi.empty()) {
+        e.errore = {"E' necessario prima validare le formazioni inserite!", "Precursori",
+                    archives::Icona::Esclamazione};
+        return e;
+    }
+    const std::string n(nome);
+    if (n.empty() || n.find_first_of("[]\r\n") != std::string::npos || n.find_first_not_of(' ') == std::string::npos) {
+        e.errore = {"Inserire un nome valido per la formazione numerica!", "Errore", archives::Icona::Esclamazione};
+        return e;
+    }
+    for (const GruppoFormazioni& g : GruppiPredefiniti())
+        if (g.Nome == n) {
+            e.errore = {"La formazione numerica " + n + " è predefinita e non può essere sostituita!", "Errore",
+                        archives::Icona::Esclamazione};
+            return e;
+        }
+    std::vector<std::string> righe = Righe(testoFile);
+    const auto [da, a] = Posizione(righe, n);
+    if (da != a && !confermato) {
+        e.domanda = {"La formazione numerica " + n + " è già esistente. Sovrascrivi ?", "Conferma",
+                     archives::Icona::Domanda};
+        return e;
+    }
+    std::vector<std::string> gruppo{"[" + n + "]"};
+    for (const auto& el : elementi) {
+        std::string t;
+        for (int x : el) t += fmt::format("{}{:02}", t.empty() ? "" : ".", x);
+        gruppo.push_back(t);
+    }
+    if (da != a) {
+        righe.erase(righe.begin() + static_cast<std::ptrdiff_t>(da), righe.begin() + static_cast<std::ptrdiff_t>(a));
+        righe.insert(righe.begin() + static_cast<std::ptrdiff_t>(da), gruppo.begin(), gruppo.end());
+    } else {
+        while (!righe.empty() && righe.back().empty()) righe.pop_back();
+        righe.insert(righe.end(), gruppo.begin(), gruppo.end());
+    }
+    e.testo = Unisci(righe);
+    e.esito = {"Memorizzazione effettuata!", "Formazioni salvate su file", archives::Icona::Informazione};
+    return e;
+}
+
+EsitoFileGruppi EliminaGruppo(std::string_view testoFile, std::string_view nome, bool confermato) {
+    EsitoFileGruppi e;
+    const std::string n(nome);
+    std::vector<std::string> righe = Righe(testoFile);
+    const auto [da, a] = Posizione(righe, n);
+    if (da == a) {
+        e.errore = {"La formazione numerica " + n + " non esiste nel file!", "Errore", archives::Icona::Esclamazione};
+        return e;
+    }
+    if (!confermato) {
+        e.domanda = {"Eliminare la formazione numerica " + n + " dal file ?", "Conferma", archives::Icona::Domanda};
+        return e;
+    }
+    righe.erase(righe.begin() + static_cast<std::ptrdiff_t>(da), righe.begin() + static_cast<std::ptrdiff_t>(a));
+    e.testo = Unisci(righe);
+    e.esito = {"Eliminazione effettuata!", "Formazioni numeriche", archives::Icona::Informazione};
     return e;
 }
 

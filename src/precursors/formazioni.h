@@ -47,3 +47,20 @@ std::vector<GruppoFormazioni> GruppiPredefiniti();
 EsitoLibreria CaricaLibreria(std::string_view testoFile);
 
 }  // namespace gorgo::precursors
+
+namespace gorgo::precursors {
+
+// Saving and deleting a named group in the formation file's text. A group of the same name
+// is replaced where it stands (after the question), a new one goes at the end; the rest of
+// the file is kept line by line.
+struct EsitoFileGruppi {
+    archives::Messaggio errore;
+    archives::Messaggio domanda;  // to ask; call again with the answer yes
+    archives::Messaggio esito;    // the message at the end
+    std::string testo;            // the new file, when neither errore nor domanda
+};
+EsitoFileGruppi SalvaGruppo(std::string_view testoFile, std::string_view nome, const Formazioni& elementi,
+                            bool confermato = false);
+EsitoFileGruppi EliminaGruppo(std::string_view testoFile, std::string_view nome, bool confermato = false);
+
+}  // namespace gorgo::precursors

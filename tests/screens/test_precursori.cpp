@@ -8,6 +8,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QFile>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPrinter>
@@ -17,15 +18,18 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTreeWidget>
+#include <fstream>
 
 #include "app/avvio.h"
 #include "app/frm_main.h"
 #include "app/programma.h"
 #include "archives/regole.h"
 #include "precursors/analisi.h"
+#include "precursors/gruppi.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
 #include "screens/precursors/frm_precursori_tordelli.h"
+#include "screens/precursors/frm_precursori_tordelli_gruppi.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
@@ -214,6 +218,91 @@ TEST_F(Precursori, AltriGiochiDalPannello) {
     }
     EXPECT_EQ(Cerca<QTreeWidget>(d, "ListView_0")->topLevelItemCount(), 2);
     EXPECT_EQ(Cerca<QTreeWidget>(d, "ListView_0")->headerItem()->text(0), QStringLiteral("Formazione"));
+}
+
+TEST_F(Precursori, FormazioniNumericheDallaSceltaComeIlMotore) {
+    {
+        std::ofstream f(c_ / "Formazioni.txt", std::ios::binary);
+        f << "[Cadenze]\r\n10.20.30.40.50.60.70.80.90\r\n1.11.21.31.41.51.61.71.81\r\n";
+    }
+    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
+    QWidget* scelta = Finestra("frmSceltaPrecursori");
+    ASSERT_NE(scelta, nullptr);
+    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdFormazioniNumeriche"), Qt::LeftButton);
+    auto* f = qobject_cast<FrmPrecursoriTordelliGruppi*>(Finestra("frmPrecursoriTordelliGruppi"));
+    ASSERT_NE(f, nullptr);
+    QTreeWidget* gruppi = Cerca<QTreeWidget>(f, "ListView_2");
+    ASSERT_EQ(gruppi->topLevelItemCount(), 4);
+    EXPECT_EQ(gruppi->topLevelItem(3)->text(0), QStringLiteral("Cadenze"));
+    EXPECT_EQ(gruppi->topLevelItem(3)->text(3), QStringLiteral("  9"));
+    // Groups of one number ticked by size, then Cadenze by hand.
+    Cerca<QLineEdit>(f, "txtElementi")->setText("1");
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdAggiorna"), Qt::LeftButton);
+    gruppi->topLevelItem(3)->setCheckState(0, Qt::Checked);
+    EXPECT_EQ(Cerca<QLabel>(f, "lblFormazioniSelezionate")->text(), QStringLiteral("Formazioni selezionate: 2"));
+    Cerca<QComboBox>(f, "cboRisultati")->setCurrentIndex(2);
+    QSignalSpy fine(f, &FrmPrecursoriTordelliGruppi::analisiTerminata);
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
+    ASSERT_TRUE(fine.wait(60000));
+    EXPECT_TRUE(messaggi_.empty()) << messaggi_.front().testo;
+
+    const auto storia = principale_->programma().archivio->Storia();
+    precursors::ParametriGruppi p;
+    p.Inizio = archives::ControllaData(Cerca<QDateEdit>(f, "DTPickerDa")->date().toString("dd/MM/yyyy").toStdString(),
+                                       *storia, false)
+                   .IndiceTrovato;
+    p.Fine = storia->NumeroEstrazioni() - 6;
+    p.IndiceVerifica = storia->NumeroEstrazioni();
+    p.Risultati = 3;
+    p.Gruppi = {0, 3};
+    const precursors::EsitoLibreria lib =
+        precursors::CaricaLibreria("[Cadenze]\r\n10.20.30.40.50.60.70.80.90\r\n1.11.21.31.41.51.61.71.81\r\n");
+    const precursors::EsitoGruppi e =
+        precursors::AnalisiGruppi(p, precursors::FonteEstrazioni::Lotto(*storia, 1), lib.gruppi);
+    QTreeWidget* l0 = Cerca<QTreeWidget>(f, "ListView_0");
+    ASSERT_EQ(l0->topLevelItemCount(), static_cast<int>(e.lista.size()));
+    ASSERT_EQ(e.lista.size(), 270u);
+    for (int i = 0; i < l0->topLevelItemCount(); ++i)
+        for (int c = 0; c < 6; ++c)
+            ASSERT_EQ(l0->topLevelItem(i)->text(c).toStdString(),
+                      e.lista[static_cast<size_t>(i)].testo[static_cast<size_t>(c)]);
+    EXPECT_EQ(Cerca<QTreeWidget>(f, "ListView_1")->topLevelItemCount(), static_cast<int>(e.formazioni.size()));
+    EXPECT_EQ(Cerca<QTreeWidget>(f, "ListView_3")->topLevelItemCount(), static_cast<int>(e.presenti.size()));
+
+    // The file report.
+    const QString file = QString::fromStdString((c_ / "SciaInversa_Bari.txt").string());
+    ScegliFileReport = [&](QWidget*, const QString&, const QString& proposto, const QString&) {
+        EXPECT_TRUE(proposto.endsWith("SciaInversa_Bari.txt")) << proposto.toStdString();
+        return file;
+    };
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdPrintToFile"), Qt::LeftButton);
+    QFile letto(file);
+    ASSERT_TRUE(letto.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(QString::fromLatin1(letto.readAll()).contains("Ricerca di formazioni numeriche\r\nRuota di Bari"));
+    if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty())
+        f->grab().save(dove + "/formazioni_numeriche.png");
+
+    // The file's group deleted from the menu, after the question.
+    gruppi->setCurrentItem(gruppi->topLevelItem(3));
+    f->EliminaGruppo();
+    EXPECT_EQ(gruppi->topLevelItemCount(), 3);
+    EXPECT_EQ(test::LeggiFile(c_ / "Formazioni.txt"), "");
+    ASSERT_GE(messaggi_.size(), 2u);
+    EXPECT_EQ(messaggi_[messaggi_.size() - 2].testo, "Eliminare la formazione numerica Cadenze dal file ?");
+
+    // A heavy run stopped from the computing window shows nothing.
+    gruppi->topLevelItem(1)->setCheckState(0, Qt::Checked);
+    gruppi->topLevelItem(2)->setCheckState(0, Qt::Checked);
+    Cerca<QComboBox>(f, "cboSceltaelaborazione")->setCurrentIndex(1);
+    QTest::mouseClick(Cerca<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
+    if (f->InElaborazione()) {
+        QWidget* elaborazioni = Finestra("frmElaborazioni");
+        if (elaborazioni) QTest::mouseClick(Cerca<QPushButton>(elaborazioni, "cmdStop"), Qt::LeftButton);
+        ASSERT_TRUE(fine.wait(60000));
+        if (elaborazioni) {
+            EXPECT_EQ(l0->topLevelItemCount(), 0);
+        }
+    }
 }
 
 }  // namespace

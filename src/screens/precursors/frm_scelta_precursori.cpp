@@ -6,6 +6,7 @@
 #include "screens/common/stile.h"
 #include "screens/precursors/frm_precursori_saruni.h"
 #include "screens/precursors/frm_precursori_tordelli.h"
+#include "screens/precursors/frm_precursori_tordelli_gruppi.h"
 
 namespace gorgo::screens {
 
@@ -27,14 +28,10 @@ FrmSceltaPrecursori::FrmSceltaPrecursori(Sessione& sessione, const archives::Arc
     saruni->setObjectName("cmdClassiciSaruni");
     connect(saruni, &QPushButton::clicked, this, [this] { ApriClassici(3); });
     v->addWidget(saruni);
-    // Procedures this version does not have yet.
-    for (auto [nome, testo] : {std::pair{"cmdFormazioniNumeriche", "Formazioni numeriche"}}) {
-        auto* b = new QPushButton(QString::fromUtf8(testo), this);
-        b->setObjectName(nome);
-        b->setEnabled(false);
-        b->setToolTip(QStringLiteral("Disponibile in una prossima versione"));
-        v->addWidget(b);
-    }
+    auto* gruppi = new QPushButton(QStringLiteral("Formazioni numeriche"), this);
+    gruppi->setObjectName("cmdFormazioniNumeriche");
+    connect(gruppi, &QPushButton::clicked, this, [this] { ApriClassici(4); });
+    v->addWidget(gruppi);
     ApplicaStile(this, sessione_.ini);
 }
 
@@ -56,8 +53,10 @@ QWidget* FrmSceltaPrecursori::ApriClassici(int indice) {
         f = new FrmPrecursoriTordelli10eLotto(sessione_, archivio_, padre);
     else if (indice == 2)
         f = new FrmPrecursoriTordelliSuper(sessione_, archivio_, padre);
-    else
+    else if (indice == 3)
         f = new FrmPrecursoriSaruni(sessione_, archivio_, padre);
+    else
+        f = new FrmPrecursoriTordelliGruppi(sessione_, archivio_, padre);
     aperta = f;
     f->show();
     return f;

@@ -19,13 +19,14 @@ class FrmSceltaPrecursori : public QWidget {
 public:
     FrmSceltaPrecursori(Sessione& sessione, const archives::Archivio& archivio, QWidget* parent = nullptr);
 
-    // cmdClassici(indice): 0 Lotto, 1 10eLotto, 2 SuperEnalotto; 3 cmdClassiciSaruni. Gives the window.
+    // cmdClassici(indice): 0 Lotto, 1 10eLotto, 2 SuperEnalotto; 3 cmdClassiciSaruni; 4
+    // cmdFormazioniNumeriche. Gives the window.
     QWidget* ApriClassici(int indice);
 
 private:
     Sessione& sessione_;
     const archives::Archivio& archivio_;
-    std::array<QPointer<QWidget>, 4> aperte_;
+    std::array<QPointer<QWidget>, 5> aperte_;
 };
 
 }  // namespace gorgo::screens
