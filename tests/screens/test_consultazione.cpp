@@ -21,76 +21,24 @@
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
 #include "screens/consultation/frm_consulta_estrazioni.h"
+#include "screens/programma_reale.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
 namespace gorgo::screens {
 namespace {
 
-template <typename T>
-T* Trova(QObject* w, const QString& nome) {
-    T* c = w->findChild<T*>(nome);
-    EXPECT_NE(c, nullptr) << nome.toStdString();
-    return c;
-}
-
-QWidget* Finestra(const QString& nome) {
-    for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->objectName() == nome && w->isVisible()) return w;
-    return nullptr;
-}
-
 QString Testo(QWidget* f, const QString& nome) { return Trova<QLabel>(f, nome)->text(); }
 QColor Sfondo(QWidget* f, const QString& nome) { return Trova<QLabel>(f, nome)->palette().color(QPalette::Window); }
 
-// GORGO_CATTURE=DIR keeps a picture of each window for a look by eye.
-void Cattura(QWidget* w, const char* nome) {
-    const QByteArray d = qgetenv("GORGO_CATTURE");
-    if (!d.isEmpty()) w->grab().save(QString::fromUtf8(d) + "/" + nome + ".png");
-}
-
-class Consultazione : public ::testing::Test {
+class Consultazione : public ProgrammaReale {
 protected:
-    void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti";
-        test::CopiaArchiviReali(*reale, c_.percorso());
-        prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
-            messaggi_.push_back(m);
-            return QMessageBox::Ok;
-        });
-        principale_ = AvviaProgramma(c_.percorso(), blocco_);
-        ASSERT_NE(principale_, nullptr);
-        principale_->show();
-    }
-    void TearDown() override {
-        principale_.reset();
-        blocco_.reset();
-        ImpostaGestoreMessaggi(prima_);
-        ApriDialogoStampa = DialogoStampaPredefinito();
-    }
     QWidget* Apri(const char* voce, const char* finestra) {
         Trova<QAction>(principale_.get(), voce)->trigger();
         QWidget* f = Finestra(finestra);
         EXPECT_NE(f, nullptr) << finestra;
         return f;
     }
-    // The next print goes to a PDF file in the test folder; its size after the print.
-    std::filesystem::path StampaSuPdf(const char* nome) {
-        const auto pdf = c_ / nome;
-        ApriDialogoStampa = [pdf](QWidget*, QPrinter& stampante) {
-            stampante.setOutputFormat(QPrinter::PdfFormat);
-            stampante.setOutputFileName(QString::fromStdString(pdf.string()));
-            return true;
-        };
-        return pdf;
-    }
-
-    test::CartellaTemporanea c_;
-    std::unique_ptr<QLockFile> blocco_;
-    std::unique_ptr<FrmMain> principale_;
-    GestoreMessaggi prima_;
-    std::vector<archives::Messaggio> messaggi_;
 };
 
 TEST_F(Consultazione, MosseVisteFamiglieEAnalisi) {

@@ -21,38 +21,18 @@
 #include "screens/builder/frm_multi_ruota.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
+#include "screens/programma_reale.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
 namespace gorgo::screens {
 namespace {
 
-template <typename T>
-T* Trova(QWidget* w, const QString& nome) {
-    T* c = w->findChild<T*>(nome);
-    EXPECT_NE(c, nullptr) << nome.toStdString();
-    return c;
-}
-
-QWidget* Finestra(const char* nome) {
-    for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->objectName() == nome && w->isVisible()) return w;
-    return nullptr;
-}
-
-class Strumenti : public ::testing::Test {
+class Strumenti : public ProgrammaReale {
 protected:
     void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti";
-        test::CopiaArchiviReali(*reale, c_.percorso());
-        prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
-            messaggi_.push_back(m);
-            return QMessageBox::Ok;
-        });
-        principale_ = AvviaProgramma(c_.percorso(), blocco_);
-        ASSERT_NE(principale_, nullptr);
-        principale_->show();
+        ProgrammaReale::SetUp();
+        if (IsSkipped() || HasFatalFailure()) return;
         QTest::mouseClick(Trova<QPushButton>(principale_.get(), "cmdGorgo"), Qt::LeftButton);
         f_ = qobject_cast<FrmCostruttore*>(Finestra("frmCostruttore"));
         ASSERT_NE(f_, nullptr);
@@ -61,11 +41,6 @@ protected:
         Trova<QDateEdit>(f_, "DTPickerDa")->setDate(QDate(2015, 12, 30));
         Trova<QDateEdit>(f_, "DTPickerA")->setDate(QDate(2025, 12, 30));
     }
-    void TearDown() override {
-        principale_.reset();
-        blocco_.reset();
-        ImpostaGestoreMessaggi(prima_);
-    }
     void Ruote(const char* prefisso, std::initializer_list<int> accese) {
         for (int i = 0; i <= 11; ++i) {
             QCheckBox* c = Trova<QCheckBox>(f_, QStringLiteral("%1_%2").arg(prefisso).arg(i));
@@ -73,16 +48,8 @@ protected:
             if (c->isChecked() != on) c->click();
         }
     }
-    void Salva(QWidget* w, const char* nome) {
-        if (const char* d = std::getenv("GORGO_SCREENSHOT_DIR")) w->grab().save(QString("%1/%2.png").arg(d, nome));
-    }
 
-    test::CartellaTemporanea c_;
-    std::unique_ptr<QLockFile> blocco_;
-    std::unique_ptr<FrmMain> principale_;
     FrmCostruttore* f_ = nullptr;
-    std::vector<archives::Messaggio> messaggi_;
-    GestoreMessaggi prima_;
 };
 
 TEST_F(Strumenti, CoperturaPerDueAmbate) {
@@ -110,22 +77,12 @@ TEST_F(Strumenti, CoperturaPerDueAmbate) {
     EXPECT_TRUE(Trova<QLabel>(w, "lblTotaleCopertura")->text().startsWith("Copertura: "));
     EXPECT_GT(Trova<QTreeWidget>(w, "lvRiepilogoCoperture")->topLevelItemCount(), 0);
     w->resize(1100, 700);
-    Salva(w, "copertura");
+    Cattura(w, "copertura");
 
     // The printed form goes through the print path into a PDF: the boxed table, two groups.
-    const char* d = std::getenv("GORGO_SCREENSHOT_DIR");
-    const QString pdf = d ? QString("%1/copertura.pdf").arg(d) : QString::fromStdString((c_ / "c.pdf").string());
-    ApriDialogoStampa = [&](QWidget*, QPrinter& stampante) {
-        stampante.setOutputFormat(QPrinter::PdfFormat);
-        stampante.setOutputFileName(pdf);
-        return true;
-    };
+    const auto pdf = StampaSuPdf("copertura.pdf");
     QTest::mouseClick(Trova<QPushButton>(w, "cmdStampa"), Qt::LeftButton);
-    ApriDialogoStampa = DialogoStampaPredefinito();
-    QProcess p;
-    p.start("pdftotext", {"-layout", pdf, "-"});
-    ASSERT_TRUE(p.waitForFinished(20000));
-    const QString testo = QString::fromUtf8(p.readAllStandardOutput()).simplified();
+    const QString testo = TestoPdf(pdf).simplified();
     EXPECT_TRUE(testo.contains("Dettaglio copertura per doppia ambata"));
     EXPECT_TRUE(testo.contains("| Data spia | Descrizione algor. | Pr.| C.| Descrizione algor. | Pr.| C.|"));
     EXPECT_TRUE(testo.contains("Riepilogo presenze degli algoritmi"));
@@ -153,8 +110,8 @@ TEST_F(Strumenti, RicercaAutomaticaBariNapoli) {
     // The user's wheels stand as they were.
     EXPECT_TRUE(Trova<QCheckBox>(f_, "chkRuota_6")->isChecked());
     EXPECT_FALSE(Trova<QCheckBox>(f_, "chkRuota_2")->isChecked());
-    Salva(m, "multiruota");
-    Salva(f_, "costruttore");
+    Cattura(m, "multiruota");
+    Cattura(f_, "costruttore");
 }
 
 }  // namespace

@@ -30,74 +30,38 @@
 #include "screens/common/stampa.h"
 #include "screens/precursors/frm_precursori_tordelli.h"
 #include "screens/precursors/frm_precursori_tordelli_gruppi.h"
+#include "screens/programma_reale.h"
 #include "support/archivi_reali.h"
 #include "support/cartelle.h"
 
 namespace gorgo::screens {
 namespace {
 
-template <typename T>
-T* Cerca(QWidget* w, const QString& nome) {
-    T* c = w->findChild<T*>(nome);
-    EXPECT_NE(c, nullptr) << nome.toStdString();
-    return c;
-}
-
-QWidget* Finestra(const QString& nome) {
-    for (QWidget* w : QApplication::topLevelWidgets())
-        if (w->objectName() == nome && w->isVisible()) return w;
-    return nullptr;
-}
-
-class Precursori : public ::testing::Test {
+class Precursori : public ProgrammaReale {
 protected:
-    void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti";
-        test::CopiaArchiviReali(*reale, c_.percorso());
-        prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
-            messaggi_.push_back(m);
-            return QMessageBox::Yes;
-        });
-        principale_ = AvviaProgramma(c_.percorso(), blocco_);
-        ASSERT_NE(principale_, nullptr);
-        principale_->show();
-    }
-    void TearDown() override {
-        principale_.reset();
-        blocco_.reset();
-        ImpostaGestoreMessaggi(prima_);
-        ApriDialogoStampa = DialogoStampaPredefinito();
-        ScegliFileReport = SceltaFileReportPredefinita();
-    }
+    QMessageBox::StandardButton Risposta() const override { return QMessageBox::Yes; }
     bool Calcola(FrmPrecursoriTordelli* f) {
         QSignalSpy fine(f, &FrmPrecursoriTordelli::analisiTerminata);
-        QTest::mouseClick(Cerca<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
+        QTest::mouseClick(Trova<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
         return fine.wait(60000);
     }
-
-    test::CartellaTemporanea c_;
-    std::unique_ptr<QLockFile> blocco_;
-    std::unique_ptr<FrmMain> principale_;
-    std::vector<archives::Messaggio> messaggi_;
-    GestoreMessaggi prima_;
 };
 
 TEST_F(Precursori, ClassiciDalPannelloComeIlMotore) {
-    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
     QWidget* scelta = Finestra("frmSceltaPrecursori");
     ASSERT_NE(scelta, nullptr);
-    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdClassici_0"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(scelta, "cmdClassici_0"), Qt::LeftButton);
     auto* f = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriTordelli"));
     ASSERT_NE(f, nullptr);
     // A second click brings the same window forward.
-    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdClassici_0"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(scelta, "cmdClassici_0"), Qt::LeftButton);
     int aperte = 0;
     for (QWidget* w : QApplication::topLevelWidgets()) aperte += w->objectName() == "frmPrecursoriTordelli";
     EXPECT_EQ(aperte, 1);
 
-    Cerca<QDateEdit>(f, "DTPickerDa")->setDate(QDate(2010, 12, 30));
-    Cerca<QComboBox>(f, "cboSceltaelaborazione")->setCurrentIndex(1);
+    Trova<QDateEdit>(f, "DTPickerDa")->setDate(QDate(2010, 12, 30));
+    Trova<QComboBox>(f, "cboSceltaelaborazione")->setCurrentIndex(1);
     ASSERT_TRUE(Calcola(f));
     EXPECT_TRUE(messaggi_.empty()) << messaggi_.front().testo;
 
@@ -110,8 +74,8 @@ TEST_F(Precursori, ClassiciDalPannelloComeIlMotore) {
     p.sorte = precursors::Sorte::Ambi;
     const precursors::EsitoPrecursori e =
         precursors::AnalisiPrecursori(p, precursors::FonteEstrazioni::Lotto(*storia, 1));
-    QTreeWidget* l0 = Cerca<QTreeWidget>(f, "ListView_0");
-    QTreeWidget* l1 = Cerca<QTreeWidget>(f, "ListView_1");
+    QTreeWidget* l0 = Trova<QTreeWidget>(f, "ListView_0");
+    QTreeWidget* l1 = Trova<QTreeWidget>(f, "ListView_1");
     ASSERT_EQ(l0->topLevelItemCount(), static_cast<int>(e.lista.size()));
     ASSERT_EQ(l1->topLevelItemCount(), static_cast<int>(e.presenti.size()));
     ASSERT_FALSE(e.presenti.empty());
@@ -128,84 +92,71 @@ TEST_F(Precursori, ClassiciDalPannelloComeIlMotore) {
         EXPECT_TRUE(proposto.endsWith("Precursori_Bari.txt")) << proposto.toStdString();
         return file;
     };
-    QTest::mouseClick(Cerca<QPushButton>(f, "cmdPrintToFile"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdPrintToFile"), Qt::LeftButton);
     QFile letto(file);
     ASSERT_TRUE(letto.open(QIODevice::ReadOnly));
     const QString testo = QString::fromLatin1(letto.readAll());
     EXPECT_TRUE(testo.contains("La SCIA INVERSA DEI PRECURSORI da un'idea di Sergio Tordelli\r\nRuota di Bari\r\n"));
     EXPECT_TRUE(testo.contains(QString::fromStdString(e.lista[0].testo[2])));
-    const QString pdf = QString::fromStdString((c_ / "precursori.pdf").string());
-    ApriDialogoStampa = [&](QWidget*, QPrinter& stampante) {
-        stampante.setOutputFormat(QPrinter::PdfFormat);
-        stampante.setOutputFileName(pdf);
-        return true;
-    };
-    QTest::mouseClick(Cerca<QPushButton>(f, "cmdStampa"), Qt::LeftButton);
-    QProcess pdftotext;
-    pdftotext.start("pdftotext", {"-layout", pdf, "-"});
-    ASSERT_TRUE(pdftotext.waitForFinished(20000));
-    const QString stampato = QString::fromUtf8(pdftotext.readAllStandardOutput()).simplified();
+    const auto pdf = StampaSuPdf("precursori.pdf");
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdStampa"), Qt::LeftButton);
+    const QString stampato = TestoPdf(pdf).simplified();
     EXPECT_TRUE(stampato.contains("Ambo Precursori presenti Rit.sto Rit.att Pres. %"));
     EXPECT_TRUE(stampato.contains(QString::fromStdString(e.presenti[0].testo[1]).simplified()));
-    if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty()) {
-        QFile::remove(dove + "/precursori.pdf");
-        QFile::copy(pdf, dove + "/precursori.pdf");
-        f->grab().save(dove + "/precursori.png");
-    }
+    Cattura(f, "precursori");
 }
 
 TEST_F(Precursori, SaruniConAmbiPrecursoriEPrevisione) {
-    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
     QWidget* scelta = Finestra("frmSceltaPrecursori");
     ASSERT_NE(scelta, nullptr);
-    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdClassiciSaruni"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(scelta, "cmdClassiciSaruni"), Qt::LeftButton);
     auto* f = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriSaruni"));
     ASSERT_NE(f, nullptr);
-    Cerca<QRadioButton>(f, "optPeriodo_1")->setChecked(true);
-    Cerca<QLineEdit>(f, "txtAnni")->setText("10");
-    Cerca<QComboBox>(f, "cboSceltaTipoPrecursori")->setCurrentIndex(1);
-    Cerca<QCheckBox>(f, "chkPosDet")->setChecked(true);
-    Cerca<QCheckBox>(f, "chkPosizione_1")->setChecked(true);
-    Cerca<QCheckBox>(f, "chkPosizione_3")->setChecked(true);
-    Cerca<QCheckBox>(f, "chkAmbiAdiacenti")->setChecked(true);
+    Trova<QRadioButton>(f, "optPeriodo_1")->setChecked(true);
+    Trova<QLineEdit>(f, "txtAnni")->setText("10");
+    Trova<QComboBox>(f, "cboSceltaTipoPrecursori")->setCurrentIndex(1);
+    Trova<QCheckBox>(f, "chkPosDet")->setChecked(true);
+    Trova<QCheckBox>(f, "chkPosizione_1")->setChecked(true);
+    Trova<QCheckBox>(f, "chkPosizione_3")->setChecked(true);
+    Trova<QCheckBox>(f, "chkAmbiAdiacenti")->setChecked(true);
     ASSERT_TRUE(Calcola(f));
     ASSERT_EQ(messaggi_.size(), 1u);
     EXPECT_EQ(messaggi_[0].testo, "Le posizioni inserite non sono compatibili con gli ambi uniti!");
-    Cerca<QCheckBox>(f, "chkPosizione_2")->setChecked(true);
+    Trova<QCheckBox>(f, "chkPosizione_2")->setChecked(true);
     ASSERT_TRUE(Calcola(f));
     ASSERT_EQ(messaggi_.size(), 1u);
-    EXPECT_EQ(Cerca<QDateEdit>(f, "DTPickerDa")->date().year(), Cerca<QDateEdit>(f, "DTPickerA")->date().year() - 10);
-    QTreeWidget* l0 = Cerca<QTreeWidget>(f, "ListView_0");
+    EXPECT_EQ(Trova<QDateEdit>(f, "DTPickerDa")->date().year(), Trova<QDateEdit>(f, "DTPickerA")->date().year() - 10);
+    QTreeWidget* l0 = Trova<QTreeWidget>(f, "ListView_0");
     ASSERT_GT(l0->topLevelItemCount(), 0);
     EXPECT_TRUE(l0->topLevelItem(0)->text(2).contains(", ")) << l0->topLevelItem(0)->text(2).toStdString();
     const precursors::EsitoPrecursori& e = f->Esito();
     for (int i = 0; i < l0->topLevelItemCount(); ++i)
         ASSERT_EQ(l0->topLevelItem(i)->text(2).toStdString(), e.lista[static_cast<size_t>(i)].testo[2]);
     // A row of the forecast opens the panel with its number.
-    QTreeWidget* l1 = Cerca<QTreeWidget>(f, "ListView_1");
+    QTreeWidget* l1 = Trova<QTreeWidget>(f, "ListView_1");
     ASSERT_GT(l1->topLevelItemCount(), 0);
     emit l1->itemClicked(l1->topLevelItem(0), 0);
-    EXPECT_EQ(Cerca<QLineEdit>(f, "txtNum_0")->text(), l1->topLevelItem(0)->text(0).trimmed());
-    QTest::mouseClick(Cerca<QPushButton>(f, "cmdPrevisione"), Qt::LeftButton);
-    EXPECT_EQ(Cerca<QTreeWidget>(f, "lstPrevisioni")->topLevelItemCount(), 89);
-    if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty())
-        f->grab().save(dove + "/saruni.png");
+    EXPECT_EQ(Trova<QLineEdit>(f, "txtNum_0")->text(), l1->topLevelItem(0)->text(0).trimmed());
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdPrevisione"), Qt::LeftButton);
+    EXPECT_EQ(Trova<QTreeWidget>(f, "lstPrevisioni")->topLevelItemCount(), 89);
+    Cattura(f, "saruni");
 }
 
 TEST_F(Precursori, AltriGiochiDalPannello) {
-    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "Command1"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(principale_.get(), "Command1"), Qt::LeftButton);
     auto* s = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriTordelliSuper"));
     ASSERT_NE(s, nullptr);
     EXPECT_EQ(s->findChild<QCheckBox*>("chkRuota_1"), nullptr);
     ASSERT_TRUE(Calcola(s));
-    EXPECT_GT(Cerca<QTreeWidget>(s, "ListView_0")->topLevelItemCount(), 80);
-    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdNuovaProcedura"), Qt::LeftButton);
+    EXPECT_GT(Trova<QTreeWidget>(s, "ListView_0")->topLevelItemCount(), 80);
+    QTest::mouseClick(Trova<QPushButton>(principale_.get(), "cmdNuovaProcedura"), Qt::LeftButton);
     auto* d = qobject_cast<FrmPrecursoriTordelli*>(Finestra("frmPrecursoriTordelli10eLotto"));
     ASSERT_NE(d, nullptr);
     // Formations typed in the panel, one shorter than the minimum: asked, answered yes.
-    Cerca<QCheckBox>(d, "chkInserimentoManuale")->setChecked(true);
+    Trova<QCheckBox>(d, "chkInserimentoManuale")->setChecked(true);
     d->findChild<QPlainTextEdit*>("txtGruppi")->setPlainText("1 2 3\n4 5\n7");
-    QTest::mouseClick(Cerca<QPushButton>(d, "cmdInserisci"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(d, "cmdInserisci"), Qt::LeftButton);
     ASSERT_EQ(messaggi_.size(), 1u);
     EXPECT_EQ(messaggi_[0].titolo, "Validazione formazioni");
     ASSERT_TRUE(Calcola(d));
@@ -216,8 +167,8 @@ TEST_F(Precursori, AltriGiochiDalPannello) {
     if (d->InElaborazione()) {
         ASSERT_TRUE(fine.wait(60000));
     }
-    EXPECT_EQ(Cerca<QTreeWidget>(d, "ListView_0")->topLevelItemCount(), 2);
-    EXPECT_EQ(Cerca<QTreeWidget>(d, "ListView_0")->headerItem()->text(0), QStringLiteral("Formazione"));
+    EXPECT_EQ(Trova<QTreeWidget>(d, "ListView_0")->topLevelItemCount(), 2);
+    EXPECT_EQ(Trova<QTreeWidget>(d, "ListView_0")->headerItem()->text(0), QStringLiteral("Formazione"));
 }
 
 TEST_F(Precursori, FormazioniNumericheDallaSceltaComeIlMotore) {
@@ -225,30 +176,30 @@ TEST_F(Precursori, FormazioniNumericheDallaSceltaComeIlMotore) {
         std::ofstream f(c_ / "Formazioni.txt", std::ios::binary);
         f << "[Cadenze]\r\n10.20.30.40.50.60.70.80.90\r\n1.11.21.31.41.51.61.71.81\r\n";
     }
-    QTest::mouseClick(Cerca<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(principale_.get(), "cmdPrecursori"), Qt::LeftButton);
     QWidget* scelta = Finestra("frmSceltaPrecursori");
     ASSERT_NE(scelta, nullptr);
-    QTest::mouseClick(Cerca<QPushButton>(scelta, "cmdFormazioniNumeriche"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(scelta, "cmdFormazioniNumeriche"), Qt::LeftButton);
     auto* f = qobject_cast<FrmPrecursoriTordelliGruppi*>(Finestra("frmPrecursoriTordelliGruppi"));
     ASSERT_NE(f, nullptr);
-    QTreeWidget* gruppi = Cerca<QTreeWidget>(f, "ListView_2");
+    QTreeWidget* gruppi = Trova<QTreeWidget>(f, "ListView_2");
     ASSERT_EQ(gruppi->topLevelItemCount(), 4);
     EXPECT_EQ(gruppi->topLevelItem(3)->text(0), QStringLiteral("Cadenze"));
     EXPECT_EQ(gruppi->topLevelItem(3)->text(3), QStringLiteral("  9"));
     // Groups of one number ticked by size, then Cadenze by hand.
-    Cerca<QLineEdit>(f, "txtElementi")->setText("1");
-    QTest::mouseClick(Cerca<QPushButton>(f, "cmdAggiorna"), Qt::LeftButton);
+    Trova<QLineEdit>(f, "txtElementi")->setText("1");
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdAggiorna"), Qt::LeftButton);
     gruppi->topLevelItem(3)->setCheckState(0, Qt::Checked);
-    EXPECT_EQ(Cerca<QLabel>(f, "lblFormazioniSelezionate")->text(), QStringLiteral("Formazioni selezionate: 2"));
-    Cerca<QComboBox>(f, "cboRisultati")->setCurrentIndex(2);
+    EXPECT_EQ(Trova<QLabel>(f, "lblFormazioniSelezionate")->text(), QStringLiteral("Formazioni selezionate: 2"));
+    Trova<QComboBox>(f, "cboRisultati")->setCurrentIndex(2);
     QSignalSpy fine(f, &FrmPrecursoriTordelliGruppi::analisiTerminata);
-    QTest::mouseClick(Cerca<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
     ASSERT_TRUE(fine.wait(60000));
     EXPECT_TRUE(messaggi_.empty()) << messaggi_.front().testo;
 
     const auto storia = principale_->programma().archivio->Storia();
     precursors::ParametriGruppi p;
-    p.Inizio = archives::ControllaData(Cerca<QDateEdit>(f, "DTPickerDa")->date().toString("dd/MM/yyyy").toStdString(),
+    p.Inizio = archives::ControllaData(Trova<QDateEdit>(f, "DTPickerDa")->date().toString("dd/MM/yyyy").toStdString(),
                                        *storia, false)
                    .IndiceTrovato;
     p.Fine = storia->NumeroEstrazioni() - 6;
@@ -259,15 +210,15 @@ TEST_F(Precursori, FormazioniNumericheDallaSceltaComeIlMotore) {
         precursors::CaricaLibreria("[Cadenze]\r\n10.20.30.40.50.60.70.80.90\r\n1.11.21.31.41.51.61.71.81\r\n");
     const precursors::EsitoGruppi e =
         precursors::AnalisiGruppi(p, precursors::FonteEstrazioni::Lotto(*storia, 1), lib.gruppi);
-    QTreeWidget* l0 = Cerca<QTreeWidget>(f, "ListView_0");
+    QTreeWidget* l0 = Trova<QTreeWidget>(f, "ListView_0");
     ASSERT_EQ(l0->topLevelItemCount(), static_cast<int>(e.lista.size()));
     ASSERT_EQ(e.lista.size(), 270u);
     for (int i = 0; i < l0->topLevelItemCount(); ++i)
         for (int c = 0; c < 6; ++c)
             ASSERT_EQ(l0->topLevelItem(i)->text(c).toStdString(),
                       e.lista[static_cast<size_t>(i)].testo[static_cast<size_t>(c)]);
-    EXPECT_EQ(Cerca<QTreeWidget>(f, "ListView_1")->topLevelItemCount(), static_cast<int>(e.formazioni.size()));
-    EXPECT_EQ(Cerca<QTreeWidget>(f, "ListView_3")->topLevelItemCount(), static_cast<int>(e.presenti.size()));
+    EXPECT_EQ(Trova<QTreeWidget>(f, "ListView_1")->topLevelItemCount(), static_cast<int>(e.formazioni.size()));
+    EXPECT_EQ(Trova<QTreeWidget>(f, "ListView_3")->topLevelItemCount(), static_cast<int>(e.presenti.size()));
 
     // The file report.
     const QString file = QString::fromStdString((c_ / "SciaInversa_Bari.txt").string());
@@ -275,12 +226,11 @@ TEST_F(Precursori, FormazioniNumericheDallaSceltaComeIlMotore) {
         EXPECT_TRUE(proposto.endsWith("SciaInversa_Bari.txt")) << proposto.toStdString();
         return file;
     };
-    QTest::mouseClick(Cerca<QPushButton>(f, "cmdPrintToFile"), Qt::LeftButton);
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdPrintToFile"), Qt::LeftButton);
     QFile letto(file);
     ASSERT_TRUE(letto.open(QIODevice::ReadOnly));
     EXPECT_TRUE(QString::fromLatin1(letto.readAll()).contains("Ricerca di formazioni numeriche\r\nRuota di Bari"));
-    if (const QString dove = qEnvironmentVariable("GORGO_STAMPE_PNG"); !dove.isEmpty())
-        f->grab().save(dove + "/formazioni_numeriche.png");
+    Cattura(f, "formazioni_numeriche");
 
     // The file's group deleted from the menu, after the question.
     gruppi->setCurrentItem(gruppi->topLevelItem(3));
@@ -293,11 +243,11 @@ TEST_F(Precursori, FormazioniNumericheDallaSceltaComeIlMotore) {
     // A heavy run stopped from the computing window shows nothing.
     gruppi->topLevelItem(1)->setCheckState(0, Qt::Checked);
     gruppi->topLevelItem(2)->setCheckState(0, Qt::Checked);
-    Cerca<QComboBox>(f, "cboSceltaelaborazione")->setCurrentIndex(1);
-    QTest::mouseClick(Cerca<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
+    Trova<QComboBox>(f, "cboSceltaelaborazione")->setCurrentIndex(1);
+    QTest::mouseClick(Trova<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
     if (f->InElaborazione()) {
         QWidget* elaborazioni = Finestra("frmElaborazioni");
-        if (elaborazioni) QTest::mouseClick(Cerca<QPushButton>(elaborazioni, "cmdStop"), Qt::LeftButton);
+        if (elaborazioni) QTest::mouseClick(Trova<QPushButton>(elaborazioni, "cmdStop"), Qt::LeftButton);
         ASSERT_TRUE(fine.wait(60000));
         if (elaborazioni) {
             EXPECT_EQ(l0->topLevelItemCount(), 0);

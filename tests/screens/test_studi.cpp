@@ -1,6 +1,6 @@
 // The four study windows on a copy of the real archives, opened from the main panel and the
 // Utility menu: a run of each, the summary of all wheels and the 4005 ambi on the computing
-// window, a printed page. GORGO_SCHERMATE=DIR keeps a picture of each window there.
+// window, a printed page. GORGO_CATTURE=DIR keeps a picture of each window there.
 
 #include <gtest/gtest.h>
 
@@ -21,6 +21,7 @@
 #include "app/avvio.h"
 #include "screens/common/messaggi.h"
 #include "screens/common/stampa.h"
+#include "screens/programma_reale.h"
 #include "screens/studies/frm_numeri_simpatici.h"
 #include "screens/studies/frm_punti_incogniti.h"
 #include "support/archivi_reali.h"
@@ -29,54 +30,14 @@
 namespace gorgo::screens {
 namespace {
 
-template <typename T>
-T* Trova(QWidget* w, const QString& nome) {
-    T* c = w->findChild<T*>(nome);
-    EXPECT_NE(c, nullptr) << nome.toStdString();
-    return c;
-}
-
-class Studi : public ::testing::Test {
+class Studi : public ProgrammaReale {
 protected:
-    void SetUp() override {
-        auto reale = test::CartellaReale();
-        if (!reale) GTEST_SKIP() << "archivi reali assenti";
-        test::CopiaArchiviReali(*reale, c_.percorso());
-        prima_ = ImpostaGestoreMessaggi([this](const archives::Messaggio& m, QMessageBox::StandardButtons) {
-            messaggi_.push_back(m);
-            return QMessageBox::Ok;
-        });
-        principale_ = AvviaProgramma(c_.percorso(), blocco_);
-        ASSERT_NE(principale_, nullptr);
-        principale_->show();
-    }
-    void TearDown() override {
-        principale_.reset();
-        blocco_.reset();
-        ImpostaGestoreMessaggi(prima_);
-        ApriDialogoStampa = DialogoStampaPredefinito();
-    }
-    QWidget* Finestra(const char* nome) {
-        for (QWidget* w : QApplication::topLevelWidgets())
-            if (w->objectName() == nome && w->isVisible()) return w;
-        return nullptr;
-    }
     void Menu(const char* nome) {
         QAction* a = principale_->findChild<QAction*>(nome);
         ASSERT_NE(a, nullptr) << nome;
         ASSERT_TRUE(a->isEnabled()) << nome;
         a->trigger();
     }
-    void Fotografa(QWidget* w) {
-        if (const char* d = std::getenv("GORGO_SCHERMATE"))
-            w->grab().save(QString::fromUtf8(d) + "/" + w->objectName() + ".png");
-    }
-
-    test::CartellaTemporanea c_;
-    std::unique_ptr<QLockFile> blocco_;
-    std::unique_ptr<FrmMain> principale_;
-    std::vector<archives::Messaggio> messaggi_;
-    GestoreMessaggi prima_;
 };
 
 TEST_F(Studi, PuntiIncognitiDalPannello) {
@@ -97,21 +58,12 @@ TEST_F(Studi, PuntiIncognitiDalPannello) {
     QTest::mouseClick(Trova<QPushButton>(f, "cmdCalcola"), Qt::LeftButton);
     EXPECT_TRUE(Trova<QLabel>(f, "lblDescrizione")->text().startsWith("Giocate vincenti entro 10 colpi: "));
     EXPECT_GT(Trova<QTreeWidget>(f, "ListViewStorico")->topLevelItemCount(), 2);
-    Fotografa(f);
+    Cattura(f, f->objectName());
     // The printed table of the historic check, as a PDF.
-    const QString pdf = QString::fromStdString((c_ / "storica.pdf").string());
-    ApriDialogoStampa = [&](QWidget*, QPrinter& stampante) {
-        stampante.setOutputFormat(QPrinter::PdfFormat);
-        stampante.setOutputFileName(pdf);
-        return true;
-    };
+    const auto pdf = StampaSuPdf("storica.pdf");
     QTest::mouseClick(Trova<QPushButton>(f, "cmdStampaRisultati_1"), Qt::LeftButton);
-    QProcess p;
-    p.start("pdftotext", {"-layout", pdf, "-"});
-    ASSERT_TRUE(p.waitForFinished(20000));
-    const QString testo = QString::fromUtf8(p.readAllStandardOutput());
+    const QString testo = TestoPdf(pdf);
     EXPECT_TRUE(testo.contains("I punti incogniti ruota Napoli - Verifica storica dal")) << testo.toStdString();
-    if (const char* d = std::getenv("GORGO_SCHERMATE")) QFile::copy(pdf, QString::fromUtf8(d) + "/storica.pdf");
     // The summary of all wheels on the computing window.
     QSignalSpy fine(f, &FrmPuntiIncogniti::riepilogoTerminato);
     QTest::mouseClick(Trova<QPushButton>(f, "cmdCalcolaTutte"), Qt::LeftButton);
@@ -140,7 +92,7 @@ TEST_F(Studi, QuaternaMultiruotaEUtilityDalMenu) {
     ASSERT_TRUE(fine.wait(60000));
     EXPECT_GT(Trova<QTreeWidget>(q, "ListViewTutti")->topLevelItemCount(), 4005);
     EXPECT_EQ(Trova<QLabel>(q, "lblAnalizzate")->text(), "4005 ambi analizzati su 4005");
-    Fotografa(q);
+    Cattura(q, q->objectName());
 
     Menu("mnuAmbateAmbiTerniMulti");
     QWidget* m = Finestra("frmAmbateAmbiTerniMulti");
@@ -152,7 +104,7 @@ TEST_F(Studi, QuaternaMultiruotaEUtilityDalMenu) {
     EXPECT_TRUE(Trova<QLabel>(m, "lblRuotaMigliore")->text().startsWith("Miglior ruota ("));
     QTest::mouseClick(l1->viewport(), Qt::LeftButton, {}, l1->visualItemRect(l1->topLevelItem(0)).center());
     EXPECT_GT(Trova<QTreeWidget>(m, "ListViewNumeri")->topLevelItemCount(), 0);
-    Fotografa(m);
+    Cattura(m, m->objectName());
 
     Menu("mnuUtilitySommaCinquine");
     QWidget* u = Finestra("frmUtility");
@@ -165,7 +117,7 @@ TEST_F(Studi, QuaternaMultiruotaEUtilityDalMenu) {
     Trova<QLineEdit>(u, "txtSomma")->setText("95");
     QTest::mouseClick(Trova<QPushButton>(u, "cmdSomma"), Qt::LeftButton);
     EXPECT_EQ(messaggi_.back().testo, "Numero errato!");
-    Fotografa(u);
+    Cattura(u, u->objectName());
 }
 
 }  // namespace
