@@ -24,14 +24,21 @@ constexpr size_t N91 = 91;
 
 std::string Destra(long long v, int larghezza) { return config::AllineaDestra(std::to_string(v), larghezza); }
 
+}  // namespace
+
+int32_t InizioDellaRuota(const FonteEstrazioni& fonte, int32_t inizio, archives::Messaggio& avviso) {
+    if (fonte.gioco() != Gioco::Lotto || fonte.ruota() != archives::RuotaNazionale ||
+        inizio >= archives::PrimaEstrazioneNazionale)
+        return inizio;
+    avviso = {AvvisoNazionale(), "Attenzione", Icona::Esclamazione};
+    return archives::PrimaEstrazioneNazionale;
+}
+
+namespace {
+
 // The Nazionale rule, the three main boxes; empty errore when all pass.
 bool ValidaComuni(const ParametriPrecursori& p, const FonteEstrazioni& fonte, EsitoPrecursori& e) {
-    e.inizio = p.Inizio;
-    if (fonte.gioco() == Gioco::Lotto && fonte.ruota() == archives::RuotaNazionale &&
-        e.inizio < archives::PrimaEstrazioneNazionale) {
-        e.avviso = {AvvisoNazionale(), "Attenzione", Icona::Esclamazione};
-        e.inizio = archives::PrimaEstrazioneNazionale;
-    }
+    e.inizio = InizioDellaRuota(fonte, p.Inizio, e.avviso);
     auto rifiuta = [&](const char* testo, const char* focus) {
         e.errore = {testo, "Errore", Icona::Esclamazione};
         e.focus = focus;

@@ -146,6 +146,8 @@ Formazioni TerzineIntegrali();
 // Shared texts.
 inline constexpr std::string_view TitoloPrecursori = "La SCIA INVERSA DEI PRECURSORI da un'idea di Sergio Tordelli";
 std::string AvvisoNazionale();
+// The start of the walk: on the Nazionale not before its first draw, with the warning when moved.
+int32_t InizioDellaRuota(const FonteEstrazioni& fonte, int32_t inizio, archives::Messaggio& avviso);
 // "Ruota di Bari", "Superenalotto", "10eLotto".
 std::string SecondaRigaReport(const FonteEstrazioni& fonte);
 // "Precursori_Bari.txt" and the others.

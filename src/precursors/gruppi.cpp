@@ -82,12 +82,7 @@ std::string TestoElemento(const std::vector<int>& elemento) {
 EsitoGruppi AnalisiGruppi(const ParametriGruppi& p, const FonteEstrazioni& f, const std::vector<GruppoFormazioni>& lib,
                           const Avanzamento& av) {
     EsitoGruppi e;
-    e.inizio = p.Inizio;
-    if (f.gioco() == Gioco::Lotto && f.ruota() == archives::RuotaNazionale &&
-        e.inizio < archives::PrimaEstrazioneNazionale) {
-        e.avviso = {AvvisoNazionale(), "Attenzione", Icona::Esclamazione};
-        e.inizio = archives::PrimaEstrazioneNazionale;
-    }
+    e.inizio = InizioDellaRuota(f, p.Inizio, e.avviso);
     auto rifiuta = [&](const char* testo, const char* focus) {
         e.errore = {testo, "Errore", Icona::Esclamazione};
         e.focus = focus;
